@@ -1,0 +1,34 @@
+# What every library of the project has in common.
+include(GNUInstallDirs)
+
+# Headers are reached as <kt/rtl/Collections.h> both here and after installation: in the build tree `kt` is a link to src/.
+set(KT_INCLUDE_ROOT ${PROJECT_BINARY_DIR}/include)
+file(MAKE_DIRECTORY ${KT_INCLUDE_ROOT})
+file(CREATE_LINK ${PROJECT_SOURCE_DIR}/src ${KT_INCLUDE_ROOT}/kt SYMBOLIC COPY_ON_ERROR)
+
+# Options that only the project's own code is compiled with; they never reach people who embed the package.
+add_library(kt_own_options INTERFACE)
+target_compile_options(
+  kt_own_options
+  INTERFACE
+    $<$<CXX_COMPILER_ID:GNU,Clang>:-Wall;-Wextra;-Wpedantic;-Wshadow;-Wnon-virtual-dtor;-Woverloaded-virtual;-Wimplicit-fallthrough>
+    $<$<AND:$<BOOL:${KT_WARNINGS_AS_ERRORS}>,$<CXX_COMPILER_ID:GNU,Clang>>:-Werror>)
+target_compile_definitions(kt_own_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
+
+# kt_library(<name> SOURCES ... LINKS ...): a library exported as kt::<name>.
+function(kt_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(kt_${name} ${ARG_SOURCES})
+  add_library(kt::${name} ALIAS kt_${name})
+  set_target_properties(
+    kt_${name}
+    PROPERTIES EXPORT_NAME ${name}
+               VERSION ${PROJECT_VERSION}
+               SOVERSION ${PROJECT_VERSION_MAJOR}
+               POSITION_INDEPENDENT_CODE ON)
+  target_compile_features(kt_${name} PUBLIC cxx_std_20)
+  target_include_directories(kt_${name} PUBLIC $<BUILD_INTERFACE:${KT_INCLUDE_ROOT}>
+                                               $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+  target_link_libraries(kt_${name} PUBLIC ${ARG_LINKS} PRIVATE $<BUILD_INTERFACE:kt_own_options>)
+  set_property(GLOBAL APPEND PROPERTY KT_LIBRARIES kt_${name})
+endfunction()
