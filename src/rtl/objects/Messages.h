@@ -48,6 +48,14 @@ inline constexpr QLatin1StringView SCharExpected{"'%s' expected"};
 inline constexpr QLatin1StringView SSymbolExpected{"%s expected"};
 inline constexpr QLatin1StringView SInvalidBinary{"Invalid binary value"};
 inline constexpr QLatin1StringView SInvalidString{"Invalid string constant"};
+inline constexpr QLatin1StringView SInvalidCharacter{"Invalid character"};
+inline constexpr QLatin1StringView SInvalidUtf8{"Invalid UTF-8 text"};
+inline constexpr QLatin1StringView SInvalidUtf16{"Invalid UTF-16 text"};
+inline constexpr QLatin1StringView SNestingTooDeep{"Nesting deeper than %d levels"};
+inline constexpr QLatin1StringView SDataAfterForm{"Unexpected data after the end of the form"};
+inline constexpr QLatin1StringView SNameTooLong{"The name '%s' is too long to be stored"};
+inline constexpr QLatin1StringView SNameNotStorable{"The name '%s' cannot be stored"};
+inline constexpr QLatin1StringView SNameNotText{"The name '%s' cannot be written as text"};
 
 // Conversions.
 inline constexpr QLatin1StringView SInvalidInteger{"'%s' is not a valid integer value"};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QByteArrayView>
+#include <QString>
+
+namespace kt {
+
+/// How text with bytes from 128 up is read where a form does not say: old forms hold text in their author's 8-bit
+/// encoding.
+enum TEightBitEncoding : quint8 {
+  eeWindows1252,  ///< Western European; its five unassigned bytes become the C1 control of the same number, so nothing
+                  ///< is lost.
+  eeLatin1,       ///< Byte n is character n.
+  eeUtf8,         ///< UTF-8; anything else is an error.
+};
+
+/// Decodes into `text`, whose memory is used again. False when the bytes are not valid in that encoding.
+bool DecodeEightBit(QByteArrayView bytes, TEightBitEncoding encoding, QString& text);
+
+/// The offset of the first byte that is no well-formed UTF-8 (overlong forms and surrogates are not), or -1.
+qsizetype FindInvalidUtf8(QByteArrayView bytes);
+
+/// Decodes the name of a class, object or property: UTF-8 when it is, else by `encoding` (with `eeUtf8`: Windows-1252).
+void DecodeName(QByteArrayView bytes, TEightBitEncoding encoding, QString& text);
+
+}  // namespace kt

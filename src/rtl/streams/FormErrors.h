@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QLatin1StringView>
+#include <QString>
+#include <QStringView>
+
+/// How the errors of the form formats are worded: what is wrong, then where.
+namespace kt {
+
+/// `pattern` with its first `%s` or `%d` replaced.
+QString FillFormText(QLatin1StringView pattern, QStringView argument);
+
+/// "Stream read error at offset 123 (Form1.Panel1.Caption)"; the path is left out when it is empty.
+QString AtOffset(const QString& what, qint64 offset, const QString& path);
+
+/// "Identifier expected on line 3, column 7"; both are counted from 1.
+QString OnLine(const QString& what, qint64 line, qint64 column);
+
+}  // namespace kt
