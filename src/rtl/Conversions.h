@@ -1,6 +1,7 @@
 #pragma once
 
 /// Numbers, dates and texts: their conversions, comparisons and formats.
-#include "kt/rtl/conversions/FloatText.h"
+
 #include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/conversions/Numbers.h"
 #include "kt/rtl/conversions/Text.h"
