@@ -124,8 +124,8 @@ void ReadTimes(TFormatSettings& settings, const QLocale& locale) {
   settings.TimeSeparator = time.Separator.isEmpty() ? QStringLiteral(":") : time.Separator;
   settings.ShortTimeFormat = TimePattern(time, false);
   settings.LongTimeFormat = TimePattern(time, true);
-  settings.TimeAMString = locale.amText();
-  settings.TimePMString = locale.pmText();
+  settings.TimeAMString = locale.amText().isEmpty() ? QStringLiteral("AM") : locale.amText();
+  settings.TimePMString = locale.pmText().isEmpty() ? QStringLiteral("PM") : locale.pmText();
 }
 
 struct TLocaleState {
