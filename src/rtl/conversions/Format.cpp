@@ -1,6 +1,7 @@
 #include "kt/rtl/conversions/Format.h"
 
 #include "kt/rtl/conversions/FloatText.h"
+#include "kt/rtl/conversions/Variant.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Messages.h"
 
@@ -188,6 +189,8 @@ QString TFormatter::PlainText(const TPlaceholder& place, const TVarRec& arg) con
     text = arg.AsText().toString();
   else if (arg.Kind() == vtChar)
     text = arg.AsChar();
+  else if (arg.Kind() == vtVariant)
+    text = VarToStr(arg.AsVariant());
   else
     Fail(SInvalidFormat);
   if (place.Precision >= 0) text.truncate(place.Precision);
