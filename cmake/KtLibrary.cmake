@@ -1,5 +1,8 @@
 # What every library of the project has in common.
 include(GNUInstallDirs)
+if(PROJECT_IS_TOP_LEVEL)
+  include(KtHeaders)
+endif()
 
 # Headers are reached as <kt/rtl/Collections.h> both here and after installation: in the build tree `kt` is a link to src/.
 set(KT_INCLUDE_ROOT ${PROJECT_BINARY_DIR}/include)
@@ -25,10 +28,14 @@ function(kt_library name)
     PROPERTIES EXPORT_NAME ${name}
                VERSION ${PROJECT_VERSION}
                SOVERSION ${PROJECT_VERSION_MAJOR}
+               DEFINE_SYMBOL "" # compiled alike for both kinds of library, so that changing the kind only links anew
                POSITION_INDEPENDENT_CODE ON)
   target_compile_features(kt_${name} PUBLIC cxx_std_20)
   target_include_directories(kt_${name} PUBLIC $<BUILD_INTERFACE:${KT_INCLUDE_ROOT}>
                                                $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
   target_link_libraries(kt_${name} PUBLIC ${ARG_LINKS} PRIVATE $<BUILD_INTERFACE:kt_own_options>)
-  set_property(GLOBAL APPEND PROPERTY KT_LIBRARIES kt_${name})
+  set_property(GLOBAL APPEND PROPERTY KT_LIBRARIES ${name})
+  if(COMMAND kt_check_headers)
+    kt_check_headers(kt_${name} ${ARG_SOURCES})
+  endif()
 endfunction()

@@ -1,0 +1,21 @@
+# The target `headers` compiles every public header alone, so that including one never needs another one before it.
+add_custom_target(headers)
+
+# kt_check_headers(<library> <source>...): one generated file for each header among the sources, compiled as the library is.
+function(kt_check_headers library)
+  set(checks)
+  foreach(header IN LISTS ARGN)
+    if(NOT header MATCHES "\\.h$")
+      continue()
+    endif()
+    file(RELATIVE_PATH path ${PROJECT_SOURCE_DIR}/src ${header})
+    set(check ${PROJECT_BINARY_DIR}/headers/${path}.cpp)
+    file(GENERATE OUTPUT ${check} CONTENT "#include \"kt/${path}\"\n")
+    list(APPEND checks ${check})
+  endforeach()
+  if(checks)
+    add_library(${library}_headers OBJECT EXCLUDE_FROM_ALL ${checks})
+    target_link_libraries(${library}_headers PRIVATE ${library} kt_own_options)
+    add_dependencies(headers ${library}_headers)
+  endif()
+endfunction()

@@ -1,0 +1,13 @@
+#include <kt/rtl/objects/Exceptions.h>
+#include <kt/rtl/objects/Messages.h>
+
+#include <cstdio>
+
+int main() {
+  try {
+    throw kt::EClassNotFound(QString(kt::SClassNotFound).replace(QLatin1String("%s"), QLatin1String("TButton")));
+  } catch (const kt::EFilerError& error) {
+    std::puts(error.what());
+  }
+  return 0;
+}
