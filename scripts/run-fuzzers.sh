@@ -1,0 +1,33 @@
+#!/usr/bin/env bash
+# Runs every fuzz target of the fuzz build for some seconds over its corpus. New inputs stay in build/fuzz, so that the
+# corpus in the source tree holds only what somebody chose to keep. Use: scripts/run-fuzzers.sh [SECONDS]
+set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+
+export KT_FUZZ_SECONDS=${1:-8} KT_ROOT=$root
+shopt -s nullglob
+targets=("$root"/build/fuzz/bin/fuzz_*)
+if [ ${#targets[@]} -eq 0 ]; then
+  say "no fuzz target in build/fuzz/bin: nothing to run"
+  exit 0
+fi
+
+run_target() {
+  set -euo pipefail
+  local target=$1 name=${1##*/} work corpus
+  work=$KT_ROOT/build/fuzz/run/$name
+  corpus=$KT_ROOT/fuzz/corpus/$name
+  [ -d "$corpus" ] || { echo "$name: no corpus in fuzz/corpus/$name" >&2; return 1; }
+  rm -rf "$work"
+  mkdir -p "$work/found"
+  if ! "$target" -max_total_time="$KT_FUZZ_SECONDS" -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 \
+    -artifact_prefix="$work/" "$work/found" "$corpus" >"$work/log" 2>&1; then
+    tail -n 60 "$work/log" >&2
+    echo "$name failed; the input is in $work" >&2
+    return 1
+  fi
+  echo "$name: $(find "$corpus" -type f | wc -l) seeds," \
+    "$(sed -n 's/^stat::number_of_executed_units: *//p' "$work/log") runs, no fault"
+}
+export -f run_target
+printf '%s\0' "${targets[@]}" | xargs -0 -n 1 -P "$jobs" bash -c 'run_target "$1"' run_target

@@ -1,0 +1,12 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds the debug preset (assertions on) and runs the tests.
+# Use: ./test.sh [CTEST ARGUMENT]...    for example ./test.sh -R Strings.   KT_NO_INSTALL=1 installs nothing.
+set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/scripts/common.sh"
+
+install_missing "${build_packages[@]}"
+say "Building the tests (debug) ..."
+configure debug
+build debug
+say "Running the tests ..."
+run_tests debug "$@"
