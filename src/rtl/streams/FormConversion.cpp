@@ -55,6 +55,15 @@ void ParseDevice(TParse parse, QIODevice& device, IFormSink& sink, const TFormOp
   parse(reader, sink, options);
 }
 
+QString RootClassName(const QByteArray& binary) {
+  TBinaryReader reader(binary);
+  TFilerFlags flags;
+  int childPos = 0;
+  reader.ReadSignature();
+  reader.ReadPrefix(flags, childPos);
+  return reader.ReadShortString();
+}
+
 /// The text of the events that `feed` sends.
 template <typename TFeed>
 QByteArray MakeText(const TFormOptions& options, TFeed feed) {
@@ -75,23 +84,8 @@ QByteArray MakeBinary(const QByteArray& text, const TFormOptions& options) {
   return binary;
 }
 
-QString RootClassName(const QByteArray& binary) {
-  TBinaryReader reader(binary);
-  TFilerFlags flags;
-  int childPos = 0;
-  reader.ReadSignature();
-  reader.ReadPrefix(flags, childPos);
-  return reader.ReadShortString();
-}
-
 QByteArray MakeResource(const QByteArray& text, const TFormOptions& options) {
-  const QByteArray binary = MakeBinary(text, options);
-  QByteArray resource;
-  TBinaryWriter writer(resource);
-  writer.WriteResourceHeader(RootClassName(binary), binary.size());
-  writer.WriteRaw(binary);
-  writer.Flush();
-  return resource;
+  return WithResourceHeader(MakeBinary(text, options));
 }
 
 QByteArray ReadAll(QIODevice& device) { return device.readAll(); }
@@ -155,6 +149,15 @@ void ObjectResourceToText(const QByteArray& resource, QByteArray& text, const TF
 
 void ObjectResourceToText(QIODevice& resource, QIODevice& text, const TFormOptions& options) {
   WriteAll(text, MakeText(options, [&](IFormSink& sink) { ParseDevice(ParseResource, resource, sink, options); }));
+}
+
+QByteArray WithResourceHeader(const QByteArray& binary) {
+  QByteArray resource;
+  TBinaryWriter writer(resource);
+  writer.WriteResourceHeader(RootClassName(binary), binary.size());
+  writer.WriteRaw(binary);
+  writer.Flush();
+  return resource;
 }
 
 void ReadForm(const QByteArray& form, IFormSink& sink, const TFormOptions& options) {

@@ -45,6 +45,9 @@ void ObjectTextToResource(QIODevice& text, QIODevice& resource, const TFormOptio
 void ObjectResourceToText(const QByteArray& resource, QByteArray& text, const TFormOptions& options = {});
 void ObjectResourceToText(QIODevice& resource, QIODevice& text, const TFormOptions& options = {});
 
+/// A binary form with a resource header before it, named after the class of the root object.
+QByteArray WithResourceHeader(const QByteArray& binary);
+
 /// Sends the events of a form in whatever format it is; what is neither binary nor a resource is read as text.
 void ReadForm(const QByteArray& form, IFormSink& sink, const TFormOptions& options = {});
 

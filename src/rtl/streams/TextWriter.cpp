@@ -23,7 +23,9 @@ bool IsNumberElement(QStringView name) {
   return ok && name == QString::number(value);
 }
 
-bool IsKeyword(QStringView path) {
+/// True for a word that means something else where a property may stand.
+bool IsKeyword(QStringView path, bool inItem) {
+  if (inItem) return path.compare(u"end", Qt::CaseInsensitive) == 0;
   for (const QStringView word : {u"end", u"object", u"inherited", u"inline"})
     if (path.compare(word, Qt::CaseInsensitive) == 0) return true;
   return false;
@@ -38,7 +40,8 @@ TTextWriter::TTextWriter(TByteSink& sink, const TTextWriterOptions& options) : F
 
 void TTextWriter::FailName(QStringView name) const {
   const QString path = FPath.ToString();
-  throw EWriteError(FillFormText(SNameNotText, name) + (path.isEmpty() ? QString() : QStringLiteral(" (") + path + u')'));
+  throw EWriteError(FillFormText(SNameNotText, name) +
+                    (path.isEmpty() ? QString() : QStringLiteral(" (") + path + u')'));
 }
 
 void TTextWriter::NewLine() {
@@ -102,7 +105,7 @@ void TTextWriter::Close(TFrameKind kind) {
 
 void TTextWriter::Property(QStringView path) {
   FPath.SetProperty(path);
-  if (!IsFormIdentifier(path) || IsKeyword(path)) FailName(path);
+  if (!IsFormIdentifier(path) || IsKeyword(path, !FFrames.empty() && FFrames.back().Kind == fkItem)) FailName(path);
   Indent();
   Name(path);
   FSink.Bytes(" = ");

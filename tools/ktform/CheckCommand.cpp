@@ -1,0 +1,87 @@
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/streams/FormConversion.h"
+#include "kt/rtl/streams/FormEventLog.h"
+#include "ktform/Commands.h"
+#include "ktform/FormFile.h"
+#include "ktform/Output.h"
+
+#include <algorithm>
+
+namespace ktform {
+namespace {
+
+kt::TFormEventLog LogOf(const QByteArray& form) {
+  kt::TFormEventLog log;
+  kt::ReadForm(form, log);
+  return log;
+}
+
+/// The binary form without its resource header, if it had one.
+QByteArray Converted(const QByteArray& form) {
+  QByteArray result;
+  switch (kt::TestStreamFormat(form)) {
+    case kt::sofBinary:
+      kt::ObjectBinaryToText(form, result);
+      break;
+    case kt::sofResource:
+      kt::ObjectResourceToText(form, result);
+      break;
+    default:
+      kt::ObjectTextToBinary(form, result);
+      break;
+  }
+  return result;
+}
+
+/// The first line that only one of the two has, for the message.
+QString FirstDifference(const QString& before, const QString& after) {
+  const auto [end, other] = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
+  Q_UNUSED(other);
+  const qsizetype at = end - before.begin();
+  const qsizetype start = at == 0 ? 0 : before.lastIndexOf(u'\n', at - 1) + 1;
+  return before.mid(start, before.indexOf(u'\n', at) - start).left(80);
+}
+
+void Compare(const kt::TFormEventLog& before, const QByteArray& after, const QString& step) {
+  const kt::TFormEventLog log = LogOf(after);
+  if (log.Text() == before.Text()) return;
+  throw kt::EInvalidOperation(
+      QStringLiteral("not the same after the way %1: %2").arg(step, FirstDifference(before.Text(), log.Text())));
+}
+
+QString CheckedCounts(const QString& fileName) {
+  const QByteArray form = LoadFile(fileName);
+  const kt::TFormEventLog log = LogOf(form);
+  const QByteArray other = Converted(form);
+  Compare(log, other, QStringLiteral("there"));
+  Compare(log, Converted(other), QStringLiteral("back"));
+  return QStringLiteral("(%1 objects, %2 properties)").arg(log.ObjectCount()).arg(log.PropertyCount());
+}
+
+bool Check(const QString& fileName, TProgress& progress) {
+  try {
+    const QString counts = CheckedCounts(fileName);
+    progress.Hide();
+    Print(fileName + QStringLiteral(": ok ") + counts);
+    return true;
+  } catch (const kt::Exception& error) {
+    progress.Hide();
+    PrintError(fileName + QStringLiteral(": error: ") + error.Message());
+    return false;
+  }
+}
+
+}  // namespace
+
+TExitStatus RunCheck(const QStringList& arguments) {
+  if (arguments.isEmpty() || !AreFileNames(arguments, arguments.size())) return esWrongUsage;
+  TProgress progress(arguments.size());
+  bool good = true;
+  for (qsizetype i = 0; i < arguments.size(); ++i) {
+    progress.Show(i);
+    good = Check(arguments[i], progress) && good;
+  }
+  return good ? esDone : esFailed;
+}
+
+}  // namespace ktform
