@@ -4,6 +4,9 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <locale>
+#include <sstream>
+#include <string>
 
 namespace kt {
 namespace {
@@ -13,10 +16,23 @@ constexpr int kSignificantDigits = 16;
 /// Letters of TFloatKind in its order; extended has none.
 constexpr std::array<char, 4> kSuffixes{0, 's', 'd', 'w'};
 
+/// from_chars cannot tell too large from too small, and takes the smallest of the extended numbers for the latter. A
+/// stream can.
+template <typename T>
+std::optional<T> ParseExtreme(QByteArrayView digits) {
+  std::istringstream stream(std::string(digits.begin(), digits.end()));
+  stream.imbue(std::locale::classic());
+  T value{};
+  stream >> value;
+  if (stream.fail()) return std::nullopt;
+  return value;
+}
+
 template <typename T>
 std::optional<T> Parse(QByteArrayView digits) {
   T value{};
   const auto [end, error] = std::from_chars(digits.begin(), digits.end(), value);
+  if (std::is_floating_point_v<T> && error == std::errc::result_out_of_range) return ParseExtreme<T>(digits);
   if (error != std::errc() || end != digits.end()) return std::nullopt;
   return value;
 }

@@ -1,0 +1,4 @@
+object A: TA
+ a={00 01
+ ff} b={}
+end

@@ -1,0 +1,3 @@
+﻿object A: TA
+ a=1
+end

@@ -1,0 +1,1 @@
+object A: TA a=1end

@@ -1,0 +1,3 @@
+object Größe: TÄ
+ a='漢字 😀'
+end

@@ -1,0 +1,23 @@
+object Values: TValues
+  Small = -128
+  Byte = 255
+  Word = 65535
+  Long = -2147483648
+  Large = 4294967296
+  Largest = 9223372036854775807
+  Smallest = -9223372036854775808
+  Half = 0.500000000000000000
+  Tenth = 0.100000000000000000
+  Negative = -273.150000000000000000
+  Tiny = 1.5E-300
+  Huge = 6.02214076E23
+  Single = 0.1s
+  Money = 1234500c
+  Moment = 38718.75d
+  Double = 0.30000000000000004w
+  Yes = True
+  No = False
+  None = nil
+  Name = clWindowText
+  Path = DataModule1.Query1
+end
