@@ -12,6 +12,13 @@ QString FillFormText(QLatin1StringView pattern, QStringView argument) {
   return at < 0 ? text : text.replace(at, 2, argument.toString());
 }
 
+QString ShownName(QStringView name) {
+  QString shown = name.toString();
+  for (QChar& c : shown)
+    if (!c.isPrint() && !c.isSurrogate()) c = u'?';
+  return shown;
+}
+
 QString AtOffset(const QString& what, qint64 offset, const QString& path) {
   const QString where = what + QStringLiteral(" at offset ") + QString::number(offset);
   return path.isEmpty() ? where : where + QStringLiteral(" (") + path + u')';

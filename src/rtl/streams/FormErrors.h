@@ -10,6 +10,9 @@ namespace kt {
 /// `pattern` with its first `%s` or `%d` replaced.
 QString FillFormText(QLatin1StringView pattern, QStringView argument);
 
+/// `name` fit to be shown on one line: what cannot be printed becomes a question mark.
+QString ShownName(QStringView name);
+
 /// "Stream read error at offset 123 (Form1.Panel1.Caption)"; the path is left out when it is empty.
 QString AtOffset(const QString& what, qint64 offset, const QString& path);
 

@@ -1,5 +1,7 @@
 #include "kt/rtl/streams/FormPath.h"
 
+#include "kt/rtl/streams/FormErrors.h"
+
 namespace kt {
 namespace {
 
@@ -41,7 +43,7 @@ QString TFormPath::ToString() const {
   const auto append = [&path](const QString& part) {
     if (part.isEmpty()) return;
     if (!path.isEmpty()) path += u'.';
-    path += part;
+    path += ShownName(part);
   };
   for (std::size_t i = 0; i < FDepth; ++i) {
     const TLevel& level = FLevels[i];
