@@ -1,7 +1,6 @@
+#include <cstdio>
 #include <kt/rtl/objects/Exceptions.h>
 #include <kt/rtl/objects/Messages.h>
-
-#include <cstdio>
 
 int main() {
   try {

@@ -11,7 +11,8 @@
 
 #include <stdexcept>
 
-/// What must hold for any bytes whatever that are read as a form. Shared by the fuzz targets and by the tests that run their corpora.
+/// What must hold for any bytes whatever that are read as a form. Shared by the fuzz targets and by the tests that run
+/// their corpora.
 namespace kt::oracle {
 
 /// A small limit keeps indentation, and with it the text, within a constant times the input.

@@ -24,6 +24,8 @@ class TBinaryReader {
   void SetEncoding(TEightBitEncoding encoding) { FEncoding = encoding; }
   /// Offset of the next byte from where reading began.
   qint64 Position() const { return FSource.Position(); }
+  /// Goes on at another offset of what Position() answered before. Only for a reader of a byte array.
+  void Seek(qint64 position) { FSource.Seek(position); }
   bool IsAtEnd() { return FSource.Peek() < 0; }
   /// Memory held for reading ahead, in bytes.
   qsizetype BufferSize() const { return FSource.BufferSize(); }

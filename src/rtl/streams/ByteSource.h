@@ -32,6 +32,8 @@ class TByteSource {
     if (FCursor == FEnd && !Fill(1)) return -1;
     return quint8(*FCursor);
   }
+  /// Goes on at another offset. Only where all bytes are in memory (the first constructor).
+  void Seek(qint64 position) { FCursor = FBuffer.constData() + (position - FBase); }
   /// Offset of the next byte from where reading began.
   qint64 Position() const { return FBase + (FCursor - FBuffer.constData()); }
   /// Memory held, in bytes.

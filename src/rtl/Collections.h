@@ -1,0 +1,5 @@
+#pragma once
+
+/// Collections and lists.
+#include "kt/rtl/collections/Collection.h"
+#include "kt/rtl/collections/UpdateBracket.h"

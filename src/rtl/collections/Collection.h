@@ -1,0 +1,160 @@
+#pragma once
+
+#include "kt/rtl/collections/GapSequence.h"
+#include "kt/rtl/objects/Persistent.h"
+
+namespace kt {
+
+class TCollection;
+
+/// What happens to an item, as Notify() tells.
+enum TCollectionNotification { cnAdded, cnExtracting, cnDeleting };
+
+/// An item of a collection, which owns it. Knows its position and its id.
+class TCollectionItem : public TPersistent {
+ public:
+  using Inherited = TPersistent;
+  using TCreatedIn = TCollection;
+
+  static const TClassInfo* Class();
+  const TClassInfo* ClassType() const override { return Class(); }
+
+  /// Null for an item outside any collection.
+  TCollection* GetCollection() const { return IsInCollection() ? FCollection : nullptr; }
+  /// Moves the item to the end of another collection, or out of any (the caller owns it then). Nothing happens when it
+  /// is there already. Raises EListError "Invalid property" when the other collection takes another class of items.
+  virtual void SetCollection(TCollection* value);
+  /// Unique within the collection for its whole life: the first item added has 0, and so on.
+  int GetID() const { return FID; }
+  /// The position in the collection, -1 without one. Constant time.
+  int GetIndex() const;
+  /// Moves the item within its collection. Raises EListError for a position outside it; an equal one does nothing.
+  virtual void SetIndex(int value);
+  /// How lists call the item: the class name here.
+  virtual QString GetDisplayName();
+  virtual void SetDisplayName(const QString& value);
+  QString GetNamePath() override;
+
+ protected:
+  friend class TCollection;
+
+  /// `collection` may be null.
+  explicit TCollectionItem(TCollection* collection) : FCollection(collection) {}
+
+  void Construct() override;
+  void Destruct() override;
+  TPersistent* GetOwner() override;
+
+  /// The collection that the constructor was given; for overrides of Construct() that act before the inherited one
+  /// enters it.
+  TCollection* CollectionToEnter() const { return FCollection; }
+  /// Tells the collection that this item, or with `allItems` the whole collection, has changed; silent while the
+  /// collection is in an update bracket.
+  void Changed(bool allItems);
+
+ private:
+  friend class TGapSequence<TCollectionItem>;
+
+  bool IsInCollection() const { return FSlot >= 0; }
+
+  /// Until Construct() has entered it: the collection to enter.
+  TCollection* FCollection;
+  int FID = 0;
+  int FSlot = -1;
+};
+
+/// An ordered collection that owns items of one class or its descendants.
+///
+/// The order of the notifications is the framework's. Adding: the item is at the end of the list, then
+/// Notify(cnAdded), then Changed(); Insert() moves it to its place after that. Taking out: Notify(cnExtracting) while
+/// the item is still in the list, then it leaves, then Changed(). Delete() sends Notify(cnDeleting) before all this;
+/// Clear() and `delete item` do not. Changed() calls Update() with the one item that changed, or null for "anything may
+/// have", unless inside BeginUpdate()/EndUpdate(), whose last EndUpdate() calls Update(null).
+///
+/// Cost: positions are constant time; inserting and removing cost the distance from the place of the last insertion or
+/// removal, so that runs at either end or anywhere are constant time each.
+class TCollection : public TPersistent {
+ public:
+  using Inherited = TPersistent;
+  using TCreatedIn = void;
+
+  static const TClassInfo* Class();
+  const TClassInfo* ClassType() const override { return Class(); }
+
+  const TClassInfo* GetItemClass() const { return FItemClass; }
+  int GetCount() const { return FItems.Count(); }
+  /// Raises EListError "List index out of bounds (%d)".
+  TCollectionItem* GetItem(int index) const;
+  /// Copies `value` into the item at `index`.
+  void SetItem(int index, TCollectionItem* value);
+  /// Creates an item at the end.
+  TCollectionItem* Add();
+  /// Creates an item at `index`.
+  TCollectionItem* Insert(int index);
+  void Delete(int index);
+  void Clear();
+  /// The item with that id, or null. Time in proportion to the count.
+  TCollectionItem* FindItemID(int id) const;
+
+  /// Replaces the items by copies of the source's items, within one update bracket.
+  void Assign(TPersistent* source) override;
+  /// Brackets nest. Virtual so that a descendant can act before the first change.
+  virtual void BeginUpdate() { ++FUpdateCount; }
+  virtual void EndUpdate();
+  int GetUpdateCount() const { return FUpdateCount; }
+
+  /// The owner's path and the name of the owner's property that holds this collection.
+  QString GetNamePath() override;
+
+ protected:
+  friend class TCollectionItem;
+
+  explicit TCollection(const TClassInfo* itemClass) : FItemClass(itemClass) {}
+
+  void Destruct() override;
+  void Changed();
+  int GetNextID() const { return FNextID; }
+  /// Called with each item that comes or goes; see the class comment for the order.
+  virtual void Notify(TCollectionItem* item, TCollectionNotification action);
+  /// Called by Notify() for cnAdded.
+  virtual void Added(TCollectionItem*) {}
+  /// Called by Notify() for cnDeleting.
+  virtual void Deleting(TCollectionItem*) {}
+  /// Called after a change; null means that anything may have changed.
+  virtual void Update(TCollectionItem*) {}
+  virtual void SetItemName(TCollectionItem*) {}
+  /// The name of the owner's published property that holds this collection; empty when there is none.
+  QString GetPropName();
+  /// Exchanges the places of two items without any notification.
+  void SwapItems(int first, int second);
+
+ private:
+  void InsertItem(TCollectionItem* item);
+  void RemoveItem(TCollectionItem* item);
+  void Forget(TCollectionItem* item);
+  void MoveItem(int from, int to);
+
+  TGapSequence<TCollectionItem> FItems;
+  const TClassInfo* FItemClass;
+  int FUpdateCount = 0;
+  int FNextID = 0;
+};
+
+/// A collection that belongs to an object, which its items' paths go through.
+class TOwnedCollection : public TCollection {
+ public:
+  using Inherited = TCollection;
+
+  static const TClassInfo* Class();
+  const TClassInfo* ClassType() const override { return Class(); }
+
+ protected:
+  TOwnedCollection(TPersistent* owner, const TClassInfo* itemClass) : TCollection(itemClass), FOwner(owner) {}
+
+  TPersistent* GetOwner() override { return FOwner; }
+
+ private:
+  TPersistent* FOwner;
+};
+
+}  // namespace kt

@@ -1,0 +1,55 @@
+#include "kt/rtl/collections/Collection.h"
+#include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/objects/UnhandledExceptions.h"
+#include "kt/rtl/typeinfo/ClassBuilder.h"
+
+namespace kt {
+
+const TClassInfo* TCollectionItem::Class() {
+  static const TClassInfo info = TClassBuilder<TCollectionItem>("TCollectionItem").Creatable().Done();
+  return &info;
+}
+
+void TCollectionItem::Construct() {
+  TPersistent::Construct();
+  SetCollection(std::exchange(FCollection, nullptr));
+}
+
+void TCollectionItem::Destruct() {
+  // The collection lets go even when somebody it tells raises an exception.
+  GuardedCall([this] { SetCollection(nullptr); });
+  if (IsInCollection()) FCollection->Forget(this);
+  TPersistent::Destruct();
+}
+
+void TCollectionItem::SetCollection(TCollection* value) {
+  if (GetCollection() == value) return;
+  if (IsInCollection()) FCollection->RemoveItem(this);
+  if (value) value->InsertItem(this);
+}
+
+int TCollectionItem::GetIndex() const { return IsInCollection() ? FCollection->FItems.IndexOf(this) : -1; }
+
+void TCollectionItem::SetIndex(int value) {
+  const int current = GetIndex();
+  if (current < 0 || current == value) return;
+  FCollection->MoveItem(current, value);
+  Changed(true);
+}
+
+QString TCollectionItem::GetDisplayName() { return ClassName(); }
+
+void TCollectionItem::SetDisplayName(const QString&) { Changed(false); }
+
+QString TCollectionItem::GetNamePath() {
+  if (!IsInCollection()) return ClassName();
+  return Format(QLatin1StringView("%s[%d]"), {FCollection->GetNamePath(), GetIndex()});
+}
+
+TPersistent* TCollectionItem::GetOwner() { return GetCollection(); }
+
+void TCollectionItem::Changed(bool allItems) {
+  if (IsInCollection() && FCollection->FUpdateCount == 0) FCollection->Update(allItems ? nullptr : this);
+}
+
+}  // namespace kt

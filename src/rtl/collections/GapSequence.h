@@ -1,0 +1,143 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <algorithm>
+#include <limits>
+#include <memory>
+#include <utility>
+
+namespace kt {
+
+/// An ordered sequence of pointers for lists whose elements know their own position.
+///
+/// Elements lie in slots; the unused slots form one gap that moves to where elements come and go. An element keeps its
+/// slot until the gap passes over it, so its index follows from its slot in constant time. The element appended last is
+/// kept aside until the next change, because collections append first and move to the wanted place afterwards.
+///
+/// Cost: inserting, moving and removing take the distance of the place from that of the change before, so a run of
+/// changes at either end or anywhere takes constant time each; a change at a random place takes a third of the length
+/// on average.
+///
+/// `T` gives TGapSequence access to a member `int FSlot`, which is the sequence's own: -1 outside.
+template <class T>
+class TGapSequence {
+ public:
+  int Count() const { return FCount + (FAside ? 1 : 0); }
+
+  T* At(int index) const {
+    Q_ASSERT(index >= 0 && index < Count());
+    return index == FCount ? FAside : FSlots[index < FGapStart ? index : index + GapSize()];
+  }
+
+  int IndexOf(const T* element) const {
+    if (element == FAside) return FCount;
+    return element->FSlot < FGapStart ? element->FSlot : element->FSlot - GapSize();
+  }
+
+  void Append(T* element) {
+    Settle();
+    FAside = element;
+    element->FSlot = AsideSlot;
+  }
+
+  void Remove(T* element) {
+    if (element == FAside) {
+      FAside = nullptr;
+    } else {
+      RemoveAt(IndexOf(element));
+    }
+    element->FSlot = -1;
+  }
+
+  void Move(int from, int to) {
+    if (from == to) return;
+    T* element = At(from);
+    if (element == FAside) {
+      FAside = nullptr;
+    } else {
+      Settle();
+      RemoveAt(from);
+    }
+    InsertAt(to, element);
+  }
+
+  void Exchange(int first, int second) {
+    Settle();
+    T*& a = FSlots[SlotOf(first)];
+    T*& b = FSlots[SlotOf(second)];
+    std::swap(a, b);
+    std::swap(a->FSlot, b->FSlot);
+  }
+
+  /// Makes room for `capacity` elements in all.
+  void Reserve(int capacity) {
+    if (capacity > FCapacity) Grow(capacity);
+  }
+
+  /// Bytes held besides this object.
+  size_t HeapSize() const { return sizeof(T*) * static_cast<size_t>(FCapacity); }
+
+ private:
+  static constexpr int AsideSlot = std::numeric_limits<int>::max();
+
+  int GapSize() const { return FCapacity - FCount; }
+  int SlotOf(int index) const { return index < FGapStart ? index : index + GapSize(); }
+
+  void Settle() {
+    if (FAside) InsertAt(FCount, std::exchange(FAside, nullptr));
+  }
+
+  void InsertAt(int index, T* element) {
+    if (FCount == FCapacity) Grow(FCapacity < 4 ? 4 : FCapacity * 2);
+    MoveGap(index);
+    Put(FGapStart, element);
+    ++FGapStart;
+    ++FCount;
+  }
+
+  void RemoveAt(int index) {
+    // Next to either side of the gap, removing only widens it.
+    if (index + 1 == FGapStart) {
+      --FGapStart;
+    } else {
+      MoveGap(index);
+    }
+    --FCount;
+    if (FCount == 0) Release();
+  }
+
+  void MoveGap(int index) {
+    const int gap = GapSize();
+    for (; FGapStart > index; --FGapStart) Put(FGapStart - 1 + gap, FSlots[FGapStart - 1]);
+    for (; FGapStart < index; ++FGapStart) Put(FGapStart, FSlots[FGapStart + gap]);
+  }
+
+  void Put(int slot, T* element) {
+    FSlots[slot] = element;
+    element->FSlot = slot;
+  }
+
+  void Grow(int capacity) {
+    std::unique_ptr<T*[]> previous = std::exchange(FSlots, std::make_unique_for_overwrite<T*[]>(capacity));
+    std::copy_n(previous.get(), FGapStart, FSlots.get());
+    const int shift = capacity - FCapacity;
+    for (int slot = FGapStart + GapSize(); slot < FCapacity; ++slot) Put(slot + shift, previous[slot]);
+    FCapacity = capacity;
+  }
+
+  void Release() {
+    FSlots.reset();
+    FCapacity = 0;
+    FGapStart = 0;
+  }
+
+  std::unique_ptr<T*[]> FSlots;
+  T* FAside = nullptr;
+  int FCapacity = 0;
+  /// Without the element kept aside.
+  int FCount = 0;
+  int FGapStart = 0;
+};
+
+}  // namespace kt

@@ -1,0 +1,192 @@
+#include "kt/rtl/objects/Component.h"
+
+#include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/conversions/Text.h"
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/objects/OwnedComponents.h"
+#include "kt/rtl/objects/UnhandledExceptions.h"
+#include "kt/rtl/typeinfo/ClassBuilder.h"
+
+#include <algorithm>
+
+namespace kt {
+
+const TClassInfo* TComponent::Class() {
+  static const TClassInfo info = TClassBuilder<TComponent>("TComponent")
+                                     .Property<&TComponent::GetName, &TComponent::SetName>("Name")
+                                     .NotStored()
+                                     .Property<&TComponent::GetTag, &TComponent::SetTag>("Tag")
+                                     .Default(0)
+                                     .Creatable()
+                                     .Done();
+  return &info;
+}
+
+// Here, where the data behind the pointers is known.
+TComponent::TComponent(TComponent* owner) : FNewOwner(owner) {}
+
+TComponent::~TComponent() = default;
+
+void TComponent::Construct() {
+  TPersistent::Construct();
+  if (FNewOwner) FNewOwner->InsertComponent(this);
+}
+
+void TComponent::BeforeDestruction() {
+  TPersistent::BeforeDestruction();
+  Destroying();
+}
+
+void TComponent::Destruct() {
+  Destroying();
+  TellWatchers();
+  DestroyComponents();
+  // The owner lets go even when somebody it tells raises an exception.
+  if (FOwner) GuardedCall([this] { FOwner->RemoveComponent(this); });
+  if (FOwner) FOwner->Forget(this);
+  TPersistent::Destruct();
+}
+
+void TComponent::SetName(const QString& value) {
+  if (FName == value) return;
+  if (!value.isEmpty() && !IsValidIdent(value)) throw EComponentError(Format(SInvalidName, {value}));
+  if (FOwner) {
+    FOwner->ValidateRename(this, FName, value);
+  } else {
+    ValidateRename(nullptr, FName, value);
+  }
+  ChangeName(value);
+}
+
+void TComponent::ChangeName(const QString& value) {
+  const QString previous = std::exchange(FName, value);
+  if (FOwner) FOwner->FOwned->Renamed(this, previous, value);
+}
+
+int TComponent::GetComponentCount() const { return FOwned ? FOwned->Count() : 0; }
+
+TComponent* TComponent::GetComponents(int index) const {
+  if (index < 0 || index >= GetComponentCount()) throw EListError(Format(SListIndexError, {index}));
+  return FOwned->List()[index];
+}
+
+int TComponent::GetComponentIndex() const { return FOwner ? FOwner->FOwned->IndexOf(this) : -1; }
+
+void TComponent::SetComponentIndex(int value) {
+  const int current = GetComponentIndex();
+  if (current < 0) return;
+  const int target = std::clamp(value, 0, FOwner->GetComponentCount() - 1);
+  if (target != current) FOwner->FOwned->Move(current, target);
+}
+
+TComponent* TComponent::FindComponent(QStringView name) const {
+  return FOwned && !name.isEmpty() ? FOwned->Find(name) : nullptr;
+}
+
+void TComponent::InsertComponent(TComponent* component) {
+  Q_ASSERT(!component->FOwner);
+  component->ValidateContainer(this);
+  if (FindComponent(component->FName)) throw EComponentError(Format(SDuplicateName, {component->FName}));
+  ValidateRename(component, QString(), component->FName);
+  EnsureOwned().Add(component, component->FName);
+  component->FOwner = this;
+  if (HasState(csDesigning)) component->SetDesigning(true);
+  Notification(component, opInsert);
+}
+
+void TComponent::RemoveComponent(TComponent* component) {
+  Q_ASSERT(component->FOwner == this);
+  ValidateRename(component, component->FName, QString());
+  Notification(component, opRemove);
+  Forget(component);
+  component->SetDesigning(false);
+}
+
+void TComponent::DestroyComponents() {
+  while (GetComponentCount() > 0) {
+    TComponent* last = FOwned->List().back();
+    // Only a component that somebody watches announces its going to its siblings; the others go silently.
+    if (last->HasState(csFreeNotification)) GuardedCall([&] { RemoveComponent(last); });
+    if (last->FOwner) Forget(last);
+    delete last;
+  }
+}
+
+void TComponent::Forget(TComponent* component) {
+  FOwned->Remove(component, component->FName);
+  component->FOwner = nullptr;
+}
+
+void TComponent::Destroying() {
+  if (HasState(csDestroying)) return;
+  FComponentState.Include(csDestroying);
+  for (int i = 0; i < GetComponentCount(); ++i) FOwned->List()[i]->Destroying();
+}
+
+void TComponent::FreeNotification(TComponent* component) {
+  FComponentState.Include(csFreeNotification);
+  if (FOwner && component->FOwner == FOwner) return;
+  Q_ASSERT(!HasState(csDestroying) && !component->HasState(csDestroying));
+  if (std::find(FFreeNotifies.begin(), FFreeNotifies.end(), component) != FFreeNotifies.end()) return;
+  FFreeNotifies.push_back(component);
+  component->FreeNotification(this);
+}
+
+void TComponent::RemoveFreeNotification(TComponent* component) {
+  RemoveWatcher(component);
+  component->RemoveWatcher(this);
+}
+
+void TComponent::RemoveWatcher(TComponent* component) {
+  const auto found = std::find(FFreeNotifies.rbegin(), FFreeNotifies.rend(), component);
+  if (found != FFreeNotifies.rend()) FFreeNotifies.erase(std::next(found).base());
+}
+
+void TComponent::TellWatchers() {
+  while (!FFreeNotifies.empty()) {
+    TComponent* watcher = FFreeNotifies.back();
+    GuardedCall([&] { watcher->Notification(this, opRemove); });
+    // An override that does not call the inherited Notification() leaves the pair; a watcher that was freed has gone.
+    if (!FFreeNotifies.empty() && FFreeNotifies.back() == watcher) RemoveFreeNotification(watcher);
+  }
+}
+
+QString TComponent::GetNamePath() { return FName; }
+
+void TComponent::Notification(TComponent* component, TOperation operation) {
+  if (operation == opRemove && component) RemoveFreeNotification(component);
+  // Downwards, and cut to what is left each time: a notified component may free others.
+  for (int i = GetComponentCount() - 1; i >= 0; i = std::min(i - 1, GetComponentCount() - 1)) {
+    FOwned->List()[i]->Notification(component, operation);
+  }
+}
+
+void TComponent::GetChildren(const TGetChildProc&, TComponent*) {}
+
+void TComponent::SetAncestor(bool value) {
+  FComponentState.Put(csAncestor, value);
+  for (int i = 0; i < GetComponentCount(); ++i) FOwned->List()[i]->SetAncestor(value);
+}
+
+void TComponent::SetDesigning(bool value, bool setChildren) {
+  FComponentState.Put(csDesigning, value);
+  if (!setChildren) return;
+  for (int i = 0; i < GetComponentCount(); ++i) FOwned->List()[i]->SetDesigning(value);
+}
+
+void TComponent::ValidateRename(TComponent* component, const QString& current, const QString& wanted) {
+  if (component && !SameText(current, wanted) && component->FOwner == this && FindComponent(wanted)) {
+    throw EComponentError(Format(SDuplicateName, {wanted}));
+  }
+  if (HasState(csDesigning) && FOwner) FOwner->ValidateRename(component, current, wanted);
+}
+
+void TComponent::ValidateContainer(TComponent* container) { container->ValidateInsert(this); }
+
+TOwnedComponents& TComponent::EnsureOwned() {
+  if (!FOwned) FOwned = std::make_unique<TOwnedComponents>();
+  return *FOwned;
+}
+
+}  // namespace kt

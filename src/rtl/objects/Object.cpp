@@ -1,0 +1,44 @@
+#include "kt/rtl/objects/Object.h"
+
+#include "kt/rtl/objects/UnhandledExceptions.h"
+#include "kt/rtl/typeinfo/ClassBuilder.h"
+
+namespace kt {
+
+const TClassInfo* TObject::Class() {
+  static const TClassInfo info = TClassBuilder<TObject>("TObject").Creatable().Done();
+  return &info;
+}
+
+const QString& TObject::ClassName() const { return ClassType()->ClassName(); }
+
+const TClassInfo* TObject::ClassParent() const { return ClassType()->ClassParent(); }
+
+bool TObject::InheritsFrom(const TClassInfo* ancestor) const { return ClassType()->InheritsFrom(ancestor); }
+
+bool TObject::ClassNameIs(QStringView name) const { return ClassType()->ClassNameIs(name); }
+
+void TObject::operator delete(TObject* self, std::destroying_delete_t) noexcept { TObjectLife::End(self); }
+
+void TObjectLife::Begin(TObject* object) {
+  try {
+    object->Construct();
+    object->AfterConstruction();
+  } catch (...) {
+    Abandon(object);
+    throw;
+  }
+}
+
+void TObjectLife::Abandon(TObject* object) noexcept {
+  GuardedCall([object] { object->Destruct(); });
+  object->~TObject();
+  ::operator delete(object);
+}
+
+void TObjectLife::End(TObject* object) noexcept {
+  GuardedCall([object] { object->BeforeDestruction(); });
+  Abandon(object);
+}
+
+}  // namespace kt

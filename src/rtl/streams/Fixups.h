@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <vector>
+
+namespace kt {
+
+class TComponent;
+class TPersistent;
+class TPropInfo;
+
+/// References to components that are known by name only until everything is loaded.
+class TFixups {
+ public:
+  struct TFixup {
+    TPersistent* Instance;
+    const TPropInfo* Property;
+    /// The form, or nested form, that the name is relative to; the forms around it come next.
+    TComponent* Root;
+    /// "Button1", or "DataModule1.Table1" for a component of another form, or names joined by dots for nested ones.
+    QString Name;
+  };
+
+  void Add(TFixup fixup) { FList.push_back(std::move(fixup)); }
+  /// Drops the references that `object` holds or that are relative to it.
+  void Remove(const TPersistent* object);
+  void Clear() { FList.clear(); }
+  /// Sets every reference whose component exists now and hands the others to the waiting list of the process.
+  void Resolve();
+
+ private:
+  std::vector<TFixup> FList;
+};
+
+/// How references find components of other forms: answers the form, data module or other root component of that name.
+using TFindGlobalComponent = std::function<TComponent*(const QString& name)>;
+/// Adds a way to find root components; returns a number to take it back with.
+int RegisterFindGlobalComponentProc(TFindGlobalComponent proc);
+void UnRegisterFindGlobalComponentProc(int number);
+TComponent* FindGlobalComponent(const QString& name);
+
+/// The component that a dotted path of names leads to from `root`, sub-components and owned components alike; null when
+/// a name is missing. "Owner" stands for the component reached so far, so a form's components write it for their form.
+TComponent* FindNestedComponent(TComponent* root, QStringView path);
+
+/// Sets all waiting references whose component exists now. To be called when a root component has come to exist.
+void GlobalFixupReferences();
+/// The waiting references of a root as names of what they wait for.
+QStringList GetFixupReferenceNames(TComponent* root);
+/// Forgets the waiting references that an object holds, or that are relative to it as their root. Every persistent
+/// object does this when it is destroyed.
+void RemoveFixups(TPersistent* object);
+
+}  // namespace kt

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "kt/rtl/streams/FormEvents.h"
+
+#include <QString>
+
+namespace kt {
+
+/// The header of a stored object, kept beyond the event that brings it; see TFormObject.
+struct TFormObjectHeader {
+  TFilerFlags Flags;
+  QString ClassName;
+  QString Name;
+  int ChildPos = 0;
+};
+
+}  // namespace kt

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "kt/rtl/streams/Fixups.h"
+
+#include <vector>
+
+namespace kt {
+
+class TComponent;
+class TPersistent;
+
+/// What one load has made so far. While it exists, objects that are destroyed disappear from it by themselves, so that
+/// a handler may free any of them in the middle of a load.
+class TLoad {
+ public:
+  TLoad();
+  ~TLoad();
+  TLoad(const TLoad&) = delete;
+  TLoad& operator=(const TLoad&) = delete;
+
+  /// A component that the load created.
+  void AddCreated(TComponent* component) { FCreated.push_back(component); }
+  /// A component whose Loaded() is still to be called.
+  void AddLoaded(TComponent* component) { FLoaded.push_back(component); }
+  TFixups& Fixups() { return FFixups; }
+
+  /// Resolves the references, then calls Loaded() of each component in the order of AddLoaded().
+  void Finish();
+  /// Destroys what the load created.
+  void Undo() noexcept;
+
+  /// Tells all loads of this thread that an object is being destroyed.
+  static void Forget(TPersistent* object);
+
+ private:
+  void ForgetHere(TPersistent* object);
+
+  std::vector<TComponent*> FCreated;
+  std::vector<TComponent*> FLoaded;
+  TFixups FFixups;
+  TLoad* FOuter;
+};
+
+}  // namespace kt

@@ -1,0 +1,165 @@
+#include "kt/rtl/streams/Reader.h"
+
+#include "kt/rtl/collections/Collection.h"
+#include "kt/rtl/collections/UpdateBracket.h"
+#include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/conversions/Text.h"
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/streams/BinaryFormParser.h"
+#include "kt/rtl/typeinfo/ClassInfo.h"
+
+#include <QIODevice>
+
+namespace kt {
+
+namespace {
+
+QByteArray AllOf(QIODevice& device) {
+  const QByteArray data = device.readAll();
+  if (device.isReadable() && device.atEnd()) return data;
+  throw EReadError(SReadError.toString() + u' ' + device.errorString());
+}
+
+}  // namespace
+
+TReader::TReader(const QByteArray& data) : FData(data), FInput(FData) {}
+
+TReader::TReader(QIODevice& device) : TReader(AllOf(device)) {}
+
+TReader::~TReader() = default;
+
+TComponent* TReader::ReadRootComponent(TComponent* root) {
+  CheckStructure(false);
+  FInput.ReadSignature();
+  try {
+    TComponent* result = LoadRoot(root);
+    FLoad.Finish();
+    GlobalFixupReferences();
+    return result;
+  } catch (...) {
+    FLoad.Undo();
+    throw;
+  }
+}
+
+void TReader::ReadComponents(TComponent* owner, TComponent* parent, const std::function<void(TComponent*)>& done) {
+  CheckStructure(true);
+  FRoot = owner;
+  FOwner = owner;
+  FParent = parent;
+  try {
+    while (!FInput.EndOfList()) {
+      FInput.ReadSignature();
+      ReadComponent(done);
+    }
+    FInput.ReadListEnd();
+    FLoad.Finish();
+  } catch (...) {
+    FLoad.Undo();
+    throw;
+  }
+}
+
+/// Runs over the whole input once, so that what is damaged is refused before an object is touched.
+void TReader::CheckStructure(bool isList) {
+  TBinaryReader reader(FData);
+  reader.Seek(FInput.Position());
+  TIdleFormSink nowhere;
+  TBinaryFormParser parser(reader, nowhere);
+  if (!isList) return parser.ParseForm();
+  while (!reader.EndOfList()) parser.ParseForm();
+}
+
+TFormObjectHeader TReader::ReadHeader() {
+  TFormObjectHeader header;
+  FInput.ReadPrefix(header.Flags, header.ChildPos);
+  header.ClassName = FInput.ReadShortString();
+  header.Name = FInput.ReadShortString();
+  return header;
+}
+
+QByteArray TReader::TakeValue() {
+  const qint64 start = FInput.Position();
+  FInput.SkipValue();
+  return FData.sliced(start, FInput.Position() - start);
+}
+
+TComponent* TReader::LoadRoot(TComponent* root) {
+  const TFormObjectHeader header = ReadHeader();
+  FRoot = root ? root : CreateComponent(header, nullptr);
+  if (!FRoot) throw EClassNotFound(Format(SClassNotFound, {header.ClassName}));
+  FOwner = FRoot;
+  FRoot->FComponentState.Include(csLoading);
+  SetComponentName(FRoot, header.Name);
+  FLoad.AddLoaded(FRoot);
+  ReadState(FRoot);
+  return FRoot;
+}
+
+void TReader::DefineProperty(QStringView name, const TReaderProc& read, const TWriterProc&, bool) {
+  if (FDefinedName.isEmpty() || !read || !SameText(name, FDefinedName)) return;
+  FDefinedName.clear();
+  read(*this);
+}
+
+void TReader::DefineBinaryProperty(QStringView name, const TReadBinaryProc& read, const TWriteBinaryProc&, bool) {
+  if (FDefinedName.isEmpty() || !read || !SameText(name, FDefinedName)) return;
+  FDefinedName.clear();
+  read(FInput.ReadBinary());
+}
+
+QChar TReader::ReadChar() {
+  const QString text = FInput.ReadString();
+  if (text.size() != 1) throw EReadError(SInvalidPropertyValue.toString());
+  return text.front();
+}
+
+Variant TReader::ReadVariant() {
+  switch (FInput.NextValue()) {
+    case vaNil:
+      FInput.ReadValue();
+      return Variant();
+    case vaNull:
+      FInput.ReadValue();
+      return Variant::Null();
+    case vaInt8:
+    case vaInt16:
+    case vaInt32:
+      return Variant(FInput.ReadInteger());
+    case vaInt64:
+      return Variant(FInput.ReadInt64());
+    case vaExtended:
+    case vaSingle:
+    case vaCurrency:
+    case vaDate:
+    case vaDouble:
+      return Variant(ReadFloat());
+    case vaTrue:
+    case vaFalse:
+      return Variant(FInput.ReadBoolean());
+    default:
+      return Variant(FInput.ReadString());
+  }
+}
+
+void TReader::ReadCollection(TCollection& collection) {
+  const TUpdateBracket bracket(collection);
+  collection.Clear();
+  while (!FInput.EndOfList()) {
+    // An index before the item belongs to the text format; the order of the items already says it.
+    if (FInput.NextValue() != vaList) FInput.ReadInt64();
+    FInput.ReadListBegin();
+    TCollectionItem* item = collection.Add();
+    while (!FInput.EndOfList()) ReadProperty(item);
+    FInput.ReadListEnd();
+  }
+  FInput.ReadListEnd();
+}
+
+std::unique_ptr<TComponent> ReadComponentFromBinary(const QByteArray& data) {
+  TReader reader(data);
+  return std::unique_ptr<TComponent>(reader.ReadRootComponent(nullptr));
+}
+
+}  // namespace kt

@@ -1,0 +1,167 @@
+#pragma once
+
+#include "kt/rtl/conversions/Variant.h"
+#include "kt/rtl/objects/Component.h"
+#include "kt/rtl/streams/BinaryReader.h"
+#include "kt/rtl/streams/Filer.h"
+#include "kt/rtl/streams/FormObjectHeader.h"
+#include "kt/rtl/streams/Load.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace kt {
+
+class TClassInfo;
+class TCollection;
+class TMethod;
+class TPropInfo;
+class TSetTypeInfo;
+
+/// What a reader does with a class that is not registered, or a property that the object's class lacks.
+enum TUnknownPolicy {
+  upRaise,  ///< stop with an exception
+  upSkip,   ///< pass over it
+  upKeep    ///< keep it, so that a writer puts it back unchanged; an unknown class gets a TUnknownComponent
+};
+
+/// Reads components and their properties from the binary object format.
+///
+/// A load is checked as a whole for a sound structure before the first object is touched. When it fails after that, all
+/// components that it created are destroyed; what existed before keeps its owner and its children, only properties that
+/// had been read before the failure have their new values.
+///
+/// Every failure is one exception: EReadError with the path of the object and property ("Error reading Form1.Color:
+/// ..."), EClassNotFound, EMethodNotFound, or the exception of the binary format with its byte offset.
+class TReader : public TFiler {
+ public:
+  using TFindMethodEvent = std::function<TMethod(const QString& name)>;
+  using TFindClassEvent = std::function<const TClassInfo*(const QString& className)>;
+  using TCreateComponentEvent = std::function<TComponent*(const TClassInfo* classInfo, TComponent* owner)>;
+  using TSetNameEvent = std::function<void(TComponent* component, QString& name)>;
+  using TErrorEvent = std::function<bool(const QString& message)>;
+
+  /// Reads from `data`, which is shared, not copied.
+  explicit TReader(const QByteArray& data);
+  /// Reads all that is left in `device`. Raises EReadError when that fails.
+  explicit TReader(QIODevice& device);
+  ~TReader() override;
+
+  /// What to do with unknown classes and with unknown properties; both stop the load unless changed.
+  TUnknownPolicy UnknownClasses = upRaise;
+  TUnknownPolicy UnknownProperties = upRaise;
+  /// Finds the handler of an event by name; asked when the root has no published method of that name. An empty answer
+  /// is a property that cannot be read.
+  TFindMethodEvent OnFindMethod;
+  /// Finds a class that is not registered; null when it is unknown.
+  TFindClassEvent OnFindComponentClass;
+  /// Creates a component in another way; null for the usual one.
+  TCreateComponentEvent OnCreateComponent;
+  /// May change the name that a component gets.
+  TSetNameEvent OnSetName;
+  /// Asked for every property that cannot be read; true passes over it, false stops the load.
+  TErrorEvent OnError;
+
+  /// Reads one form. With `root` null the root is created, and the caller owns it; else its class need not match the
+  /// stream.
+  TComponent* ReadRootComponent(TComponent* root);
+  /// As above for a root of a known class.
+  template <class T>
+  std::unique_ptr<T> ReadRoot() {
+    return std::unique_ptr<T>(static_cast<T*>(ReadRootComponent(nullptr)));
+  }
+  /// Reads the components that TWriter::WriteComponents() wrote, each with `owner` as its owner and `parent` as its
+  /// parent, and calls `done` for each when its own properties and children are complete.
+  void ReadComponents(TComponent* owner, TComponent* parent, const std::function<void(TComponent*)>& done);
+
+  /// The owner and the parent of the components being read.
+  TComponent* GetOwner() const { return FOwner; }
+  TComponent* GetParent() const { return FParent; }
+
+  void DefineProperty(QStringView name, const TReaderProc& read, const TWriterProc& write, bool hasData) override;
+  void DefineBinaryProperty(QStringView name, const TReadBinaryProc& read, const TWriteBinaryProc& write,
+                            bool hasData) override;
+
+  /// The values themselves, for procedures given to DefineProperty(). Each reads one value and raises EReadError when
+  /// the next value is of another type.
+  TValueType NextValue() { return FInput.NextValue(); }
+  /// Consumes the type code of the next value and answers it.
+  TValueType ReadValue() { return FInput.ReadValue(); }
+  bool ReadBoolean() { return FInput.ReadBoolean(); }
+  int ReadInteger() { return FInput.ReadInteger(); }
+  qint64 ReadInt64() { return FInput.ReadInt64(); }
+  double ReadFloat() { return static_cast<double>(FInput.ReadFloat()); }
+  QString ReadString() { return FInput.ReadString(); }
+  QChar ReadChar();
+  QString ReadIdent() { return FInput.ReadIdent(); }
+  QByteArray ReadBinary() { return FInput.ReadBinary(); }
+  Variant ReadVariant();
+  void ReadListBegin() { FInput.ReadListBegin(); }
+  void ReadListEnd() { FInput.ReadListEnd(); }
+  bool EndOfList() { return FInput.EndOfList(); }
+  void SkipValue() { FInput.SkipValue(); }
+  /// Replaces the items of `collection` by those that follow; the type code vaCollection has been consumed.
+  void ReadCollection(TCollection& collection);
+
+ private:
+  friend class TComponent;
+
+  void CheckStructure(bool isList);
+  TFormObjectHeader ReadHeader();
+  /// The bytes of the next value, its type code included.
+  QByteArray TakeValue();
+  TComponent* LoadRoot(TComponent* root);
+
+  void ReadData(TComponent* instance);
+  void ReadComponent(const std::function<void(TComponent*)>& done = {});
+  TComponent* MakeChild(const TFormObjectHeader& header);
+  /// The component of the ancestor form that an inherited one stands for; null for others, or when the policy is to
+  /// keep.
+  TComponent* FindInherited(const TFormObjectHeader& header);
+  /// Null when the class is unknown and to be skipped.
+  TComponent* CreateComponent(const TFormObjectHeader& header, TComponent* owner);
+  TComponent* CreateUnknown(const TFormObjectHeader& header, TComponent* owner);
+  const TClassInfo* FindComponentClass(const QString& className);
+  void SetComponentName(TComponent* component, QString name);
+  void PlaceChild(TComponent* child, const TFormObjectHeader& header);
+  void ReadState(TComponent* component);
+
+  void ReadProperty(TPersistent* instance);
+  void ReadPropertyPath(TPersistent* instance, const QString& path);
+  void ReadDefinedProperty(TPersistent* instance, const QString& name);
+  bool TakeUnknownProperty();
+  void KeepProperty();
+  void ReadPropValue(TPersistent* instance, const TPropInfo* property);
+  void ReadOrdValue(TPersistent* instance, const TPropInfo* property);
+  void ReadSetValue(TPersistent* instance, const TPropInfo* property);
+  void ReadClassValue(TPersistent* instance, const TPropInfo* property);
+  void ReadMethodValue(TPersistent* instance, const TPropInfo* property);
+  void ReadReference(TPersistent* instance, const TPropInfo* property);
+  QString PathOf(TPersistent* instance) const;
+
+  /// All of the input: components and properties that nobody knows are taken out of it as they are.
+  QByteArray FData;
+  TBinaryReader FInput;
+  TComponent* FOwner = nullptr;
+  TComponent* FParent = nullptr;
+  /// The name, as DefineProperties() has to match it, of the property being read; empty once somebody has taken it.
+  QString FDefinedName;
+  /// The property being read, as the stream names it, and the object that the path starts at.
+  struct TPropPath {
+    TPersistent* Instance = nullptr;
+    QString Path;
+  };
+  TPropPath FPropPath;
+  /// How many children of the present parent have been read.
+  int FChildIndex = 0;
+  TLoad FLoad;
+};
+
+/// The form in `data`, in the binary format, with or without its resource header; see TReader.
+std::unique_ptr<TComponent> ReadComponentFromBinary(const QByteArray& data);
+
+}  // namespace kt

@@ -1,0 +1,195 @@
+// How a reader gives objects the values of their properties.
+#include "kt/rtl/collections/Collection.h"
+#include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/KeptData.h"
+#include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/streams/IntegerConsts.h"
+#include "kt/rtl/streams/Reader.h"
+#include "kt/rtl/streams/UnknownComponent.h"
+#include "kt/rtl/typeinfo/ClassInfo.h"
+#include "kt/rtl/typeinfo/EnumNames.h"
+#include "kt/rtl/typeinfo/PropValues.h"
+
+#include <limits>
+#include <utility>
+
+namespace kt {
+
+void TReader::ReadProperty(TPersistent* instance) {
+  const TPropPath outer = std::exchange(FPropPath, {instance, FInput.ReadShortString()});
+  const QString path = FPropPath.Path;
+  const qint64 start = FInput.Position();
+  try {
+    if (dynamic_cast<TUnknownComponent*>(instance)) {
+      KeepProperty();
+    } else {
+      ReadPropertyPath(instance, path);
+    }
+  } catch (const EAbort&) {
+    throw;
+  } catch (const Exception& error) {
+    const QString object = PathOf(instance);
+    const QString message =
+        Format(SPropertyException, {object, object.isEmpty() ? QString() : QStringLiteral("."), path, error.Message()});
+    if (!OnError || !OnError(message)) throw EReadError(message);
+    FInput.Seek(start);
+    FInput.SkipValue();
+  }
+  FPropPath = outer;
+}
+
+void TReader::ReadPropertyPath(TPersistent* instance, const QString& path) {
+  TPersistent* target = instance;
+  QStringView rest = path;
+  for (qsizetype dot = rest.indexOf(u'.'); dot >= 0; dot = rest.indexOf(u'.')) {
+    const TPropInfo* property = GetPropInfo(target, rest.left(dot));
+    if (!property) {
+      if (TakeUnknownProperty()) return;
+      throw EReadError(Format(SUnknownProperty, {rest.left(dot)}));
+    }
+    TObject* object = property->Kind() == tkClass ? GetObjectProp(target, property) : nullptr;
+    target = dynamic_cast<TPersistent*>(object);
+    if (!target) throw EReadError(SInvalidPropertyPath.toString());
+    rest = rest.sliced(dot + 1);
+  }
+  if (const TPropInfo* property = GetPropInfo(target, rest)) return ReadPropValue(target, property);
+  ReadDefinedProperty(target, rest.toString());
+  if (FDefinedName.isEmpty() || TakeUnknownProperty()) return;
+  throw EReadError(Format(SUnknownProperty, {rest}));
+}
+
+/// Offers the value to DefineProperties(); the name is still there afterwards when nobody took it.
+void TReader::ReadDefinedProperty(TPersistent* instance, const QString& name) {
+  FDefinedName = name;
+  instance->DefineProperties(*this);
+}
+
+/// False when the policy is to raise.
+bool TReader::TakeUnknownProperty() {
+  FDefinedName.clear();
+  if (UnknownProperties == upRaise) return false;
+  if (UnknownProperties == upKeep) {
+    KeepProperty();
+  } else {
+    FInput.SkipValue();
+  }
+  return true;
+}
+
+void TReader::KeepProperty() { EnsureKeptData(FPropPath.Instance).Properties.push_back({FPropPath.Path, TakeValue()}); }
+
+void TReader::ReadPropValue(TPersistent* instance, const TPropInfo* property) {
+  const bool isOwnedObject = property->Kind() == tkClass && FInput.NextValue() == vaCollection;
+  if (!property->IsWritable() && !isOwnedObject) throw EReadError(SReadOnlyProperty.toString());
+  switch (property->Kind()) {
+    case tkInteger:
+    case tkChar:
+    case tkWChar:
+    case tkEnumeration:
+      return ReadOrdValue(instance, property);
+    case tkSet:
+      return ReadSetValue(instance, property);
+    case tkFloat:
+      return SetFloatProp(instance, property, ReadFloat());
+    case tkString:
+    case tkLString:
+    case tkWString:
+      return SetStrProp(instance, property, FInput.ReadString());
+    case tkInt64:
+      return SetInt64Prop(instance, property, FInput.ReadInt64());
+    case tkVariant:
+      return SetVariantProp(instance, property, ReadVariant());
+    case tkClass:
+      return ReadClassValue(instance, property);
+    case tkInterface:
+      return ReadReference(instance, property);
+    case tkMethod:
+      return ReadMethodValue(instance, property);
+    default:
+      throw EReadError(Format(SInvalidPropertyType, {property->PropType()->Name()}));
+  }
+}
+
+void TReader::ReadOrdValue(TPersistent* instance, const TPropInfo* property) {
+  const TTypeInfo* type = property->PropType();
+  if (type->Kind() == tkChar || type->Kind() == tkWChar) return SetOrdProp(instance, property, ReadChar().unicode());
+  const bool isIdent = FInput.NextValue() == vaIdent || type->Kind() == tkEnumeration;
+  if (!isIdent) {
+    const qint64 value = FInput.ReadInt64();
+    if (value < std::numeric_limits<qint32>::min() || value > std::numeric_limits<quint32>::max()) {
+      throw EReadError(SInvalidPropertyValue.toString());
+    }
+    return SetOrdProp(instance, property, value);
+  }
+  const QString ident = FInput.ReadIdent();
+  if (type->Kind() == tkEnumeration) {
+    const qint64 value = GetEnumValue(type, ident);
+    if (value < 0 && !IsBoolType(type)) throw EReadError(SInvalidPropertyValue.toString());
+    return SetOrdProp(instance, property, value);
+  }
+  const TIntegerConsts* consts = FindIntegerConsts(type);
+  const std::optional<qint64> value = consts ? consts->IdentToInt(ident) : std::nullopt;
+  if (!value) throw EReadError(SInvalidPropertyValue.toString());
+  SetOrdProp(instance, property, *value);
+}
+
+void TReader::ReadSetValue(TPersistent* instance, const TPropInfo* property) {
+  const TTypeInfo* component = SetTypeOf(property->PropType())->CompType();
+  qint64 bits = 0;
+  FInput.ReadSetBegin();
+  for (QString name = FInput.ReadSetElement(); !name.isEmpty(); name = FInput.ReadSetElement()) {
+    const qint64 ordinal = GetEnumValue(component, name);
+    if (ordinal < 0 || ordinal > 31) throw EReadError(SInvalidPropertyValue.toString());
+    bits |= qint64{1} << ordinal;
+  }
+  SetOrdProp(instance, property, bits);
+}
+
+void TReader::ReadClassValue(TPersistent* instance, const TPropInfo* property) {
+  switch (FInput.NextValue()) {
+    case vaNil:
+      FInput.ReadValue();
+      return SetObjectProp(instance, property, nullptr);
+    case vaCollection: {
+      auto* collection = dynamic_cast<TCollection*>(GetObjectProp(instance, property));
+      if (!collection) throw EReadError(SInvalidPropertyValue.toString());
+      FInput.ReadValue();
+      return ReadCollection(*collection);
+    }
+    default:
+      return ReadReference(instance, property);
+  }
+}
+
+void TReader::ReadReference(TPersistent* instance, const TPropInfo* property) {
+  if (FInput.NextValue() == vaNil) {
+    FInput.ReadValue();
+    return SetInterfaceProp(instance, property, nullptr);
+  }
+  FLoad.Fixups().Add({instance, property, FOwner, FInput.ReadIdent()});
+}
+
+void TReader::ReadMethodValue(TPersistent* instance, const TPropInfo* property) {
+  if (FInput.NextValue() == vaNil) {
+    FInput.ReadValue();
+    return SetMethodProp(instance, property, TMethod());
+  }
+  const qint64 start = FInput.Position();
+  const QString name = FInput.ReadIdent();
+  TMethod method = FRoot->ClassType()->FindMethod(name, FRoot);
+  if (method.IsEmpty() && OnFindMethod) method = OnFindMethod(name);
+  if (!method.IsEmpty()) return SetMethodProp(instance, property, method);
+  // A handler that the application does not have is as unknown as a property.
+  FInput.Seek(start);
+  if (!TakeUnknownProperty()) throw EReadError(SInvalidPropertyValue.toString());
+}
+
+QString TReader::PathOf(TPersistent* instance) const {
+  if (auto* component = dynamic_cast<TComponent*>(instance)) {
+    return component->GetName().isEmpty() ? component->ClassName() : component->GetName();
+  }
+  return instance->GetNamePath();
+}
+
+}  // namespace kt

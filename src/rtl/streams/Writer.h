@@ -1,0 +1,93 @@
+#pragma once
+
+#include "kt/rtl/conversions/Variant.h"
+#include "kt/rtl/objects/Component.h"
+#include "kt/rtl/streams/BinaryWriter.h"
+#include "kt/rtl/streams/Filer.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <vector>
+
+namespace kt {
+
+class TCollection;
+class TPropInfo;
+class TTypeInfo;
+
+/// Writes components and their properties in the binary object format: what is stored and differs from the declared
+/// default, or, for the descendant of another form, what differs from that.
+///
+/// Everything goes into memory first, so a failing getter or predicate leaves no half-written file. Raises EWriteError
+/// for what the format cannot hold, and passes on what getters raise.
+class TWriter : public TFiler {
+ public:
+  TWriter();
+  ~TWriter() override;
+
+  /// Writes `root` and all its children, as the descendant of `ancestor` when one is given.
+  void WriteRootComponent(TComponent* root, TComponent* ancestor = nullptr);
+  /// Some components of a form, each with its children: what the clipboard takes. `root` is the form.
+  void WriteComponents(const std::vector<TComponent*>& components, TComponent* root);
+  /// What has been written.
+  QByteArray Data();
+
+  void DefineProperty(QStringView name, const TReaderProc& read, const TWriterProc& write, bool hasData) override;
+  void DefineBinaryProperty(QStringView name, const TReadBinaryProc& read, const TWriteBinaryProc& write,
+                            bool hasData) override;
+
+  /// The values themselves, for procedures given to DefineProperty().
+  void WriteBoolean(bool value) { FOutput.WriteBoolean(value); }
+  void WriteInteger(qint64 value) { FOutput.WriteInteger(value); }
+  void WriteFloat(double value) { FOutput.WriteFloat(value); }
+  void WriteString(const QString& value) { FOutput.WriteString(value); }
+  void WriteIdent(const QString& value) { FOutput.WriteIdent(value); }
+  void WriteBinary(const QByteArray& value) { FOutput.WriteBinary(value); }
+  void WriteVariant(const Variant& value);
+  void WriteListBegin() { FOutput.WriteListBegin(); }
+  void WriteListEnd() { FOutput.WriteListEnd(); }
+  /// One whole value: the type code vaCollection and the items with their published properties.
+  void WriteCollection(TCollection& collection);
+
+ private:
+  friend class TComponent;
+
+  void WriteComponent(TComponent* component);
+  void WriteHeader(TComponent* component, bool isInherited);
+  void WriteData(TComponent* instance);
+  void WriteChildren(TComponent* instance);
+  void WriteProperties(TPersistent* instance);
+  void WriteKeptProperties(TPersistent* instance);
+  void WriteProperty(TPersistent* instance, const TPropInfo* property);
+  void WriteValue(TPersistent* instance, const TPropInfo* property);
+  void WriteOrdValue(const TTypeInfo* type, qint64 value);
+  void WriteSetValue(const TTypeInfo* type, qint64 bits);
+  void WriteClassProperty(TPersistent* instance, const TPropInfo* property);
+  void WriteReference(const TPropInfo* property, TComponent* target);
+  void WriteNested(const TPropInfo* property, TPersistent* object);
+  void WriteCollectionProperty(const TPropInfo* property, TCollection* collection);
+  void WriteInterfaceProperty(TPersistent* instance, const TPropInfo* property);
+  void WriteMethodProperty(TPersistent* instance, const TPropInfo* property);
+  void WritePropName(QStringView name);
+
+  bool HasDefaultValue(TPersistent* instance, const TPropInfo* property);
+  TObject* AncestorObject(const TPropInfo* property);
+  QString ReferenceName(TComponent* target);
+  bool SameReference(const TComponent* inherited, const TComponent* target) const;
+  TComponent* FindAncestor(const TComponent* component) const;
+
+  QByteArray FData;
+  TBinaryWriter FOutput;
+  /// The path to the object whose properties are being written, with its final dot; empty at the component itself.
+  QString FPropPath;
+  /// The form or nested form that the names in references are relative to.
+  TComponent* FLookupRoot = nullptr;
+  /// The form whose descendant is being written.
+  TComponent* FRootAncestor = nullptr;
+};
+
+/// The binary form of a component and its children.
+QByteArray WriteComponentToBinary(TComponent* component);
+
+}  // namespace kt

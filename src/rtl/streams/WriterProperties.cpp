@@ -1,0 +1,209 @@
+// How a writer decides what of an object's properties to write, and writes it.
+#include "kt/rtl/collections/Collection.h"
+#include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/KeptData.h"
+#include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/streams/IntegerConsts.h"
+#include "kt/rtl/streams/Writer.h"
+#include "kt/rtl/typeinfo/ClassInfo.h"
+#include "kt/rtl/typeinfo/EnumNames.h"
+#include "kt/rtl/typeinfo/PropValues.h"
+
+#include <utility>
+
+namespace kt {
+namespace {
+
+constexpr TTypeKinds OrdKinds = {tkInteger, tkChar, tkWChar, tkEnumeration, tkSet};
+
+bool IsSubComponent(const TComponent* component) { return component->GetComponentStyle().Has(csSubComponent); }
+
+/// Equal as streams see it: by what would be written.
+bool CollectionsEqual(TCollection& a, TCollection& b) {
+  if (a.GetCount() != b.GetCount()) return false;
+  TWriter first;
+  TWriter second;
+  first.WriteCollection(a);
+  second.WriteCollection(b);
+  return first.Data() == second.Data();
+}
+
+}  // namespace
+
+void TWriter::WriteProperties(TPersistent* instance) {
+  for (const TPropInfo* property : instance->ClassType()->Props()) {
+    if (IsStoredProp(instance, property)) WriteProperty(instance, property);
+  }
+  instance->DefineProperties(*this);
+  WriteKeptProperties(instance);
+}
+
+void TWriter::WriteKeptProperties(TPersistent* instance) {
+  const TKeptData* kept = FindKeptData(instance);
+  if (!kept) return;
+  for (const TKeptData::TProperty& property : kept->Properties) {
+    WritePropName(property.Path);
+    FOutput.WriteRaw(property.Value);
+  }
+}
+
+void TWriter::WriteProperty(TPersistent* instance, const TPropInfo* property) {
+  if (!property->IsReadable()) return;
+  if (property->Kind() == tkClass) return WriteClassProperty(instance, property);
+  if (!property->IsWritable()) return;
+  if (property->Kind() == tkInterface) return WriteInterfaceProperty(instance, property);
+  if (property->Kind() == tkMethod) return WriteMethodProperty(instance, property);
+  if (!HasDefaultValue(instance, property)) WriteValue(instance, property);
+}
+
+bool TWriter::HasDefaultValue(TPersistent* instance, const TPropInfo* property) {
+  auto* ancestor = FAncestor && FAncestor->ClassType()->InheritsFrom(instance->ClassType()) ? FAncestor : nullptr;
+  if (OrdKinds.Has(property->Kind())) {
+    const qint64 value = GetOrdProp(instance, property);
+    if (ancestor) return value == GetOrdProp(ancestor, property);
+    return property->HasDefault() && value == property->Default();
+  }
+  switch (property->Kind()) {
+    case tkFloat:
+      return GetFloatProp(instance, property) == (ancestor ? GetFloatProp(ancestor, property) : 0.0);
+    case tkString:
+    case tkLString:
+    case tkWString:
+      return GetStrProp(instance, property) == (ancestor ? GetStrProp(ancestor, property) : QString());
+    case tkInt64:
+      return GetInt64Prop(instance, property) == (ancestor ? GetInt64Prop(ancestor, property) : 0);
+    case tkVariant:
+      return VarSameValue(GetVariantProp(instance, property),
+                          ancestor ? GetVariantProp(ancestor, property) : Variant());
+    default:
+      return true;
+  }
+}
+
+void TWriter::WriteValue(TPersistent* instance, const TPropInfo* property) {
+  WritePropName(property->Name());
+  switch (property->Kind()) {
+    case tkFloat:
+      return FOutput.WriteFloat(GetFloatProp(instance, property));
+    case tkString:
+    case tkLString:
+    case tkWString:
+      return FOutput.WriteString(GetStrProp(instance, property));
+    case tkInt64:
+      return FOutput.WriteInteger(GetInt64Prop(instance, property));
+    case tkVariant:
+      return WriteVariant(GetVariantProp(instance, property));
+    default:
+      WriteOrdValue(property->PropType(), GetOrdProp(instance, property));
+  }
+}
+
+void TWriter::WriteOrdValue(const TTypeInfo* type, qint64 value) {
+  switch (type->Kind()) {
+    case tkChar:
+    case tkWChar:
+      return FOutput.WriteString(QString(QChar(static_cast<char16_t>(value))));
+    case tkEnumeration:
+      return FOutput.WriteIdent(GetEnumName(type, value));
+    case tkSet:
+      return WriteSetValue(type, value);
+    default:
+      break;
+  }
+  const TIntegerConsts* consts = FindIntegerConsts(type);
+  const QString ident = consts ? consts->IntToIdent(value) : QString();
+  ident.isEmpty() ? FOutput.WriteInteger(value) : FOutput.WriteIdent(ident);
+}
+
+void TWriter::WriteSetValue(const TTypeInfo* type, qint64 bits) {
+  FOutput.WriteSetBegin();
+  for (const QString& name : SetToString(type, bits).split(u',', Qt::SkipEmptyParts)) FOutput.WriteSetElement(name);
+  FOutput.WriteSetEnd();
+}
+
+TObject* TWriter::AncestorObject(const TPropInfo* property) {
+  if (!FAncestor || !GetPropInfo(FAncestor, property->Name(), {tkClass})) return nullptr;
+  return GetObjectProp(FAncestor, property->Name());
+}
+
+void TWriter::WriteClassProperty(TPersistent* instance, const TPropInfo* property) {
+  TObject* value = GetObjectProp(instance, property);
+  if (!value) {
+    if (!property->IsWritable() || !AncestorObject(property)) return;
+    WritePropName(property->Name());
+    return FOutput.WriteConstant(fcNil);
+  }
+  auto* component = dynamic_cast<TComponent*>(value);
+  if (component && !IsSubComponent(component)) {
+    if (property->IsWritable()) WriteReference(property, component);
+  } else if (auto* collection = dynamic_cast<TCollection*>(value)) {
+    WriteCollectionProperty(property, collection);
+  } else if (auto* object = dynamic_cast<TPersistent*>(value)) {
+    WriteNested(property, object);
+  }
+}
+
+void TWriter::WriteReference(const TPropInfo* property, TComponent* target) {
+  const auto* inherited = dynamic_cast<TComponent*>(AncestorObject(property));
+  const QString name = ReferenceName(target);
+  if (name.isEmpty() || (inherited && SameReference(inherited, target))) return;
+  WritePropName(property->Name());
+  FOutput.WriteIdent(name);
+}
+
+/// The counterpart in the ancestor form counts as the same component.
+bool TWriter::SameReference(const TComponent* inherited, const TComponent* target) const {
+  if (inherited == target) return true;
+  return inherited->GetOwnerComponent() == FRootAncestor && target->GetOwnerComponent() == FRoot &&
+         inherited->GetName() == target->GetName();
+}
+
+QString TWriter::ReferenceName(TComponent* target) {
+  if (target == FLookupRoot) return QStringLiteral("Owner");
+  QString name = target->GetName();
+  if (name.isEmpty()) return {};
+  TComponent* owner = target->GetOwnerComponent();
+  for (; owner && owner != FLookupRoot && !owner->GetName().isEmpty(); owner = owner->GetOwnerComponent()) {
+    name = owner->GetName() + u'.' + name;
+  }
+  return name;
+}
+
+void TWriter::WriteNested(const TPropInfo* property, TPersistent* object) {
+  const QString path = std::exchange(FPropPath, FPropPath + property->Name() + u'.');
+  TPersistent* outer = std::exchange(FAncestor, dynamic_cast<TPersistent*>(AncestorObject(property)));
+  WriteProperties(object);
+  FAncestor = outer;
+  FPropPath = path;
+}
+
+void TWriter::WriteCollectionProperty(const TPropInfo* property, TCollection* collection) {
+  WriteNested(property, collection);
+  auto* inherited = dynamic_cast<TCollection*>(AncestorObject(property));
+  const bool isDefault = inherited ? CollectionsEqual(*collection, *inherited) : collection->GetCount() == 0;
+  if (isDefault) return;
+  WritePropName(property->Name());
+  WriteCollection(*collection);
+}
+
+void TWriter::WriteInterfaceProperty(TPersistent* instance, const TPropInfo* property) {
+  TComponent* target = ComponentBehind(GetInterfaceProp(instance, property));
+  if (!target) return;
+  WritePropName(property->Name());
+  FOutput.WriteIdent(ReferenceName(target));
+}
+
+void TWriter::WriteMethodProperty(TPersistent* instance, const TPropInfo* property) {
+  const TMethod method = GetMethodProp(instance, property);
+  const QString name = method.Instance() ? method.Instance()->ClassType()->MethodName(method) : QString();
+  if (name.isEmpty()) return;
+  if (FAncestor && GetPropInfo(FAncestor, property->Name(), tkMethods)) {
+    const TMethod inherited = GetMethodProp(FAncestor, property->Name());
+    if (inherited.Instance() && inherited.Instance()->ClassType()->MethodName(inherited) == name) return;
+  }
+  WritePropName(property->Name());
+  FOutput.WriteIdent(name);
+}
+
+}  // namespace kt

@@ -1,0 +1,118 @@
+// Properties as variants, whatever their kind.
+#include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/typeinfo/PropValues.h"
+
+namespace kt {
+namespace {
+
+[[noreturn]] void RaiseInvalidType(const TPropInfo* property) {
+  throw EPropertyConvertError(Format(SInvalidPropertyType, {property->PropType()->Name()}));
+}
+
+qint64 Ranged(const Variant& value, qint64 min, qint64 max) {
+  const qint64 number = value.ToInt64();
+  if (number < min || number > max) throw ERangeError(SRangeError.toString());
+  return number;
+}
+
+qint64 RangedOrdinal(const TPropInfo* property, const Variant& value) {
+  const TOrdTypeInfo* type = OrdTypeOf(property->PropType());
+  return Ranged(value, type->MinValue(), type->MaxValue());
+}
+
+void SetEnumValue(TObject* instance, const TPropInfo* property, const Variant& value) {
+  if (VarIsStr(value)) return SetEnumProp(instance, property, VarToStr(value));
+  // The ordinal of a true Boolean is 1 here, whatever a variant stores.
+  if (VarType(value) == varBoolean) return SetOrdProp(instance, property, value.ToBool() ? 1 : 0);
+  SetOrdProp(instance, property, RangedOrdinal(property, value));
+}
+
+void SetSetValue(TObject* instance, const TPropInfo* property, const Variant& value) {
+  if (VarIsOrdinal(value)) return SetOrdProp(instance, property, value.ToInt64());
+  SetSetProp(instance, property, VarToStr(value));
+}
+
+void SetInt64Value(TObject* instance, const TPropInfo* property, const Variant& value) {
+  const TInt64TypeInfo* type = Int64TypeOf(property->PropType());
+  if (type->IsUnsigned()) return SetInt64Prop(instance, property, static_cast<qint64>(value.ToUInt64()));
+  SetInt64Prop(instance, property, Ranged(value, type->MinValue(), type->MaxValue()));
+}
+
+Variant Int64Value(TObject* instance, const TPropInfo* property) {
+  const qint64 value = GetInt64Prop(instance, property);
+  if (Int64TypeOf(property->PropType())->IsUnsigned()) return Variant(static_cast<quint64>(value));
+  return Variant(value);
+}
+
+Variant EnumValue(TObject* instance, const TPropInfo* property, bool preferStrings) {
+  if (preferStrings) return Variant(GetEnumProp(instance, property));
+  const qint64 ordinal = GetOrdProp(instance, property);
+  return IsBoolType(property->PropType()) ? Variant(ordinal != 0) : Variant(static_cast<int>(ordinal));
+}
+
+/// What fits 32 bits is an Integer variant, as the framework has it.
+Variant OrdinalValue(qint64 ordinal) {
+  const int narrow = static_cast<int>(ordinal);
+  return narrow == ordinal ? Variant(narrow) : Variant(ordinal);
+}
+
+}  // namespace
+
+Variant GetPropValue(TObject* instance, const TPropInfo* property, bool preferStrings) {
+  switch (property->Kind()) {
+    case tkInteger:
+    case tkChar:
+    case tkWChar:
+    case tkClass:
+      return OrdinalValue(GetOrdProp(instance, property));
+    case tkEnumeration:
+      return EnumValue(instance, property, preferStrings);
+    case tkSet:
+      return preferStrings ? Variant(GetSetProp(instance, property)) : OrdinalValue(GetOrdProp(instance, property));
+    case tkFloat:
+      return Variant(GetFloatProp(instance, property));
+    case tkMethod:
+      return Variant(property->PropType()->Name());
+    case tkString:
+    case tkLString:
+    case tkWString:
+      return Variant(GetStrProp(instance, property));
+    case tkVariant:
+    case tkDynArray:
+      return GetVariantProp(instance, property);
+    case tkInt64:
+      return Int64Value(instance, property);
+    default:
+      RaiseInvalidType(property);
+  }
+}
+
+void SetPropValue(TObject* instance, const TPropInfo* property, const Variant& value) {
+  switch (property->Kind()) {
+    case tkInteger:
+    case tkChar:
+    case tkWChar:
+      return SetOrdProp(instance, property, RangedOrdinal(property, value));
+    case tkEnumeration:
+      return SetEnumValue(instance, property, value);
+    case tkSet:
+      return SetSetValue(instance, property, value);
+    case tkFloat:
+      return SetFloatProp(instance, property, value.ToDouble());
+    case tkString:
+    case tkLString:
+    case tkWString:
+      return SetStrProp(instance, property, VarToStr(value));
+    case tkVariant:
+    case tkDynArray:
+      return SetVariantProp(instance, property, value);
+    case tkInt64:
+      return SetInt64Value(instance, property, value);
+    default:
+      RaiseInvalidType(property);
+  }
+}
+
+}  // namespace kt
