@@ -1,0 +1,68 @@
+#include "kt/rtl/collections/UpdateBracket.h"
+#include "kt/rtl/strings/DelimitedTextReader.h"
+#include "kt/rtl/strings/Strings.h"
+
+#include <algorithm>
+
+namespace kt {
+
+namespace {
+
+using TFormat = TDelimitedTextReader::TFormat;
+
+constexpr QChar Comma = u',';
+constexpr QChar DoubleQuote = u'"';
+
+bool NeedsQuotes(const QString& line, const TFormat& format) {
+  if (format.QuoteChar.isNull()) return false;
+  return std::any_of(line.begin(), line.end(), [&format](QChar character) {
+    return character == format.Delimiter || character == format.QuoteChar || (!format.IsStrict && character <= u' ');
+  });
+}
+
+QString InQuotes(QString line, QChar quote) {
+  line.replace(quote, QString(2, quote));
+  return quote + line + quote;
+}
+
+/// `lineAt` gives each line by its index.
+template <class F>
+QString Joined(int count, const TFormat& format, F&& lineAt) {
+  QString text;
+  for (int i = 0; i < count; ++i) {
+    const QString line = lineAt(i);
+    if (i > 0) text += format.Delimiter;
+    text += NeedsQuotes(line, format) ? InQuotes(line, format.QuoteChar) : line;
+  }
+  // Without quotes the one empty line would look like no line.
+  if (count == 1 && text.isEmpty() && !format.QuoteChar.isNull()) return QString(2, format.QuoteChar);
+  return text;
+}
+
+}  // namespace
+
+QString TStrings::GetCommaText() {
+  return Joined(GetCount(), {Comma, DoubleQuote, GetStrictDelimiter()}, [this](int index) { return Get(index); });
+}
+
+void TStrings::SetCommaText(const QString& text) {
+  SetDelimiter(Comma);
+  SetQuoteChar(DoubleQuote);
+  SetDelimitedText(text);
+}
+
+QString TStrings::GetDelimitedText() {
+  return Joined(GetCount(), {GetDelimiter(), GetQuoteChar(), GetStrictDelimiter()},
+                [this](int index) { return Get(index); });
+}
+
+void TStrings::SetDelimitedText(const QString& text) {
+  // A copy: the caller's text may be what Clear() frees.
+  const QString kept = text;
+  TDelimitedTextReader reader(kept, {GetDelimiter(), GetQuoteChar(), GetStrictDelimiter()});
+  const TUpdateBracket bracket(*this);
+  Clear();
+  for (QString line; reader.Next(line);) Add(line);
+}
+
+}  // namespace kt

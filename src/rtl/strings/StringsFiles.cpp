@@ -1,0 +1,55 @@
+#include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/strings/Strings.h"
+#include "kt/rtl/strings/TextEncoding.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace kt {
+
+namespace {
+
+QByteArray ReadToEnd(QIODevice& stream) {
+  constexpr qint64 ChunkSize = 64 * 1024;
+  QByteArray bytes;
+  for (;;) {
+    const qsizetype size = bytes.size();
+    bytes.resize(size + ChunkSize);
+    const qint64 count = stream.read(bytes.data() + size, ChunkSize);
+    if (count < 0) throw EReadError(SReadError.toString());
+    bytes.resize(size + count);
+    if (count == 0) return bytes;
+  }
+}
+
+template <class E>
+[[noreturn]] void RaiseFileError(QLatin1StringView message, const QFileDevice& file) {
+  throw E(Format(message, {QFileInfo(file.fileName()).absoluteFilePath(), file.errorString()}));
+}
+
+}  // namespace
+
+void TStrings::LoadFromFile(const QString& fileName) {
+  QFile file(fileName);
+  if (!file.open(QIODevice::ReadOnly)) RaiseFileError<EFOpenError>(SFOpenError, file);
+  LoadFromStream(file);
+}
+
+void TStrings::LoadFromStream(QIODevice& stream) { SetTextStr(DecodeText(ReadToEnd(stream))); }
+
+void TStrings::SaveToFile(const QString& fileName) {
+  QSaveFile file(fileName);
+  if (!file.open(QIODevice::WriteOnly)) RaiseFileError<EFCreateError>(SFCreateError, file);
+  SaveToStream(file);
+  if (!file.commit()) throw EWriteError(SWriteError.toString());
+}
+
+void TStrings::SaveToStream(QIODevice& stream) {
+  const QByteArray bytes = EncodeText(GetTextStr());
+  if (stream.write(bytes) != bytes.size()) throw EWriteError(SWriteError.toString());
+}
+
+}  // namespace kt
