@@ -25,10 +25,10 @@ void MergeRuns(std::vector<T>& items, std::vector<T>& buffer, const size_t (&bou
 
 }  // namespace Sorting
 
-/// Sorts by `compare`, which answers a negative number, 0 or a positive one. Equal elements keep their order. A bottom-up
-/// merge sort: at most n log n comparisons for every input, n - 1 when the input is in order already. A comparison that
-/// contradicts itself gives an undefined order, but never leaves the vector or loses an element. One that throws leaves
-/// `items` useless: whoever lets it throw sorts a copy.
+/// Sorts by `compare`, which answers a negative number, 0 or a positive one. Equal elements keep their order. A
+/// bottom-up merge sort: at most n log n comparisons for every input, n - 1 when the input is in order already. A
+/// comparison that contradicts itself gives an undefined order, but never leaves the vector or loses an element. One
+/// that throws leaves `items` useless: whoever lets it throw sorts a copy.
 template <class T, class F>
 void StableSort(std::vector<T>& items, F&& compare) {
   const size_t count = items.size();

@@ -11,9 +11,9 @@ class TObject;
 
 /// The lines of a string list: texts with an object each, in one block of memory.
 ///
-/// Made for many lists of few lines. An empty one holds no block, the block of a single line has room for one line only, and
-/// places for objects exist from the first object that is not null. Objects are not owned. Indices are not checked.
-/// Cost: 16 bytes, and 24 bytes a line (32 with objects) beside the text itself.
+/// Made for many lists of few lines. An empty one holds no block, the block of a single line has room for one line
+/// only, and places for objects exist from the first object that is not null. Objects are not owned. Indices are not
+/// checked. Cost: 16 bytes, and 24 bytes a line (32 with objects) beside the text itself.
 class TStringLines {
  public:
   TStringLines() = default;

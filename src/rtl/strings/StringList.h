@@ -17,8 +17,8 @@ using TStringListSortCompare = std::function<int(TStringList* list, int first, i
 /// A list of lines in memory, optionally sorted, that tells when it changes.
 ///
 /// Every change calls Changing() before and Changed() after it; both raise their event unless the list is in an update
-/// bracket, whose ends call them once instead. An exception of OnChanging prevents the change; one of OnChange comes after it.
-/// A handler that changes the list from within OnChanging gets the interrupted operation checked again.
+/// bracket, whose ends call them once instead. An exception of OnChanging prevents the change; one of OnChange comes
+/// after it. A handler that changes the list from within OnChanging gets the interrupted operation checked again.
 ///
 /// Sorting is stable: lines that compare equal keep their order. It takes n log n comparisons at most, for any input.
 /// While Sorted, Add() finds the place, equal lines going by Duplicates; the operations that name a place raise
@@ -44,7 +44,8 @@ class TStringList : public TStrings {
   void Move(int from, int to) override;
   /// By binary search in a sorted list: the first of equal lines, or -1.
   int IndexOf(QStringView text) override;
-  /// Searches a sorted list. `index` becomes that of the first equal line or, with the answer false, of the place for one.
+  /// Searches a sorted list. `index` becomes that of the first equal line or, with the answer false, of the place for
+  /// one.
   virtual bool Find(QStringView text, int& index) const;
   /// By CompareStrings(). Nothing happens in a sorted list.
   virtual void Sort();

@@ -13,9 +13,9 @@ namespace kt {
 
 /// A list of lines, each with an object that the list does not own.
 ///
-/// Abstract: a descendant says where the lines are kept by overriding Get(), GetCount(), Insert(), Delete() and Clear(), and
-/// as much of the rest as it can do better. Nearly everything goes through Get(), which may change the list (a descendant
-/// brings missing lines into being there); that is why reading is not const.
+/// Abstract: a descendant says where the lines are kept by overriding Get(), GetCount(), Insert(), Delete() and
+/// Clear(), and as much of the rest as it can do better. Nearly everything goes through Get(), which may change the
+/// list (a descendant brings missing lines into being there); that is why reading is not const.
 ///
 /// Errors of descendants are EStringListError, see Error(). Indices count from 0.
 class TStrings : public TPersistent {
@@ -41,7 +41,8 @@ class TStrings : public TPersistent {
   virtual void Move(int from, int to);
 
   /// From another TStrings: replaces the lines, objects and settings (delimiter, separator and so on) within one update
-  /// bracket. The lines go through AddObject(), so that a sorted list stays sorted. A list assigned to itself stays as it is.
+  /// bracket. The lines go through AddObject(), so that a sorted list stays sorted. A list assigned to itself stays as
+  /// it is.
   void Assign(TPersistent* source) override;
   /// True when the other list has the same lines, compared exactly. Objects and settings do not count.
   bool Equals(TStrings& strings);
@@ -68,10 +69,11 @@ class TStrings : public TPersistent {
   QString GetValues(QStringView name);
   /// Changes the value part of the first line with that name or adds a line. An empty value deletes the line instead.
   void SetValues(const QString& name, const QString& value);
-  /// What follows the name part and one character more; so a line without a separator loses its first character. Empty for a
-  /// negative index.
+  /// What follows the name part and one character more; so a line without a separator loses its first character. Empty
+  /// for a negative index.
   QString GetValueFromIndex(int index);
-  /// Changes the value part of a line; a negative index adds a line with an empty name. An empty value deletes the line.
+  /// Changes the value part of a line; a negative index adds a line with an empty name. An empty value deletes the
+  /// line.
   void SetValueFromIndex(int index, const QString& value);
   /// Between name and value; '=' by default.
   QChar GetNameValueSeparator() const;
@@ -79,8 +81,9 @@ class TStrings : public TPersistent {
 
   /// All lines, each followed by LineBreak.
   QString GetText() { return GetTextStr(); }
-  /// Replaces the lines within one update bracket. The text ends at a NUL character if it has one. Lines end with CR, LF or
-  /// CR LF while LineBreak is CR LF, else with exactly LineBreak; what follows the last end of line is a line if not empty.
+  /// Replaces the lines within one update bracket. The text ends at a NUL character if it has one. Lines end with CR,
+  /// LF or CR LF while LineBreak is CR LF, else with exactly LineBreak; what follows the last end of line is a line if
+  /// not empty.
   void SetText(const QString& text) { SetTextStr(text); }
   /// Ends a line in Text; CR LF by default.
   QString GetLineBreak() const;
@@ -90,11 +93,12 @@ class TStrings : public TPersistent {
   QString GetCommaText();
   /// Leaves Delimiter a comma and QuoteChar a double quote.
   void SetCommaText(const QString& text);
-  /// The lines with Delimiter between them. A line that holds Delimiter, QuoteChar or, unless StrictDelimiter, a blank or
-  /// control character is enclosed in QuoteChar, and each QuoteChar in it is doubled. One empty line gives two QuoteChars.
+  /// The lines with Delimiter between them. A line that holds Delimiter, QuoteChar or, unless StrictDelimiter, a blank
+  /// or control character is enclosed in QuoteChar, and each QuoteChar in it is doubled. One empty line gives two
+  /// QuoteChars.
   QString GetDelimitedText();
-  /// Replaces the lines within one update bracket. Unless StrictDelimiter, blanks and control characters separate lines too,
-  /// and those around a delimiter do not count. A quoted line that does not end takes the rest of the text.
+  /// Replaces the lines within one update bracket. Unless StrictDelimiter, blanks and control characters separate lines
+  /// too, and those around a delimiter do not count. A quoted line that does not end takes the rest of the text.
   void SetDelimitedText(const QString& text);
   /// Comma by default.
   QChar GetDelimiter() const;
@@ -111,8 +115,8 @@ class TStrings : public TPersistent {
   virtual void LoadFromFile(const QString& fileName);
   /// The same from the present position of an open device to its end.
   virtual void LoadFromStream(QIODevice& stream);
-  /// Writes the text in UTF-8 without a byte-order mark. The file is replaced when all is written, or else stays what it was.
-  /// Raises EFCreateError 'Cannot create file "%s". %s' or EWriteError.
+  /// Writes the text in UTF-8 without a byte-order mark. The file is replaced when all is written, or else stays what
+  /// it was. Raises EFCreateError 'Cannot create file "%s". %s' or EWriteError.
   virtual void SaveToFile(const QString& fileName);
   virtual void SaveToStream(QIODevice& stream);
 
@@ -122,7 +126,7 @@ class TStrings : public TPersistent {
   int GetUpdateCount() const { return FUpdateCount; }
 
  protected:
-  TStrings() = default;
+  TStrings();
 
   virtual QString Get(int index) = 0;
   /// Deletes the line and inserts the new one with the same object, here.

@@ -11,7 +11,8 @@ struct TStrings::TSettings {
   bool StrictDelimiter = false;
 };
 
-// Here, because only here the settings are known.
+// Both here, because only here the settings are known.
+TStrings::TStrings() = default;
 TStrings::~TStrings() = default;
 
 const TStrings::TSettings& TStrings::Settings() const {
