@@ -131,8 +131,10 @@ void ReadTimes(TFormatSettings& settings, const QLocale& locale) {
 struct TLocaleState {
   QLocale Locale;
   TFormatSettings Settings{Locale};
-  std::atomic<unsigned> Generation{1};
 };
+
+/// Outside of the state because comparisons look at it each time.
+constinit std::atomic<unsigned> Generation{1};
 
 TLocaleState& State() {
   static TLocaleState state;
@@ -164,9 +166,9 @@ void SetFormatLocale(const QLocale& locale) {
   TLocaleState& state = State();
   state.Locale = locale;
   state.Settings = TFormatSettings(locale);
-  state.Generation.fetch_add(1, std::memory_order_release);
+  Generation.fetch_add(1, std::memory_order_release);
 }
 
-unsigned FormatLocaleGeneration() { return State().Generation.load(std::memory_order_acquire); }
+unsigned FormatLocaleGeneration() { return Generation.load(std::memory_order_acquire); }
 
 }  // namespace kt

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <numeric>
 #include <optional>
 #include <vector>
@@ -15,10 +16,19 @@ namespace {
 
 constexpr char16_t FirstAscii = 0x20;
 constexpr char16_t LastAscii = 0x7e;
+constexpr quint8 NoRank = 0xff;
 
-bool IsPlain(char16_t c) { return c >= FirstAscii && c <= LastAscii; }
-
-bool IsPlainOrEnd(QStringView text, qsizetype at) { return at >= text.size() || IsPlain(text[at].unicode()); }
+/// Where two texts first differ, or the length of the shorter one; four characters at a time.
+qsizetype Mismatch(QStringView s1, QStringView s2) {
+  constexpr qsizetype step = 4;
+  const qsizetype common = std::min(s1.size(), s2.size());
+  qsizetype i = 0;
+  for (; i + step <= common; i += step) {
+    if (std::memcmp(s1.utf16() + i, s2.utf16() + i, step * sizeof(char16_t)) != 0) break;
+  }
+  while (i < common && s1[i] == s2[i]) ++i;
+  return i;
+}
 
 /// Languages that sort printable ASCII as the root order does: each character by itself, without contractions such as
 /// "ch".
@@ -38,24 +48,24 @@ class TLocaleOrder {
   void Refresh();
   void ReadAsciiRanks();
   std::optional<int> ComparePlain(QStringView s1, QStringView s2, Qt::CaseSensitivity sensitivity) const;
+  bool IsPlain(QChar c) const { return c.unicode() < FRanks.size() && FRanks[c.unicode()] != NoRank; }
+  bool IsPlainOrEnd(QStringView text, qsizetype at) const { return at >= text.size() || IsPlain(text[at]); }
   int CompareCase(char16_t c1, char16_t c2) const;
 
   unsigned FGeneration = 0;
   bool FIsOrdinal = true;
-  bool FHasRanks = false;
   bool FIsLowerFirst = true;
   QCollator FSensitive;
   QCollator FInsensitive;
+  /// The place of each ASCII character, NoRank for those that only the collator can judge.
   std::array<quint8, 128> FRanks{};
 };
 
 int TLocaleOrder::Compare(QStringView s1, QStringView s2, Qt::CaseSensitivity sensitivity) {
   if (FGeneration != FormatLocaleGeneration()) Refresh();
+  if (FIsOrdinal && sensitivity == Qt::CaseSensitive) return s1.compare(s2);
+  if (const std::optional<int> result = ComparePlain(s1, s2, sensitivity)) return *result;
   if (FIsOrdinal) return s1.compare(s2, sensitivity);
-  if (s1 == s2) return 0;
-  if (FHasRanks) {
-    if (const std::optional<int> result = ComparePlain(s1, s2, sensitivity)) return *result;
-  }
   return (sensitivity == Qt::CaseSensitive ? FSensitive : FInsensitive).compare(s1, s2);
 }
 
@@ -66,8 +76,13 @@ void TLocaleOrder::Refresh() {
   FSensitive = QCollator(locale);
   FInsensitive = QCollator(locale);
   FInsensitive.setCaseSensitivity(Qt::CaseInsensitive);
-  FHasRanks = SortsAsciiByCharacter(locale);
-  if (FHasRanks) ReadAsciiRanks();
+  FRanks.fill(NoRank);
+  if (FIsOrdinal) {
+    for (std::size_t c = 0; c < FRanks.size(); ++c)
+      FRanks[c] = static_cast<quint8>(c >= 'A' && c <= 'Z' ? c + 0x20 : c);
+  } else if (SortsAsciiByCharacter(locale)) {
+    ReadAsciiRanks();
+  }
 }
 
 void TLocaleOrder::ReadAsciiRanks() {
@@ -85,23 +100,26 @@ void TLocaleOrder::ReadAsciiRanks() {
   FIsLowerFirst = FSensitive.compare(QStringView(u"a"), QStringView(u"A")) < 0;
 }
 
-/// The collator's answer where it follows from single characters alone: every character before the deciding place is
-/// printable ASCII, and so is the one after it (an accent there would change the letter).
+/// The collator's answer where it follows from single characters alone. What both texts begin with does not count as
+/// long as the last character of it is plain; the deciding characters are, and so are those behind them (an accent
+/// there would change the letter).
 std::optional<int> TLocaleOrder::ComparePlain(QStringView s1, QStringView s2, Qt::CaseSensitivity sensitivity) const {
   const qsizetype common = std::min(s1.size(), s2.size());
   int caseResult = 0;
-  for (qsizetype i = 0; i < common; ++i) {
-    const char16_t c1 = s1[i].unicode();
-    const char16_t c2 = s2[i].unicode();
+  qsizetype i = Mismatch(s1, s2);
+  if (i == s1.size() && i == s2.size()) return 0;
+  if (i > 0 && !IsPlain(s1[i - 1])) return std::nullopt;
+  for (; i < common; ++i) {
+    const QChar c1 = s1[i];
+    const QChar c2 = s2[i];
     if (!IsPlain(c1) || !IsPlain(c2)) return std::nullopt;
     if (c1 == c2) continue;
-    const int difference = FRanks[c1] - FRanks[c2];
-    if (difference == 0) {
-      if (caseResult == 0) caseResult = CompareCase(c1, c2);
-      continue;
+    const int difference = FRanks[c1.unicode()] - FRanks[c2.unicode()];
+    if (difference != 0) {
+      if (!IsPlainOrEnd(s1, i + 1) || !IsPlainOrEnd(s2, i + 1)) return std::nullopt;
+      return difference;
     }
-    if (!IsPlainOrEnd(s1, i + 1) || !IsPlainOrEnd(s2, i + 1)) return std::nullopt;
-    return difference;
+    if (caseResult == 0) caseResult = CompareCase(c1.unicode(), c2.unicode());
   }
   if (!IsPlainOrEnd(s1, common) || !IsPlainOrEnd(s2, common)) return std::nullopt;
   if (s1.size() != s2.size()) return s1.size() < s2.size() ? -1 : 1;
@@ -134,7 +152,7 @@ int CompareStr(QStringView s1, QStringView s2) { return s1.compare(s2); }
 
 int CompareText(QStringView s1, QStringView s2) {
   const qsizetype common = std::min(s1.size(), s2.size());
-  for (qsizetype i = 0; i < common; ++i) {
+  for (qsizetype i = Mismatch(s1, s2); i < common; ++i) {
     const int difference = AsciiUpper(s1[i]) - AsciiUpper(s2[i]);
     if (difference != 0) return difference;
   }

@@ -45,7 +45,7 @@ TEST(FormatSettingsTest, ATwelveHourClockHasItsPlaceForTheHalf) {
 
 TEST(FormatSettingsTest, TheSettingsFollowTheLocale) {
   const unsigned before = FormatLocaleGeneration();
-  const TLocaleGuard guard(QLocale(QLocale::French));
+  const TLocaleGuard guard{QLocale(QLocale::French)};
   EXPECT_EQ(QLocale::French, FormatLocale().language());
   EXPECT_EQ(",", FormatSettings().DecimalSeparator);
   EXPECT_NE(before, FormatLocaleGeneration());

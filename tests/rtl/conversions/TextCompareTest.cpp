@@ -42,18 +42,18 @@ TEST(TextCompareTest, SameTextNeedsTheSameLength) {
 }
 
 TEST(TextCompareTest, TheInvariantLocaleIsOrdinalForStr) {
-  const TLocaleGuard guard(QLocale::c());
+  const TLocaleGuard guard{QLocale::c()};
   EXPECT_LT(AnsiCompareStr(u"B", u"a"), 0);
 }
 
 TEST(TextCompareTest, TheInvariantLocaleIgnoresCaseOfEveryLetterForText) {
-  const TLocaleGuard guard(QLocale::c());
+  const TLocaleGuard guard{QLocale::c()};
   EXPECT_EQ(0, AnsiCompareText(u"\u00e9A", u"\u00c9a"));
   EXPECT_LT(AnsiCompareText(u"a", u"B"), 0);
 }
 
 TEST(TextCompareTest, LettersComeInDictionaryOrderInALanguage) {
-  const TLocaleGuard guard(QLocale(QLocale::English));
+  const TLocaleGuard guard{QLocale(QLocale::English)};
   EXPECT_LT(AnsiCompareStr(u"a", u"B"), 0);
   EXPECT_LT(AnsiCompareStr(u"a", u"A"), 0);
   EXPECT_LT(AnsiCompareStr(u"A", u"ab"), 0);
@@ -62,33 +62,33 @@ TEST(TextCompareTest, LettersComeInDictionaryOrderInALanguage) {
 }
 
 TEST(TextCompareTest, CaseDecidesOnlyWhenNothingElseDoes) {
-  const TLocaleGuard guard(QLocale(QLocale::English));
+  const TLocaleGuard guard{QLocale(QLocale::English)};
   EXPECT_LT(AnsiCompareStr(u"Aa", u"aB"), 0);
   EXPECT_GT(AnsiCompareStr(u"AB", u"aB"), 0);
 }
 
 TEST(TextCompareTest, CaseDoesNotMatterForText) {
-  const TLocaleGuard guard(QLocale(QLocale::English));
+  const TLocaleGuard guard{QLocale(QLocale::English)};
   EXPECT_TRUE(AnsiSameText(u"\u00c9cole", u"\u00e9COLE"));
   EXPECT_FALSE(AnsiSameStr(u"\u00c9cole", u"\u00e9COLE"));
   EXPECT_TRUE(AnsiSameStr(u"\u00e9", u"\u00e9"));
 }
 
 TEST(TextCompareTest, AnAccentBehindTheDecidingLetterIsSeen) {
-  const TLocaleGuard guard(QLocale(QLocale::Spanish));
+  const TLocaleGuard guard{QLocale(QLocale::Spanish)};
   EXPECT_GT(AnsiCompareText(u"n\u0303", u"nz"), 0);
   EXPECT_LT(AnsiCompareText(u"n\u0303", u"o"), 0);
 }
 
 TEST(TextCompareTest, ContractionsOfALanguageAreKept) {
-  const TLocaleGuard guard(QLocale(QLocale::Czech));
+  const TLocaleGuard guard{QLocale(QLocale::Czech)};
   EXPECT_GT(AnsiCompareText(u"chata", u"cz"), 0);
 }
 
 TEST(TextCompareTest, ANewLocaleIsUsedAtOnce) {
-  const TLocaleGuard english(QLocale(QLocale::English));
+  const TLocaleGuard english{QLocale(QLocale::English)};
   EXPECT_LT(AnsiCompareText(u"chata", u"cz"), 0);
-  const TLocaleGuard czech(QLocale(QLocale::Czech));
+  const TLocaleGuard czech{QLocale(QLocale::Czech)};
   EXPECT_GT(AnsiCompareText(u"chata", u"cz"), 0);
 }
 
@@ -122,7 +122,7 @@ class TextCompareLanguageTest : public ::testing::TestWithParam<QLocale::Languag
 
 TEST_P(TextCompareLanguageTest, AgreesWithTheCollatorOnRandomTexts) {
   const QLocale locale(GetParam());
-  const TLocaleGuard guard(locale);
+  const TLocaleGuard guard{locale};
   EXPECT_EQ(QString(), FirstDifference(locale, Qt::CaseSensitive));
   EXPECT_EQ(QString(), FirstDifference(locale, Qt::CaseInsensitive));
 }

@@ -52,7 +52,7 @@ TEST(VariantConvertTest, NullHasNoTextExceptThroughVarToStr) {
 }
 
 TEST(VariantConvertTest, NumbersFollowTheLocale) {
-  const TLocaleGuard guard(QLocale(QLocale::German));
+  const TLocaleGuard guard{QLocale(QLocale::German)};
   EXPECT_EQ("1,5", VarToStr(1.5));
   EXPECT_EQ(1.5, Variant("1,5").ToDouble());
   EXPECT_EQ("01.01.1900", VarToStr(VarFromDateTime(2)));
