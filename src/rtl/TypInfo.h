@@ -5,6 +5,7 @@
 #include "kt/rtl/typeinfo/ClassInfo.h"
 #include "kt/rtl/typeinfo/EnumNames.h"
 #include "kt/rtl/typeinfo/PropLists.h"
+#include "kt/rtl/typeinfo/PropPath.h"
 #include "kt/rtl/typeinfo/PropValues.h"
 #include "kt/rtl/typeinfo/TypeInfo.h"
 #include "kt/rtl/typeinfo/TypeOf.h"

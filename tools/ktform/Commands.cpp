@@ -6,9 +6,10 @@
 namespace ktform {
 namespace {
 
-constexpr std::array<TCommand, 3> kCommands{{
+constexpr std::array<TCommand, 4> kCommands{{
     {"to-text", "[--crlf] [--utf8] IN OUT", "write a form as text", RunToText},
     {"to-binary", "[--resource] IN OUT", "write a form as binary", RunToBinary},
+    {"set", "IN OUT Path=Value...", "change properties", RunSet},
     {"check", "FILE...", "convert each form to the other format and back, and compare", RunCheck},
 }};
 

@@ -31,6 +31,7 @@ bool AreFileNames(const QStringList& arguments, qsizetype count);
 
 TExitStatus RunToText(const QStringList& arguments);
 TExitStatus RunToBinary(const QStringList& arguments);
+TExitStatus RunSet(const QStringList& arguments);
 TExitStatus RunCheck(const QStringList& arguments);
 
 }  // namespace ktform

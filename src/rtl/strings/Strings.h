@@ -128,6 +128,8 @@ class TStrings : public TPersistent {
  protected:
   TStrings();
 
+  void DefineProperties(TFiler& filer) override;
+
   virtual QString Get(int index) = 0;
   /// Deletes the line and inserts the new one with the same object, here.
   virtual void Put(int index, const QString& text);
