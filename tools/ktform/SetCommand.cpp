@@ -26,7 +26,6 @@ std::unique_ptr<kt::TComponent> LoadForm(const QByteArray& form) {
   QByteArray binary;
   kt::TBinaryWriter output(binary);
   kt::TBinaryFormWriter writer(output);
-  output.WriteSignature();
   kt::ReadForm(form, writer);
   output.Flush();
   kt::TReader reader(binary);
