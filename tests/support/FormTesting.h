@@ -96,6 +96,15 @@ inline QByteArray FileContent(const QString& name) {
   return file.readAll();
 }
 
+/// The sizes at which `form`, cut off there, is not answered by one error of ours that names its place.
+template <typename TErrorOfCut>
+QList<qsizetype> SilentCuts(const QByteArray& form, TErrorOfCut errorOf, const QString& place) {
+  QList<qsizetype> silent;
+  for (qsizetype size = 0; size < form.size(); ++size)
+    if (!errorOf(form.left(size)).contains(place)) silent += size;
+  return silent;
+}
+
 /// The header of a binary form `A: TA` up to its properties.
 inline QByteArray BinaryHead() { return QByteArray("TPF0\2TA\1A", 9); }
 
