@@ -42,7 +42,8 @@ void TStrings::LoadFromStream(QIODevice& stream) { SetTextStr(DecodeText(ReadToE
 
 void TStrings::SaveToFile(const QString& fileName) {
   QSaveFile file(fileName);
-  if (!file.open(QIODevice::WriteOnly)) RaiseFileError<EFCreateError>(SFCreateError, file);
+  // Unbuffered: committing does not notice that its buffer could not be written in full.
+  if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) RaiseFileError<EFCreateError>(SFCreateError, file);
   SaveToStream(file);
   if (!file.commit()) throw EWriteError(SWriteError.toString());
 }
