@@ -22,6 +22,9 @@ class Exception : public std::exception {
   mutable QByteArray FUtf8;
 };
 
+// A table, one class a line.
+// clang-format off
+
 /// Ends an operation without a message: handlers let it pass silently.
 class EAbort : public Exception {
   using Exception::Exception;
@@ -120,5 +123,7 @@ class EInvalidImage : public EFilerError {
 class EParserError : public Exception {
   using Exception::Exception;
 };
+
+// clang-format on
 
 }  // namespace kt
