@@ -46,7 +46,7 @@ for kind in shared=ON static=OFF; do
   install_release "${kind%=*}-install" "${kind#*=}"
   consumer_works "${kind%=*}" -D CMAKE_PREFIX_PATH="$work/${kind%=*}-install"
 done
-consumer_is_refused unknown-component 'required components are missing: nosuch' \
+consumer_is_refused unknown-component 'kt::nosuch is not among the installed libraries' \
   -D CMAKE_PREFIX_PATH="$work/static-install" -D KT_FIND_COMPONENTS='rtl;nosuch'
 consumer_is_refused later-version 'compatible with requested version "99.0"' \
   -D CMAKE_PREFIX_PATH="$work/static-install" -D KT_FIND_VERSION=99.0
