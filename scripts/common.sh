@@ -70,8 +70,11 @@ build() {
   local -a arguments=(--build "$root/build/$1" --parallel "$jobs")
   shift
   [ $# -eq 0 ] || arguments+=(--target "$@")
-  [ -t 1 ] || arguments+=(-- --quiet)
-  cmake "${arguments[@]}" || die "the $preset build failed"
+  if [ -t 1 ]; then
+    cmake "${arguments[@]}" || die "the $preset build failed"
+  else
+    cmake "${arguments[@]}" -- --quiet | sed '/^ninja: no work to do.$/d' || die "the $preset build failed"
+  fi
 }
 
 # run_tests PRESET [CTEST ARGUMENT]...: on a terminal one line that moves on, else only failures and the summary.
