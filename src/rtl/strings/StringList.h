@@ -18,8 +18,8 @@ using TStringListSortCompare = std::function<int(TStringList* list, int first, i
 ///
 /// Every change calls Changing() before and Changed() after it; both raise their event unless the list is in an update
 /// bracket, whose ends call them once instead. An exception of OnChanging prevents the change; one of OnChange comes
-/// after it. A handler that changes the list from within OnChanging gets the interrupted operation checked again. One of
-/// OnChange may free the list, except while Sorted or CaseSensitive is being set.
+/// after it. A handler that changes the list from within OnChanging gets the interrupted operation checked again. One
+/// of OnChange may free the list, except while Sorted or CaseSensitive is being set.
 ///
 /// Sorting is stable: lines that compare equal keep their order. It takes n log n comparisons at most, for any input.
 /// While Sorted, Add() finds the place, equal lines going by Duplicates; the operations that name a place raise
