@@ -91,6 +91,7 @@ const TClassInfo* TSample::Class() {
                                      .Property<&TSample::Big>("Big")
                                      .Property<&TSample::Huge>("Huge")
                                      .Property<&TSample::Partner>("Partner")
+                                     .Property<&TSample::Sibling>("Sibling")
                                      .Property<&TSample::Reference>("Reference")
                                      .Property<&TSample::GetPart, &TSample::SetPart>("Part")
                                      .Property<&TSample::GetItems, &TSample::SetItems>("Items")
@@ -111,6 +112,7 @@ void TSample::Construct() {
 void TSample::Notification(TComponent* component, TOperation operation) {
   TComponent::Notification(component, operation);
   if (operation == opRemove && component == Partner) Partner = nullptr;
+  if (operation == opRemove && component == Sibling) Sibling = nullptr;
 }
 
 void TSample::GetChildren(const TGetChildProc& proc, TComponent* root) {

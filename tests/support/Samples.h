@@ -107,6 +107,7 @@ class TSample : public TComponent {
   qint64 Big = 0;
   quint64 Huge = 0;
   TComponent* Partner = nullptr;
+  TSample* Sibling = nullptr;
   IInterfaceComponentReference* Reference = nullptr;
   TNotifyEvent OnAction;
   bool IsTextStored = true;

@@ -29,6 +29,7 @@ void TCollection::SetItem(int index, TCollectionItem* value) { GetItem(index)->A
 TCollectionItem* TCollection::Add() { return static_cast<TCollectionItem*>(FItemClass->CreateInstance(this)); }
 
 TCollectionItem* TCollection::Insert(int index) {
+  if (index < 0 || index > GetCount()) throw EListError(Format(SListIndexError, {index}));
   TCollectionItem* item = Add();
   item->SetIndex(index);
   return item;
@@ -36,8 +37,11 @@ TCollectionItem* TCollection::Insert(int index) {
 
 void TCollection::Delete(int index) {
   TCollectionItem* item = GetItem(index);
+  const int id = item->FID;
   Notify(item, cnDeleting);
-  delete item;
+  // Whoever was told may have deleted it, or moved it.
+  const bool isInPlace = index < GetCount() && FItems.At(index)->FID == id;
+  delete (isInPlace ? item : FindItemID(id));
 }
 
 void TCollection::Clear() {
@@ -94,8 +98,11 @@ void TCollection::Notify(TCollectionItem* item, TCollectionNotification action) 
 
 void TCollection::SwapItems(int first, int second) { FItems.Exchange(first, second); }
 
-void TCollection::InsertItem(TCollectionItem* item) {
+void TCollection::CheckClass(const TCollectionItem* item) const {
   if (!item->InheritsFrom(FItemClass)) throw EListError(SInvalidProperty.toString());
+}
+
+void TCollection::InsertItem(TCollectionItem* item) {
   FItems.Append(item);
   item->FCollection = this;
   item->FID = FNextID++;

@@ -89,7 +89,7 @@ class TCollection : public TPersistent {
   void SetItem(int index, TCollectionItem* value);
   /// Creates an item at the end.
   TCollectionItem* Add();
-  /// Creates an item at `index`.
+  /// Creates an item at `index`. Raises EListError, and creates nothing, for an index outside 0..GetCount().
   TCollectionItem* Insert(int index);
   void Delete(int index);
   void Clear();
@@ -129,6 +129,7 @@ class TCollection : public TPersistent {
   void SwapItems(int first, int second);
 
  private:
+  void CheckClass(const TCollectionItem* item) const;
   void InsertItem(TCollectionItem* item);
   void RemoveItem(TCollectionItem* item);
   void Forget(TCollectionItem* item);

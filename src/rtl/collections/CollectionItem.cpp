@@ -24,6 +24,7 @@ void TCollectionItem::Destruct() {
 
 void TCollectionItem::SetCollection(TCollection* value) {
   if (GetCollection() == value) return;
+  if (value) value->CheckClass(this);
   if (IsInCollection()) FCollection->RemoveItem(this);
   if (value) value->InsertItem(this);
 }

@@ -48,15 +48,18 @@ class TGapSequence {
       RemoveAt(IndexOf(element));
     }
     element->FSlot = -1;
+    if (Count() == 0) Release();
   }
 
   void Move(int from, int to) {
     if (from == to) return;
+    EnsureRoom();
     T* element = At(from);
     if (element == FAside) {
       FAside = nullptr;
     } else {
       Settle();
+      EnsureRoom();
       RemoveAt(from);
     }
     InsertAt(to, element);
@@ -85,11 +88,17 @@ class TGapSequence {
   int SlotOf(int index) const { return index < FGapStart ? index : index + GapSize(); }
 
   void Settle() {
-    if (FAside) InsertAt(FCount, std::exchange(FAside, nullptr));
+    if (!FAside) return;
+    EnsureRoom();
+    InsertAt(FCount, std::exchange(FAside, nullptr));
+  }
+
+  /// The only place that can fail, before anything has changed.
+  void EnsureRoom() {
+    if (FCount == FCapacity) Grow(FCapacity < 4 ? 4 : FCapacity * 2);
   }
 
   void InsertAt(int index, T* element) {
-    if (FCount == FCapacity) Grow(FCapacity < 4 ? 4 : FCapacity * 2);
     MoveGap(index);
     Put(FGapStart, element);
     ++FGapStart;
@@ -104,7 +113,6 @@ class TGapSequence {
       MoveGap(index);
     }
     --FCount;
-    if (FCount == 0) Release();
   }
 
   void MoveGap(int index) {

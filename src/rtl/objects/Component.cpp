@@ -45,6 +45,8 @@ void TComponent::Destruct() {
   // The owner lets go even when somebody it tells raises an exception.
   if (FOwner) GuardedCall([this] { FOwner->RemoveComponent(this); });
   if (FOwner) FOwner->Forget(this);
+  // Whoever began to watch while all this was told.
+  TellWatchers();
   TPersistent::Destruct();
 }
 
@@ -85,9 +87,10 @@ TComponent* TComponent::FindComponent(QStringView name) const {
 }
 
 void TComponent::InsertComponent(TComponent* component) {
-  Q_ASSERT(!component->FOwner);
+  if (component->FOwner == this) return;
   component->ValidateContainer(this);
   if (FindComponent(component->FName)) throw EComponentError(Format(SDuplicateName, {component->FName}));
+  if (component->FOwner) component->FOwner->RemoveComponent(component);
   ValidateRename(component, QString(), component->FName);
   EnsureOwned().Add(component, component->FName);
   component->FOwner = this;
@@ -127,7 +130,6 @@ void TComponent::Destroying() {
 void TComponent::FreeNotification(TComponent* component) {
   FComponentState.Include(csFreeNotification);
   if (FOwner && component->FOwner == FOwner) return;
-  Q_ASSERT(!HasState(csDestroying) && !component->HasState(csDestroying));
   if (std::find(FFreeNotifies.begin(), FFreeNotifies.end(), component) != FFreeNotifies.end()) return;
   FFreeNotifies.push_back(component);
   component->FreeNotification(this);
@@ -157,8 +159,9 @@ QString TComponent::GetNamePath() { return FName; }
 void TComponent::Notification(TComponent* component, TOperation operation) {
   if (operation == opRemove && component) RemoveFreeNotification(component);
   // Downwards, and cut to what is left each time: a notified component may free others.
-  for (int i = GetComponentCount() - 1; i >= 0; i = std::min(i - 1, GetComponentCount() - 1)) {
-    FOwned->List()[i]->Notification(component, operation);
+  if (!FOwned) return;
+  for (int i = FOwned->ListenerCount() - 1; i >= 0; i = std::min(i - 1, FOwned->ListenerCount() - 1)) {
+    FOwned->Listener(i)->Notification(component, operation);
   }
 }
 
@@ -185,7 +188,10 @@ void TComponent::ValidateRename(TComponent* component, const QString& current, c
 void TComponent::ValidateContainer(TComponent* container) { container->ValidateInsert(this); }
 
 TOwnedComponents& TComponent::EnsureOwned() {
-  if (!FOwned) FOwned = std::make_unique<TOwnedComponents>();
+  if (FOwned) return *FOwned;
+  FOwned = std::make_unique<TOwnedComponents>();
+  // From now on notifications have a way to go through here.
+  if (FOwner) FOwner->FOwned->ListenersChanged();
   return *FOwned;
 }
 

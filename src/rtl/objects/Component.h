@@ -47,12 +47,15 @@ using TComponentStyle = TSet<TComponentStyleItem>;
 /// Notification(component, opRemove), before its own members go; it may be destroyed inside any notification but its
 /// own.
 ///
-/// Cost: inserting, removing the last, finding by name and renaming take constant time on average; removing another one
-/// takes time in proportion to its distance from the end of the owner's list.
+/// Cost: inserting, removing the last, finding by name and renaming take constant time on average, and a call for each
+/// sibling that overrides Notification() or owns components; removing another one than the last also takes time in
+/// proportion to its distance from the end of the owner's list.
 class TComponent : public TPersistent, public IInterfaceComponentReference {
  public:
   using Inherited = TPersistent;
   using TCreatedIn = TComponent;
+  /// The class whose Notification() has nothing to do of its own; see TInstance.
+  using TNotificationRoot = TComponent;
   using TGetChildProc = std::function<void(TComponent* child)>;
 
   static const TClassInfo* Class();
@@ -76,7 +79,7 @@ class TComponent : public TPersistent, public IInterfaceComponentReference {
   void SetComponentIndex(int value);
   /// The owned component of that name, without regard to case, or null.
   TComponent* FindComponent(QStringView name) const;
-  /// Takes over the ownership; the component must have no owner. Raises EComponentError when the name is taken.
+  /// Takes over the ownership, from the present owner if there is one. Raises EComponentError when the name is taken.
   void InsertComponent(TComponent* component);
   /// Gives up the ownership; the caller owns the component then.
   void RemoveComponent(TComponent* component);
@@ -108,6 +111,7 @@ class TComponent : public TPersistent, public IInterfaceComponentReference {
 
  protected:
   friend class TLoad;
+  friend class TOwnedComponents;
   friend class TReader;
   friend class TWriter;
 
@@ -145,11 +149,15 @@ class TComponent : public TPersistent, public IInterfaceComponentReference {
   virtual void ValidateContainer(TComponent* container);
   virtual void ValidateInsert(TComponent*) {}
   void ChangeName(const QString& value);
+  /// Whether the class overrides Notification(); TInstance knows.
+  void SetHearsNotifications(bool value) { FHearsNotifications = value; }
 
   TComponentState FComponentState;
   TComponentStyle FComponentStyle = {csInheritable};
 
  private:
+  /// True when Notification() would do something here or further down.
+  bool HearsNotifications() const { return FHearsNotifications || FOwned; }
   TOwnedComponents& EnsureOwned();
   void Forget(TComponent* component);
   void TellWatchers();
@@ -161,6 +169,7 @@ class TComponent : public TPersistent, public IInterfaceComponentReference {
   QString FName;
   int FTag = 0;
   qint32 FDesignInfo = 0;
+  bool FHearsNotifications = true;
   std::unique_ptr<TOwnedComponents> FOwned;
   std::vector<TComponent*> FFreeNotifies;
 };

@@ -32,7 +32,7 @@ struct TKeptData {
   TComponent* StandInParent = nullptr;
 };
 
-/// Kept data lies beside the objects, in a table of the thread that loads forms, because next to no object has any. An
+/// Kept data lies beside the objects, in a table of the process, because next to no object has any. An
 /// object's entry goes with the object.
 
 /// Null when nothing was kept. Never looks at the object itself, so a pointer to one that is gone only finds nothing.

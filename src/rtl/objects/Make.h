@@ -10,12 +10,28 @@
 
 namespace kt {
 
-/// The class that Make() really instantiates: opens the protected constructors of T and adds nothing.
+/// The class that Make() really instantiates: opens the protected constructors of T. It also tells a component whether
+/// its class overrides Notification(), so that owners pass by those with nothing to hear.
 template <class T>
 class TInstance final : public T {
  public:
   template <class... A>
-  explicit TInstance(A&&... args) : T(std::forward<A>(args)...) {}
+  explicit TInstance(A&&... args) : T(std::forward<A>(args)...) {
+    if constexpr (requires { typename T::TNotificationRoot; }) this->SetHearsNotifications(OverridesNotification());
+  }
+
+ private:
+  template <class C, class... A>
+  static C* Declaring(void (C::*)(A...));
+
+  static constexpr bool OverridesNotification() {
+    // An override that cannot be named from here is one all the same.
+    if constexpr (requires { Declaring(&TInstance::Notification); }) {
+      return !std::same_as<decltype(Declaring(&TInstance::Notification)), typename T::TNotificationRoot*>;
+    } else {
+      return true;
+    }
+  }
 };
 
 /// Creates a T from its constructor's arguments and runs its second phase of construction. The caller owns the result.

@@ -32,8 +32,10 @@ void TObjectLife::Begin(TObject* object) {
 
 void TObjectLife::Abandon(TObject* object) noexcept {
   GuardedCall([object] { object->Destruct(); });
+  // The start of the memory, which is not where TObject lies when another base class comes first.
+  void* memory = dynamic_cast<void*>(object);
   object->~TObject();
-  ::operator delete(object);
+  ::operator delete(memory);
 }
 
 void TObjectLife::End(TObject* object) noexcept {

@@ -16,6 +16,7 @@ TComponent* TOwnedComponents::Find(QStringView name) const { return FByName.valu
 
 void TOwnedComponents::Add(TComponent* component, const QString& name) {
   FList.push_back(component);
+  if (component->HearsNotifications()) FListeners.push_back(component);
   IndexName(component, name);
 }
 
@@ -23,6 +24,7 @@ void TOwnedComponents::Remove(TComponent* component, const QString& name) {
   const int index = IndexOf(component);
   if (index < 0) return;
   FList.erase(FList.begin() + index);
+  if (component->HearsNotifications()) ForgetListener(component);
   ForgetName(component, name);
 }
 
@@ -30,6 +32,21 @@ void TOwnedComponents::Move(int from, int to) {
   TComponent* component = FList[from];
   FList.erase(FList.begin() + from);
   FList.insert(FList.begin() + to, component);
+  ListenersChanged();
+}
+
+void TOwnedComponents::ForgetListener(const TComponent* component) {
+  const auto found = std::find(FListeners.rbegin(), FListeners.rend(), component);
+  if (found != FListeners.rend()) FListeners.erase(std::next(found).base());
+}
+
+const std::vector<TComponent*>& TOwnedComponents::Listeners() {
+  if (FListenersAreKnown) return FListeners;
+  FListenersAreKnown = true;
+  FListeners.clear();
+  std::copy_if(FList.begin(), FList.end(), std::back_inserter(FListeners),
+               [](const TComponent* component) { return component->HearsNotifications(); });
+  return FListeners;
 }
 
 void TOwnedComponents::Renamed(TComponent* component, const QString& from, const QString& to) {

@@ -22,15 +22,25 @@ class TOwnedComponents {
   void Add(TComponent* component, const QString& name);
   void Remove(TComponent* component, const QString& name);
   void Move(int from, int to);
+  /// The components that have something to do when they are notified, in the order of the list.
+  int ListenerCount() { return static_cast<int>(Listeners().size()); }
+  TComponent* Listener(int index) { return Listeners()[index]; }
+  /// A component has become a listener.
+  void ListenersChanged() { FListenersAreKnown = false; }
+
   void Renamed(TComponent* component, const QString& from, const QString& to);
 
  private:
+  const std::vector<TComponent*>& Listeners();
+  void ForgetListener(const TComponent* component);
   void IndexName(TComponent* component, const QString& name);
   void ForgetName(TComponent* component, const QString& name);
 
   std::vector<TComponent*> FList;
   QHash<QString, TComponent*> FByName;
   bool FHasEqualNames = false;
+  std::vector<TComponent*> FListeners;
+  bool FListenersAreKnown = true;
 };
 
 }  // namespace kt

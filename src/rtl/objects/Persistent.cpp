@@ -2,9 +2,9 @@
 
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Exceptions.h"
-#include "kt/rtl/objects/KeptData.h"
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/streams/Load.h"
+#include "kt/rtl/streams/UnknownComponent.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 
 namespace kt {
@@ -17,7 +17,7 @@ const TClassInfo* TPersistent::Class() {
 void TPersistent::Destruct() {
   TLoad::Forget(this);
   RemoveFixups(this);
-  ForgetKeptData(this);
+  ForgetStandIns(this);
   TObject::Destruct();
 }
 

@@ -1,21 +1,50 @@
 #include "kt/rtl/streams/Fixups.h"
 
+#include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/conversions/Text.h"
 #include "kt/rtl/objects/Component.h"
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/KeptData.h"
+#include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/objects/UnhandledExceptions.h"
+#include "kt/rtl/streams/BinaryWriter.h"
 #include "kt/rtl/streams/Load.h"
+#include "kt/rtl/streams/UnknownComponent.h"
 #include "kt/rtl/typeinfo/ClassInfo.h"
 #include "kt/rtl/typeinfo/PropValues.h"
 
 #include <algorithm>
+#include <atomic>
 #include <map>
+#include <mutex>
 
 namespace kt {
 namespace {
 
-/// References that wait for a component of a form that is not loaded yet. Forms are loaded in one thread.
-std::vector<TFixups::TFixup>& Waiting() {
-  static std::vector<TFixups::TFixup> list;
-  return list;
+/// References that wait for a component of a form that is not loaded yet. Objects of any thread look here when they are
+/// destroyed, nearly always when nothing waits.
+struct TWaitingList {
+  std::atomic<size_t> Count = 0;
+  std::mutex Mutex;
+  std::vector<TFixups::TFixup> List;
+};
+
+TWaitingList& Waiting() {
+  // Never destroyed: objects with static storage look here after the end of main.
+  static auto* waiting = new TWaitingList;
+  return *waiting;
+}
+
+void Wait(const TFixups::TFixup& fixup) {
+  const std::lock_guard lock(Waiting().Mutex);
+  Waiting().List.push_back(fixup);
+  Waiting().Count = Waiting().List.size();
+}
+
+std::vector<TFixups::TFixup> TakeWaiting() {
+  const std::lock_guard lock(Waiting().Mutex);
+  Waiting().Count = 0;
+  return std::exchange(Waiting().List, {});
 }
 
 std::map<int, TFindGlobalComponent>& Finders() {
@@ -32,21 +61,43 @@ TComponent* Target(const TFixups::TFixup& fixup) {
   return root && dot >= 0 ? FindNestedComponent(root, QStringView(fixup.Name).sliced(dot + 1)) : root;
 }
 
-/// False while the component is missing.
-bool Apply(const TFixups::TFixup& fixup) {
-  TComponent* target = Target(fixup);
-  if (!target) return false;
+void SetReference(const TFixups::TFixup& fixup, TComponent* target) {
   if (fixup.Property->Kind() == tkInterface) {
     SetInterfaceProp(fixup.Instance, fixup.Property, static_cast<IInterfaceComponentReference*>(target));
   } else {
     SetObjectProp(fixup.Instance, fixup.Property, target);
+  }
+}
+
+/// The identifier as the binary format stores it.
+QByteArray StoredIdent(const QString& name) {
+  QByteArray value;
+  TBinaryWriter writer(value);
+  writer.WriteIdent(name);
+  writer.Flush();
+  return value;
+}
+
+/// False while the component is missing.
+bool Apply(const TFixups::TFixup& fixup) {
+  TComponent* target = Target(fixup);
+  if (!target) return false;
+  if (fixup.IsKept && dynamic_cast<TUnknownComponent*>(target)) {
+    EnsureKeptData(fixup.PathStart).Properties.push_back({fixup.Path, StoredIdent(fixup.Name)});
+    return true;
+  }
+  try {
+    SetReference(fixup, target);
+  } catch (const EInvalidCast& error) {
+    throw EReadError(Format(SPropertyException, {fixup.PathStart->GetNamePath(), u'.', fixup.Path, error.Message()}));
   }
   return true;
 }
 
 void RemoveFrom(std::vector<TFixups::TFixup>& list, const TPersistent* object) {
   const auto belongs = [object](const TFixups::TFixup& fixup) {
-    return fixup.Instance == object || static_cast<const TPersistent*>(fixup.Root) == object;
+    return fixup.Instance == object || fixup.PathStart == object ||
+           static_cast<const TPersistent*>(fixup.Root) == object;
   };
   list.erase(std::remove_if(list.begin(), list.end(), belongs), list.end());
 }
@@ -55,14 +106,27 @@ void RemoveFrom(std::vector<TFixups::TFixup>& list, const TPersistent* object) {
 
 void TFixups::Remove(const TPersistent* object) { RemoveFrom(FList, object); }
 
-void TFixups::Resolve() {
+template <class F>
+void TFixups::ResolveAll(F apply) {
   // Taken out one by one: a setter may destroy an object that a later reference belongs to.
   std::reverse(FList.begin(), FList.end());
   while (!FList.empty()) {
     const TFixup fixup = std::move(FList.back());
     FList.pop_back();
-    if (!Apply(fixup)) Waiting().push_back(fixup);
+    if (!apply(fixup)) Wait(fixup);
   }
+}
+
+void TFixups::Resolve() {
+  ResolveAll([](const TFixup& fixup) { return Apply(fixup); });
+}
+
+void TFixups::ResolveGuarded() {
+  ResolveAll([](const TFixup& fixup) {
+    bool isSet = true;
+    GuardedCall([&] { isSet = Apply(fixup); });
+    return isSet;
+  });
 }
 
 int RegisterFindGlobalComponentProc(TFindGlobalComponent proc) {
@@ -93,22 +157,36 @@ TComponent* FindNestedComponent(TComponent* root, QStringView path) {
 }
 
 void GlobalFixupReferences() {
-  if (Waiting().empty()) return;
+  if (Waiting().Count == 0) return;
+  // While they are being resolved they belong to a load, so that objects destroyed meanwhile disappear.
   TLoad load;
-  for (TFixups::TFixup& fixup : std::exchange(Waiting(), {})) load.Fixups().Add(std::move(fixup));
-  load.Fixups().Resolve();
+  for (TFixups::TFixup& fixup : TakeWaiting()) load.Fixups().Add(std::move(fixup));
+  load.Fixups().ResolveGuarded();
 }
 
 QStringList GetFixupReferenceNames(TComponent* root) {
+  const std::lock_guard lock(Waiting().Mutex);
   QStringList names;
-  for (const TFixups::TFixup& fixup : Waiting()) {
+  for (const TFixups::TFixup& fixup : Waiting().List) {
     if (fixup.Root == root) names.append(fixup.Name);
   }
   return names;
 }
 
+QString FindWaitingReference(const TPersistent* instance, const TPropInfo* property) {
+  if (Waiting().Count == 0) return {};
+  const std::lock_guard lock(Waiting().Mutex);
+  for (const TFixups::TFixup& fixup : Waiting().List) {
+    if (fixup.Instance == instance && fixup.Property == property) return fixup.Name;
+  }
+  return {};
+}
+
 void RemoveFixups(TPersistent* object) {
-  if (!Waiting().empty()) RemoveFrom(Waiting(), object);
+  if (Waiting().Count == 0) return;
+  const std::lock_guard lock(Waiting().Mutex);
+  RemoveFrom(Waiting().List, object);
+  Waiting().Count = Waiting().List.size();
 }
 
 }  // namespace kt

@@ -22,6 +22,11 @@ class TFixups {
     TComponent* Root;
     /// "Button1", or "DataModule1.Table1" for a component of another form, or names joined by dots for nested ones.
     QString Name;
+    /// Where the property was found, for messages and for keeping what cannot be set: an object and a path from there.
+    TPersistent* PathStart;
+    QString Path;
+    /// Keep the reference as unknown data when its target is a stand-in.
+    bool IsKept;
   };
 
   void Add(TFixup fixup) { FList.push_back(std::move(fixup)); }
@@ -30,8 +35,13 @@ class TFixups {
   void Clear() { FList.clear(); }
   /// Sets every reference whose component exists now and hands the others to the waiting list of the process.
   void Resolve();
+  /// The same, but a reference that cannot be set is reported (HandleException()) and dropped, and the others go on.
+  void ResolveGuarded();
 
  private:
+  template <class F>
+  void ResolveAll(F apply);
+
   std::vector<TFixup> FList;
 };
 
@@ -48,6 +58,8 @@ TComponent* FindNestedComponent(TComponent* root, QStringView path);
 
 /// Sets all waiting references whose component exists now. To be called when a root component has come to exist.
 void GlobalFixupReferences();
+/// What a property of an object waits for; empty when it does not wait.
+QString FindWaitingReference(const TPersistent* instance, const TPropInfo* property);
 /// The waiting references of a root as names of what they wait for.
 QStringList GetFixupReferenceNames(TComponent* root);
 /// Forgets the waiting references that an object holds, or that are relative to it as their root. Every persistent

@@ -3,11 +3,20 @@
 #include "kt/rtl/objects/Component.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace kt {
 namespace {
 
 thread_local TLoad* Innermost = nullptr;
+
+/// From the end: what a load destroys, it made last.
+void ClearLast(std::vector<TComponent*>& list, const TPersistent* object) {
+  const auto found = std::find_if(list.rbegin(), list.rend(), [object](const TComponent* other) {
+    return static_cast<const TPersistent*>(other) == object;
+  });
+  if (found != list.rend()) *found = nullptr;
+}
 
 }  // namespace
 
@@ -15,23 +24,35 @@ TLoad::TLoad() : FOuter(std::exchange(Innermost, this)) {}
 
 TLoad::~TLoad() { Innermost = FOuter; }
 
-void TLoad::Finish() {
+void TLoad::BeginLoading(TComponent* component) {
+  component->FComponentState.Include(csLoading);
+  FLoading.push_back(component);
+}
+
+TComponent* TLoad::Finish() {
   FFixups.Resolve();
   // By index: a handler may free components, which become null here.
   for (size_t i = 0; i < FLoaded.size(); ++i) {
     if (FLoaded[i]) FLoaded[i]->Loaded();
   }
+  TComponent* root = FLoaded.empty() ? nullptr : FLoaded.front();
   FLoaded.clear();
+  FLoading.clear();
   FCreated.clear();
+  return root;
 }
 
 void TLoad::Undo() noexcept {
-  FLoaded.clear();
   FFixups.Clear();
+  FLoaded.clear();
+  for (TComponent* component : FLoading) {
+    if (component) component->FComponentState -= {csLoading, csReading};
+  }
+  FLoading.clear();
+  // The last first, so that children go before their owners; each disappears from the list when it goes.
   while (!FCreated.empty()) {
-    TComponent* last = FCreated.back();
+    delete FCreated.back();
     FCreated.pop_back();
-    delete last;
   }
 }
 
@@ -41,10 +62,9 @@ void TLoad::Forget(TPersistent* object) {
 
 void TLoad::ForgetHere(TPersistent* object) {
   FFixups.Remove(object);
-  std::replace_if(
-      FCreated.begin(), FCreated.end(), [object](const TComponent* other) { return other == object; }, nullptr);
-  std::replace_if(
-      FLoaded.begin(), FLoaded.end(), [object](const TComponent* other) { return other == object; }, nullptr);
+  ClearLast(FCreated, object);
+  ClearLast(FLoading, object);
+  ClearLast(FLoaded, object);
 }
 
 }  // namespace kt

@@ -10,7 +10,7 @@ class TComponent;
 class TPersistent;
 
 /// What one load has made so far. While it exists, objects that are destroyed disappear from it by themselves, so that
-/// a handler may free any of them in the middle of a load.
+/// a handler may free any of them in the middle of a load. Lives on the stack of the operation that loads.
 class TLoad {
  public:
   TLoad();
@@ -20,13 +20,16 @@ class TLoad {
 
   /// A component that the load created.
   void AddCreated(TComponent* component) { FCreated.push_back(component); }
-  /// A component whose Loaded() is still to be called.
+  /// Marks a component as being loaded, which Finish() and Undo() take back.
+  void BeginLoading(TComponent* component);
+  /// A component whose properties and children are complete: its Loaded() is still to be called.
   void AddLoaded(TComponent* component) { FLoaded.push_back(component); }
   TFixups& Fixups() { return FFixups; }
 
-  /// Resolves the references, then calls Loaded() of each component in the order of AddLoaded().
-  void Finish();
-  /// Destroys what the load created.
+  /// Resolves the references, then calls Loaded() of each component in the order of AddLoaded(). Answers the first of
+  /// them, the root; null when a handler has freed it.
+  TComponent* Finish();
+  /// Destroys what the load created, and leaves the others as not being loaded.
   void Undo() noexcept;
 
   /// Tells all loads of this thread that an object is being destroyed.
@@ -36,6 +39,7 @@ class TLoad {
   void ForgetHere(TPersistent* object);
 
   std::vector<TComponent*> FCreated;
+  std::vector<TComponent*> FLoading;
   std::vector<TComponent*> FLoaded;
   TFixups FFixups;
   TLoad* FOuter;

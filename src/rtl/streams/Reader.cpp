@@ -30,22 +30,31 @@ TReader::TReader(QIODevice& device) : TReader(AllOf(device)) {}
 TReader::~TReader() = default;
 
 TComponent* TReader::ReadRootComponent(TComponent* root) {
+  if (FInput.IsAtResourceHeader()) FInput.ReadResourceHeader();
   CheckStructure(false);
   FInput.ReadSignature();
+  TLoad load;
+  FLoad = &load;
+  const QString name = root ? root->GetName() : QString();
+  TComponent* result = nullptr;
   try {
-    TComponent* result = LoadRoot(root);
-    FLoad.Finish();
-    GlobalFixupReferences();
-    return result;
+    LoadRoot(root);
+    result = load.Finish();
   } catch (...) {
-    FLoad.Undo();
+    if (root) root->ChangeName(name);
+    load.Undo();
     throw;
   }
+  GlobalFixupReferences();
+  return result;
 }
 
 void TReader::ReadComponents(TComponent* owner, TComponent* parent, const std::function<void(TComponent*)>& done) {
   CheckStructure(true);
+  TLoad load;
+  FLoad = &load;
   FRoot = owner;
+  FScope = owner;
   FOwner = owner;
   FParent = parent;
   try {
@@ -54,12 +63,15 @@ void TReader::ReadComponents(TComponent* owner, TComponent* parent, const std::f
       ReadComponent(done);
     }
     FInput.ReadListEnd();
-    FLoad.Finish();
+    load.Finish();
   } catch (...) {
-    FLoad.Undo();
+    load.Undo();
     throw;
   }
+  GlobalFixupReferences();
 }
+
+void TReader::RaiseInvalidRoot() { throw EInvalidCast(SInvalidCast.toString()); }
 
 /// Runs over the whole input once, so that what is damaged is refused before an object is touched.
 void TReader::CheckStructure(bool isList) {
@@ -85,16 +97,16 @@ QByteArray TReader::TakeValue() {
   return FData.sliced(start, FInput.Position() - start);
 }
 
-TComponent* TReader::LoadRoot(TComponent* root) {
+void TReader::LoadRoot(TComponent* root) {
+  const qint64 start = FInput.Position();
   const TFormObjectHeader header = ReadHeader();
-  FRoot = root ? root : CreateComponent(header, nullptr);
-  if (!FRoot) throw EClassNotFound(Format(SClassNotFound, {header.ClassName}));
+  FRoot = root ? root : AtPlace(start, header, [&] { return MakeRoot(header); });
+  FScope = FRoot;
   FOwner = FRoot;
-  FRoot->FComponentState.Include(csLoading);
+  FLoad->BeginLoading(FRoot);
   SetComponentName(FRoot, header.Name);
-  FLoad.AddLoaded(FRoot);
+  FLoad->AddLoaded(FRoot);
   ReadState(FRoot);
-  return FRoot;
 }
 
 void TReader::DefineProperty(QStringView name, const TReaderProc& read, const TWriterProc&, bool) {

@@ -32,8 +32,9 @@ enum TUnknownPolicy {
 /// Reads components and their properties from the binary object format.
 ///
 /// A load is checked as a whole for a sound structure before the first object is touched. When it fails after that, all
-/// components that it created are destroyed; what existed before keeps its owner and its children, only properties that
-/// had been read before the failure have their new values.
+/// components that it created are destroyed; what existed before keeps its name,
+/// its owner and its children, and only properties (collections among them) that had been read before the failure have
+/// their new values.
 ///
 /// Every failure is one exception: EReadError with the path of the object and property ("Error reading Form1.Color:
 /// ..."), EClassNotFound, EMethodNotFound, or the exception of the binary format with its byte offset.
@@ -69,10 +70,12 @@ class TReader : public TFiler {
   /// Reads one form. With `root` null the root is created, and the caller owns it; else its class need not match the
   /// stream.
   TComponent* ReadRootComponent(TComponent* root);
-  /// As above for a root of a known class.
+  /// As above for a root of a known class. Raises EInvalidCast when the stream has one of another class.
   template <class T>
   std::unique_ptr<T> ReadRoot() {
-    return std::unique_ptr<T>(static_cast<T*>(ReadRootComponent(nullptr)));
+    std::unique_ptr<TComponent> root(ReadRootComponent(nullptr));
+    if (!dynamic_cast<T*>(root.get())) RaiseInvalidRoot();
+    return std::unique_ptr<T>(static_cast<T*>(root.release()));
   }
   /// Reads the components that TWriter::WriteComponents() wrote, each with `owner` as its owner and `parent` as its
   /// parent, and calls `done` for each when its own properties and children are complete.
@@ -110,15 +113,19 @@ class TReader : public TFiler {
  private:
   friend class TComponent;
 
+  [[noreturn]] static void RaiseInvalidRoot();
   void CheckStructure(bool isList);
   TFormObjectHeader ReadHeader();
   /// The bytes of the next value, its type code included.
   QByteArray TakeValue();
-  TComponent* LoadRoot(TComponent* root);
+  void LoadRoot(TComponent* root);
 
   void ReadData(TComponent* instance);
   void ReadComponent(const std::function<void(TComponent*)>& done = {});
+  TComponent* AtPlace(qint64 offset, const TFormObjectHeader& header, const std::function<TComponent*()>& make);
+  TComponent* MakeRoot(const TFormObjectHeader& header);
   TComponent* MakeChild(const TFormObjectHeader& header);
+  QString PlaceOf(const TFormObjectHeader& header) const;
   /// The component of the ancestor form that an inherited one stands for; null for others, or when the policy is to
   /// keep.
   TComponent* FindInherited(const TFormObjectHeader& header);
@@ -158,7 +165,10 @@ class TReader : public TFiler {
   TPropPath FPropPath;
   /// How many children of the present parent have been read.
   int FChildIndex = 0;
-  TLoad FLoad;
+  /// The form or nested form whose names count for what is being read.
+  TComponent* FScope = nullptr;
+  /// The load that is under way.
+  TLoad* FLoad = nullptr;
 };
 
 /// The form in `data`, in the binary format, with or without its resource header; see TReader.

@@ -6,6 +6,7 @@
 #include "kt/rtl/objects/Make.h"
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/streams/BinaryFormParser.h"
+#include "kt/rtl/streams/FormErrors.h"
 #include "kt/rtl/streams/Reader.h"
 #include "kt/rtl/streams/UnknownComponent.h"
 #include "kt/rtl/typeinfo/ClassInfo.h"
@@ -27,11 +28,13 @@ void TReader::ReadData(TComponent* instance) {
   TComponent* outerOwner = FOwner;
   TComponent* outerParent = std::exchange(FParent, instance->GetChildParent());
   const int outerIndex = std::exchange(FChildIndex, 0);
-  FOwner = instance->GetChildOwner();
-  if (!FOwner) FOwner = FRoot;
+  TComponent* outerScope = FScope;
+  if (TComponent* scope = instance->GetChildOwner()) FScope = scope;
+  FOwner = FScope;
   for (; !FInput.EndOfList(); ++FChildIndex) ReadComponent();
   FInput.ReadListEnd();
   FOwner = outerOwner;
+  FScope = outerScope;
   FParent = outerParent;
   FChildIndex = outerIndex;
 }
@@ -39,7 +42,7 @@ void TReader::ReadData(TComponent* instance) {
 void TReader::ReadComponent(const std::function<void(TComponent*)>& done) {
   const qint64 start = FInput.Position();
   const TFormObjectHeader header = ReadHeader();
-  TComponent* component = MakeChild(header);
+  TComponent* component = AtPlace(start, header, [&] { return MakeChild(header); });
   if (!component) {
     FInput.Seek(start);
     TIdleFormSink nowhere;
@@ -49,8 +52,33 @@ void TReader::ReadComponent(const std::function<void(TComponent*)>& done) {
   PlaceChild(component, header);
   ReadState(component);
   if (header.Flags.testFlag(ffChildPos) && FParent) FParent->SetChildOrder(component, header.ChildPos);
-  FLoad.AddLoaded(component);
+  FLoad->AddLoaded(component);
   if (done) done(component);
+}
+
+/// Runs `make`; errors about the component as a whole get the place.
+TComponent* TReader::AtPlace(qint64 offset, const TFormObjectHeader& header, const std::function<TComponent*()>& make) {
+  try {
+    return make();
+  } catch (const EClassNotFound& error) {
+    throw EClassNotFound(AtOffset(error.Message(), offset, PlaceOf(header)));
+  } catch (const EComponentError& error) {
+    throw EComponentError(AtOffset(error.Message(), offset, PlaceOf(header)));
+  } catch (const EReadError& error) {
+    throw EReadError(AtOffset(error.Message(), offset, PlaceOf(header)));
+  }
+}
+
+QString TReader::PlaceOf(const TFormObjectHeader& header) const {
+  const QString name = header.Name.isEmpty() ? header.ClassName : header.Name;
+  return !FScope || FScope->GetName().isEmpty() ? name : FScope->GetName() + u'.' + name;
+}
+
+/// There is no form without its root: that one cannot be skipped.
+TComponent* TReader::MakeRoot(const TFormObjectHeader& header) {
+  TComponent* root = CreateComponent(header, nullptr);
+  if (!root) throw EClassNotFound(Format(SClassNotFound, {header.ClassName}));
+  return root;
 }
 
 TComponent* TReader::MakeChild(const TFormObjectHeader& header) {
@@ -59,7 +87,7 @@ TComponent* TReader::MakeChild(const TFormObjectHeader& header) {
   const bool isInherited = header.Flags.testFlag(ffInherited);
   TComponent* component = isInherited ? CreateUnknown(header, FOwner) : CreateComponent(header, FOwner);
   if (!component) return nullptr;
-  component->FComponentState.Include(csLoading);
+  FLoad->BeginLoading(component);
   if (header.Flags.testFlag(ffInline)) component->SetInline(true);
   SetComponentName(component, header.Name);
   return component;
@@ -69,7 +97,7 @@ TComponent* TReader::FindInherited(const TFormObjectHeader& header) {
   if (!header.Flags.testFlag(ffInherited)) return nullptr;
   TComponent* found = FOwner->FindComponent(header.Name);
   if (!found && UnknownClasses != upKeep) throw EReadError(Format(SAncestorNotFound, {header.Name}));
-  if (found) found->FComponentState.Include(csLoading);
+  if (found) FLoad->BeginLoading(found);
   return found;
 }
 
@@ -82,14 +110,14 @@ TComponent* TReader::CreateComponent(const TFormObjectHeader& header, TComponent
   if (!classInfo->InheritsFrom(TComponent::Class())) throw EInvalidCast(SInvalidCast.toString());
   TComponent* component = OnCreateComponent ? OnCreateComponent(classInfo, owner) : nullptr;
   if (!component) component = static_cast<TComponent*>(classInfo->CreateInstance(owner));
-  FLoad.AddCreated(component);
+  FLoad->AddCreated(component);
   return component;
 }
 
 TComponent* TReader::CreateUnknown(const TFormObjectHeader& header, TComponent* owner) {
   auto* component = Make<TUnknownComponent>(owner).release();
   component->FHeader = header;
-  FLoad.AddCreated(component);
+  FLoad->AddCreated(component);
   return component;
 }
 
@@ -100,6 +128,8 @@ const TClassInfo* TReader::FindComponentClass(const QString& className) {
 
 void TReader::SetComponentName(TComponent* component, QString name) {
   if (OnSetName) OnSetName(component, name);
+  // A stand-in gives back what it was given, whatever makes a good name here.
+  if (dynamic_cast<TUnknownComponent*>(component)) return component->ChangeName(name);
   if (!name.isEmpty()) component->SetName(name);
 }
 

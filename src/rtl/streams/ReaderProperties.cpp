@@ -15,6 +15,17 @@
 #include <utility>
 
 namespace kt {
+namespace {
+
+/// Colours and the like are stored with or without their sign: 32 bits fit every 32-bit type.
+bool FitsType(const TOrdTypeInfo* type, qint64 value) {
+  const bool isFullWidth = type->OrdType() == otSLong || type->OrdType() == otULong;
+  const qint64 least = isFullWidth ? std::numeric_limits<qint32>::min() : type->MinValue();
+  const qint64 most = isFullWidth ? std::numeric_limits<quint32>::max() : type->MaxValue();
+  return value >= least && value <= most;
+}
+
+}  // namespace
 
 void TReader::ReadProperty(TPersistent* instance) {
   const TPropPath outer = std::exchange(FPropPath, {instance, FInput.ReadShortString()});
@@ -117,7 +128,7 @@ void TReader::ReadOrdValue(TPersistent* instance, const TPropInfo* property) {
   const bool isIdent = FInput.NextValue() == vaIdent || type->Kind() == tkEnumeration;
   if (!isIdent) {
     const qint64 value = FInput.ReadInt64();
-    if (value < std::numeric_limits<qint32>::min() || value > std::numeric_limits<quint32>::max()) {
+    if (!FitsType(OrdTypeOf(type), value)) {
       throw EReadError(SInvalidPropertyValue.toString());
     }
     return SetOrdProp(instance, property, value);
@@ -167,7 +178,8 @@ void TReader::ReadReference(TPersistent* instance, const TPropInfo* property) {
     FInput.ReadValue();
     return SetInterfaceProp(instance, property, nullptr);
   }
-  FLoad.Fixups().Add({instance, property, FOwner, FInput.ReadIdent()});
+  FLoad->Fixups().Add(
+      {instance, property, FScope, FInput.ReadIdent(), FPropPath.Instance, FPropPath.Path, UnknownClasses == upKeep});
 }
 
 void TReader::ReadMethodValue(TPersistent* instance, const TPropInfo* property) {

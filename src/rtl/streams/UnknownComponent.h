@@ -26,17 +26,21 @@ class TUnknownComponent : public TComponent {
  protected:
   explicit TUnknownComponent(TComponent* owner = nullptr) : TComponent(owner) {}
   void Destruct() override;
-  void Notification(TComponent* component, TOperation operation) override;
   void GetChildren(const TGetChildProc& proc, TComponent* root) override;
   /// A nested form is a scope of names of its own.
   TComponent* GetChildOwner() override { return FHeader.Flags.testFlag(ffInline) ? this : nullptr; }
 
  private:
   friend class TReader;
+  friend void ForgetStandIns(TPersistent* object);
 
   TFormObjectHeader FHeader;
   TComponent* FStreamParent = nullptr;
   std::vector<TComponent*> FChildren;
 };
+
+/// Takes an object that is being destroyed from the stand-ins that know it, and forgets what was kept for it. Every
+/// persistent object does this.
+void ForgetStandIns(TPersistent* object);
 
 }  // namespace kt

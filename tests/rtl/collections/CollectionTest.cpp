@@ -154,6 +154,35 @@ TEST(CollectionTest, AnItemOfAnotherClassIsRefused) {
   EXPECT_EQ(0, collection->GetCount());
 }
 
+TEST(CollectionTest, AnItemThatAnotherCollectionRefusesStaysWhereItIs) {
+  const auto plain = WithItems(0);
+  class TPlain : public TCollection {
+   protected:
+    TPlain() : TCollection(TCollectionItem::Class()) {}
+  };
+  const auto source = Make<TPlain>();
+  TCollectionItem* item = source->Add();
+  EXPECT_THROW(item->SetCollection(plain.get()), EListError);
+  EXPECT_EQ(source.get(), item->GetCollection());
+}
+
+TEST(CollectionTest, InsertingOutsideTheListRaisesAndCreatesNothing) {
+  const auto collection = WithItems(1);
+  EXPECT_EQ(QStringLiteral("List index out of bounds (2)"), MessageOf<EListError>([&] { collection->Insert(2); }));
+  EXPECT_EQ(QStringLiteral("0"), collection->Ids());
+}
+
+TEST(CollectionTest, AnItemMayBeFreedWhileItsDeletionIsBeingTold) {
+  const auto collection = WithItems(2);
+  collection->OnNotify = [&](TCollectionItem* item, TCollectionNotification action) {
+    if (action != cnDeleting) return;
+    collection->OnNotify = {};
+    delete item;
+  };
+  collection->Delete(0);
+  EXPECT_EQ(QStringLiteral("1"), collection->Ids());
+}
+
 TEST(CollectionTest, IdsAreNeverReused) {
   const auto collection = WithItems(2);
   collection->Delete(1);

@@ -232,6 +232,37 @@ TEST(ComponentTest, DestroyingAnOwnerFreesTheLastComponentFirst) {
   EXPECT_EQ(QStringLiteral("-B -A "), outsider->Log);
 }
 
+TEST(ComponentTest, InsertingAComponentTakesItFromItsOwner) {
+  const auto from = Make<TComponent>();
+  const auto to = Make<TComponent>();
+  TComponent* moved = Named(from.get(), "A");
+  to->InsertComponent(moved);
+  EXPECT_EQ(0, from->GetComponentCount());
+  EXPECT_EQ(to.get(), moved->GetOwnerComponent());
+}
+
+TEST(ComponentTest, NotificationsReachAListenerBehindAComponentThatIsNone) {
+  const auto owner = Make<TComponent>();
+  TComponent* middle = Named(owner.get(), "Middle");
+  auto* listener = New<TWatcher>(middle);
+  listener->Log.clear();
+  delete Named(owner.get(), "A");
+  EXPECT_EQ(QStringLiteral("+ -A "), listener->Log);
+}
+
+TEST(ComponentTest, NotificationsGoToTheLastListenerFirstAlsoAfterAMove) {
+  QString log;
+  const auto owner = Make<TComponent>();
+  auto* first = New<TWatcher>(owner.get());
+  auto* second = New<TWatcher>(owner.get());
+  first->OnNotification = [&log](TComponent*, TOperation) { log += QStringLiteral("1"); };
+  second->OnNotification = [&log](TComponent*, TOperation) { log += QStringLiteral("2"); };
+  New<TComponent>(owner.get());
+  second->SetComponentIndex(0);
+  New<TComponent>(owner.get());
+  EXPECT_EQ(QStringLiteral("2112"), log);
+}
+
 TEST(ComponentTest, DestroyingMarksAllOwnedComponents) {
   const auto owner = Make<TComponent>();
   TComponent* inner = Named(Named(owner.get(), "A"), "B");

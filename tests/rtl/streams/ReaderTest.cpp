@@ -1,5 +1,6 @@
 #include "kt/rtl/objects/ClassRegistry.h"
 #include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/streams/FormConversion.h"
 #include "kt/rtl/streams/IntegerConsts.h"
 #include "kt/rtl/streams/Reader.h"
 #include "kt/rtl/streams/Writer.h"
@@ -111,8 +112,9 @@ TEST_F(ReaderTest, ANumberBeyond32BitsDoesNotFitAnInteger) {
 }
 
 TEST_F(ReaderTest, AnUnknownClassRaises) {
-  EXPECT_EQ(QStringLiteral("Class TNoSuch not found"), ErrorOf<EClassNotFound>("object S: TNoSuch\nend\n"));
-  EXPECT_EQ(QStringLiteral("Class TNoSuch not found"),
+  EXPECT_EQ(QStringLiteral("Class TNoSuch not found at offset 4 (S)"),
+            ErrorOf<EClassNotFound>("object S: TNoSuch\nend\n"));
+  EXPECT_EQ(QStringLiteral("Class TNoSuch not found at offset 15 (S.X)"),
             ErrorOf<EClassNotFound>("object S: TSample\n  object X: TNoSuch\n  end\nend\n"));
 }
 
@@ -122,13 +124,13 @@ TEST_F(ReaderTest, AMethodThatTheRootLacksRaises) {
 }
 
 TEST_F(ReaderTest, AMissingAncestorRaises) {
-  EXPECT_EQ(QStringLiteral("Ancestor for 'X' not found"),
+  EXPECT_EQ(QStringLiteral("Ancestor for 'X' not found at offset 15 (S.X)"),
             ErrorOf<EReadError>("object S: TSample\n  inherited X: TSample\n  end\nend\n"));
 }
 
 TEST_F(ReaderTest, TwoComponentsOfOneNameRaise) {
   EXPECT_EQ(
-      QStringLiteral("A component named x already exists"),
+      QStringLiteral("A component named x already exists at offset 27 (S.x)"),
       ErrorOf<EComponentError>("object S: TSample\n  object X: TSample\n  end\n  object x: TSample\n  end\nend\n"));
 }
 
@@ -154,6 +156,112 @@ TEST_F(ReaderTest, ADamagedStreamIsRefusedBeforeAnObjectIsTouched) {
   TReader reader(damaged);
   EXPECT_THROW(reader.ReadRootComponent(root.get()), EReadError);
   EXPECT_EQ(0, root->Whole);
+}
+
+TEST_F(ReaderTest, AFailedLoadLeavesAnExistingRootAsNotBeingLoadedAndWithItsName) {
+  const auto root = Make<TSample>();
+  root->SetName(QStringLiteral("Mine"));
+  TReader reader(BinaryOf("object S: TSample\n  Nonsense = 1\nend\n"));
+  EXPECT_THROW(reader.ReadRootComponent(root.get()), EReadError);
+  EXPECT_EQ(QStringLiteral("Mine"), root->GetName());
+  EXPECT_FALSE(root->HasState(csLoading));
+  EXPECT_FALSE(root->HasState(csReading));
+}
+
+TEST_F(ReaderTest, ARootOfAnotherClassThanAskedForIsRefused) {
+  TReader reader(BinaryOf("object W: TLoadWatcher\nend\n"));
+  const int before = TLoadWatcher::Alive;
+  EXPECT_EQ(QStringLiteral("Invalid class typecast"), MessageOf<EInvalidCast>([&] { reader.ReadRoot<TSample>(); }));
+  EXPECT_EQ(before, TLoadWatcher::Alive);
+}
+
+TEST_F(ReaderTest, ANumberThatDoesNotFitItsTypeRaises) {
+  EXPECT_EQ(QStringLiteral("Error reading S.Small: Invalid property value"),
+            ErrorOf<EReadError>("object S: TSample\n  Small = 300\nend\n"));
+}
+
+TEST_F(ReaderTest, AColourMayBeStoredWithoutItsSign) {
+  const auto sample = Load("object S: TSample\n  Color = 4278190335\nend\n");
+  EXPECT_EQ(static_cast<int>(0xFF0000FF), static_cast<TSample*>(sample.get())->Color);
+}
+
+TEST_F(ReaderTest, AResourceHeaderBeforeTheFormIsPassedOver) {
+  QByteArray resource;
+  ObjectTextToResource("object S: TSample\n  Whole = 5\nend\n", resource);
+  EXPECT_EQ(5, static_cast<TSample*>(ReadComponentFromBinary(resource).get())->Whole);
+}
+
+TEST_F(ReaderTest, ReadersMayBeDestroyedInAnyOrder) {
+  auto first = std::make_unique<TReader>(BinaryOf("object S: TSample\nend\n"));
+  auto second = std::make_unique<TReader>(BinaryOf("object S: TSample\nend\n"));
+  const std::unique_ptr<TComponent> one(first->ReadRootComponent(nullptr));
+  const std::unique_ptr<TComponent> two(second->ReadRootComponent(nullptr));
+  first.reset();
+  second.reset();
+  EXPECT_EQ(one->GetName(), two->GetName());
+}
+
+TEST_F(ReaderTest, NestedFormsWithEqualNamesInsideStayApart) {
+  const char* const text =
+      "object Form1: TMyForm\n"
+      "  inline Frame1: TFrame1\n"
+      "    inherited Panel1: TPanel\n"
+      "      inherited Button1: TButton\n"
+      "        Left = 1\n"
+      "      end\n"
+      "    end\n"
+      "  end\n"
+      "  inline Frame2: TFrame1\n"
+      "    inherited Panel1: TPanel\n"
+      "      inherited Button1: TButton\n"
+      "        Left = 2\n"
+      "      end\n"
+      "    end\n"
+      "  end\n"
+      "end\n";
+  TReader reader(BinaryOf(text));
+  reader.UnknownClasses = upKeep;
+  const std::unique_ptr<TComponent> form(reader.ReadRootComponent(nullptr));
+  EXPECT_EQ(text, TextOf(form.get()));
+}
+
+TEST_F(ReaderTest, AReferenceToAStandInIsKept) {
+  const char* const text =
+      "object S: TSample\n"
+      "  Small = 0\n"
+      "  Color = 0\n"
+      "  object A: TSample\n"
+      "    Small = 0\n"
+      "    Color = 0\n"
+      "    Sibling = U\n"
+      "  end\n"
+      "  object U: TNoSuch\n"
+      "  end\n"
+      "end\n";
+  TReader reader(BinaryOf(text));
+  reader.UnknownClasses = upKeep;
+  EXPECT_EQ(text, TextOf(reader.ReadRoot<TSample>().get()));
+}
+
+TEST_F(ReaderTest, AReferenceToAComponentOfAnotherClassRaises) {
+  EXPECT_EQ(QStringLiteral("Error reading A.Sibling: Invalid class typecast"),
+            ErrorOf<EReadError>("object S: TSample\n  object A: TSample\n    Sibling = B\n  end\n"
+                                "  object B: TLoadWatcher\n  end\nend\n"));
+}
+
+TEST_F(ReaderTest, AStandInKeepsANameThatIsNoneHere) {
+  TReader reader(BinaryOf("object \xC3\x84rger: TNoSuch\nend\n"));
+  reader.UnknownClasses = upKeep;
+  const std::unique_ptr<TComponent> form(reader.ReadRootComponent(nullptr));
+  EXPECT_EQ(QStringLiteral("\u00C4rger"), form->GetName());
+}
+
+TEST_F(ReaderTest, ARootFreedByItsOwnLoadedIsNotHandedOut) {
+  TLoadWatcher::OnLoaded = [](TLoadWatcher* self) {
+    if (self->GetName() == u"B") delete self->GetOwnerComponent();
+  };
+  TReader reader(BinaryOf("object A: TLoadWatcher\n  object B: TLoadWatcher\n  end\nend\n"));
+  EXPECT_EQ(nullptr, reader.ReadRootComponent(nullptr));
 }
 
 TEST_F(ReaderTest, SkippingUnknownClassesAndPropertiesLoadsTheRest) {

@@ -1,6 +1,5 @@
-#include "kt/rtl/typeinfo/PropPath.h"
-
 #include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/typeinfo/PropPath.h"
 #include "support/Expect.h"
 #include "support/Samples.h"
 
