@@ -62,7 +62,7 @@ struct TPassedAs<V> {
 };
 template <IsFloating V>
 struct TPassedAs<V> {
-  using Type = double;
+  using Type = long double;
 };
 template <std::derived_from<TObject> V>
 struct TPassedAs<V> {
@@ -88,6 +88,11 @@ const TMethod& Checked(const TMethod& method) {
   return CheckedMethod(method, V::Accepts(method), V::TypeName);
 }
 [[noreturn]] void RaiseCannotAssignNil(const TClassInfo* target);
+[[noreturn]] void RaiseInvalidCast();
+/// An amount on the road of floating-point numbers, and back: the nearest amount, halves to even. Raises ERangeError
+/// for values that do not fit and for NaN.
+long double FloatOfAmount(Currency amount);
+Currency AmountOfFloat(long double value);
 
 template <auto Member>
 inline constexpr bool IsDataMember = std::is_member_object_pointer_v<decltype(Member)>;
@@ -123,7 +128,7 @@ class TMemberAccess final
     if constexpr (IsOrdinal<TValue>) {
       return OrdinalOf<TValue>(value);
     } else if constexpr (std::same_as<TValue, Currency>) {
-      return value.ToDouble();
+      return MemberAccess::FloatOfAmount(value);
     } else if constexpr (std::is_pointer_v<TValue>) {
       return const_cast<std::remove_const_t<std::remove_pointer_t<TValue>>*>(value);
     } else if constexpr (std::same_as<TPassed, TObject*>) {
@@ -143,7 +148,11 @@ class TMemberAccess final
     } else if constexpr (std::same_as<TPassed, TObject*>) {
       StoreObject(object, value);
     } else if constexpr (std::same_as<TPassed, IInterface*>) {
-      Assign(object, dynamic_cast<TValue>(value));
+      auto* target = dynamic_cast<TValue>(value);
+      if (value && !target) MemberAccess::RaiseInvalidCast();
+      Assign(object, target);
+    } else if constexpr (std::same_as<TValue, Currency>) {
+      Assign(object, MemberAccess::AmountOfFloat(value));
     } else {
       Assign(object, static_cast<TValue>(value));
     }

@@ -42,8 +42,9 @@ class TValueAccess : public TPropAccess {
 
 /// tkInteger, tkChar, tkWChar, tkEnumeration, tkSet (bits) and tkInt64 (the bits of an unsigned type).
 using TOrdAccess = TValueAccess<qint64>;
-/// tkFloat of every storage.
-using TFloatAccess = TValueAccess<double>;
+/// tkFloat of every storage. Where the processor has the 80-bit kind, this holds every Currency exactly; elsewhere it
+/// is a double.
+using TFloatAccess = TValueAccess<long double>;
 /// tkString, tkLString, tkWString.
 using TStrAccess = TValueAccess<QString>;
 /// tkClass. Setting an owned object copies, which is the setter's business.

@@ -50,11 +50,19 @@ void SetInt64Prop(TObject* instance, const TPropInfo* property, qint64 value) {
 }
 
 double GetFloatProp(TObject* instance, const TPropInfo* property) {
-  return Read<double>(instance, property, {tkFloat});
+  return static_cast<double>(GetExtendedProp(instance, property));
 }
 
 void SetFloatProp(TObject* instance, const TPropInfo* property, double value) {
-  Write<double>(instance, property, {tkFloat}, value);
+  SetExtendedProp(instance, property, value);
+}
+
+long double GetExtendedProp(TObject* instance, const TPropInfo* property) {
+  return Read<long double>(instance, property, {tkFloat});
+}
+
+void SetExtendedProp(TObject* instance, const TPropInfo* property, long double value) {
+  Write<long double>(instance, property, {tkFloat}, value);
 }
 
 QString GetStrProp(TObject* instance, const TPropInfo* property) { return Read<QString>(instance, property, StrKinds); }

@@ -32,6 +32,9 @@ double GetFloatProp(TObject* instance, const TPropInfo* property);
 double GetFloatProp(TObject* instance, QStringView name);
 void SetFloatProp(TObject* instance, const TPropInfo* property, double value);
 void SetFloatProp(TObject* instance, QStringView name, double value);
+/// tkFloat with every digit that the property has: an amount of money is exact where a long double has 80 bits.
+long double GetExtendedProp(TObject* instance, const TPropInfo* property);
+void SetExtendedProp(TObject* instance, const TPropInfo* property, long double value);
 
 /// tkString, tkLString, tkWString. Setting a short string cuts the text to the length that the type declares.
 QString GetStrProp(TObject* instance, const TPropInfo* property);
@@ -68,7 +71,7 @@ TMethod GetMethodProp(TObject* instance, QStringView name);
 void SetMethodProp(TObject* instance, const TPropInfo* property, const TMethod& value);
 void SetMethodProp(TObject* instance, QStringView name, const TMethod& value);
 
-/// tkInterface.
+/// tkInterface. Setting raises EInvalidCast "Invalid class typecast" for an object that lacks the declared interface.
 IInterface* GetInterfaceProp(TObject* instance, const TPropInfo* property);
 IInterface* GetInterfaceProp(TObject* instance, QStringView name);
 void SetInterfaceProp(TObject* instance, const TPropInfo* property, IInterface* value);
@@ -81,8 +84,8 @@ void SetVariantProp(TObject* instance, const TPropInfo* property, const Variant&
 void SetVariantProp(TObject* instance, QStringView name, const Variant& value);
 
 /// Any property as a variant. Enumerations and sets come as names with `preferStrings`, else as ordinals (Booleans as
-/// Booleans); objects as their address, events as the name of their type. Raises EPropertyConvertError "Invalid
-/// property type: %s" for the kinds that have no variant form.
+/// Booleans); amounts of money as Currency, objects as their address, events as the name of their type. Raises
+/// EPropertyConvertError "Invalid property type: %s" for the kinds that have no variant form.
 Variant GetPropValue(TObject* instance, const TPropInfo* property, bool preferStrings = true);
 Variant GetPropValue(TObject* instance, QStringView name, bool preferStrings = true);
 /// Converts `value` to the property's kind: enumerations and sets take names or ordinals, whole numbers are checked

@@ -2,6 +2,7 @@
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/typeinfo/MemberAccess.h"
 #include "kt/rtl/typeinfo/PropValues.h"
 
 namespace kt {
@@ -52,6 +53,22 @@ Variant EnumValue(TObject* instance, const TPropInfo* property, bool preferStrin
   return IsBoolType(property->PropType()) ? Variant(ordinal != 0) : Variant(static_cast<int>(ordinal));
 }
 
+bool IsAmount(const TPropInfo* property) {
+  return static_cast<const TFloatTypeInfo*>(property->PropType())->FloatType() == ftCurr;
+}
+
+Variant FloatValue(TObject* instance, const TPropInfo* property) {
+  const long double value = GetExtendedProp(instance, property);
+  return IsAmount(property) ? Variant(MemberAccess::AmountOfFloat(value)) : Variant(static_cast<double>(value));
+}
+
+/// An amount keeps its last digits; other numbers, and their errors, go the way of every number.
+void SetFloatValue(TObject* instance, const TPropInfo* property, const Variant& value) {
+  const bool isExact = VarType(value) == varCurrency || VarIsStr(value);
+  if (!isExact || !IsAmount(property)) return SetFloatProp(instance, property, value.ToDouble());
+  SetExtendedProp(instance, property, MemberAccess::FloatOfAmount(value.ToCurrency()));
+}
+
 /// What fits 32 bits is an Integer variant, as the framework has it.
 Variant OrdinalValue(qint64 ordinal) {
   const int narrow = static_cast<int>(ordinal);
@@ -72,7 +89,7 @@ Variant GetPropValue(TObject* instance, const TPropInfo* property, bool preferSt
     case tkSet:
       return preferStrings ? Variant(GetSetProp(instance, property)) : OrdinalValue(GetOrdProp(instance, property));
     case tkFloat:
-      return Variant(GetFloatProp(instance, property));
+      return FloatValue(instance, property);
     case tkMethod:
       return Variant(property->PropType()->Name());
     case tkString:
@@ -100,7 +117,7 @@ void SetPropValue(TObject* instance, const TPropInfo* property, const Variant& v
     case tkSet:
       return SetSetValue(instance, property, value);
     case tkFloat:
-      return SetFloatProp(instance, property, value.ToDouble());
+      return SetFloatValue(instance, property, value);
     case tkString:
     case tkLString:
     case tkWString:

@@ -248,5 +248,60 @@ INSTANTIATE_TEST_SUITE_P(Classes, EveryPropertyTest,
                          ::testing::Values(TComponent::Class(), TSample::Class(), TSamplePart::Class(),
                                            tests::TSampleItem::Class()));
 
+TEST_F(PropValuesTest, AnInterfaceOfAnotherTypeRaises) {
+  class TStranger : public IInterface {};
+  TStranger stranger;
+  EXPECT_EQ(QStringLiteral("Invalid class typecast"),
+            MessageOf<EInvalidCast>([&] { SetInterfaceProp(Sample.get(), u"Reference", &stranger); }));
+}
+
+TEST_F(PropValuesTest, AnInterfaceCanBeSetToNil) {
+  Sample->Reference = Sample.get();
+  SetInterfaceProp(Sample.get(), u"Reference", nullptr);
+  EXPECT_EQ(nullptr, Sample->Reference);
+}
+
+TEST_F(PropValuesTest, AnAmountBeyondTheRangeRaises) {
+  EXPECT_EQ(QStringLiteral("Range check error"),
+            MessageOf<ERangeError>([&] { SetFloatProp(Sample.get(), u"Price", 922337203685478.0); }));
+  EXPECT_THROW(SetFloatProp(Sample.get(), u"Price", -1e300), ERangeError);
+  EXPECT_THROW(SetFloatProp(Sample.get(), u"Price", std::numeric_limits<double>::quiet_NaN()), ERangeError);
+  EXPECT_THROW(SetExtendedProp(Sample.get(), FindPropInfo(Sample.get(), u"Price"), 922337203685477.5809L), ERangeError);
+}
+
+/// Amounts at the ends of the range and with more digits than a double has, in ten-thousandths.
+class AmountTest : public ::testing::TestWithParam<qint64> {};
+
+TEST_P(AmountTest, AnAmountIsExactAsAnExtendedNumber) {
+  const auto from = Make<TSample>();
+  const auto to = Make<TSample>();
+  from->Price = Currency::FromScaled(GetParam());
+  const TPropInfo* price = FindPropInfo(from.get(), u"Price");
+  SetExtendedProp(to.get(), price, GetExtendedProp(from.get(), price));
+  EXPECT_EQ(GetParam(), to->Price.Scaled());
+}
+
+TEST_P(AmountTest, AnAmountIsExactAsAVariant) {
+  const auto from = Make<TSample>();
+  const auto to = Make<TSample>();
+  from->Price = Currency::FromScaled(GetParam());
+  SetPropValue(to.get(), u"Price", GetPropValue(from.get(), u"Price"));
+  EXPECT_EQ(GetParam(), to->Price.Scaled());
+}
+
+TEST_P(AmountTest, AnAmountIsExactAsText) {
+  const auto from = Make<TSample>();
+  const auto to = Make<TSample>();
+  from->Price = Currency::FromScaled(GetParam());
+  SetPropValue(to.get(), u"Price", Variant(VarToStr(GetPropValue(from.get(), u"Price"))));
+  EXPECT_EQ(GetParam(), to->Price.Scaled());
+}
+
+INSTANTIATE_TEST_SUITE_P(Extremes, AmountTest,
+                         ::testing::Values(0, 1, -1, Q_INT64_C(90071992547409931), Q_INT64_C(-90071992547409931),
+                                           Q_INT64_C(4611686018427387905), std::numeric_limits<qint64>::max() - 1,
+                                           std::numeric_limits<qint64>::max(), std::numeric_limits<qint64>::min() + 1,
+                                           std::numeric_limits<qint64>::min()));
+
 }  // namespace
 }  // namespace kt
