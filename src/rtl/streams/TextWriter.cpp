@@ -6,6 +6,9 @@
 #include "kt/rtl/streams/FormNumbers.h"
 #include "kt/rtl/streams/TextLexer.h"
 
+#include <algorithm>
+#include <cstring>
+
 namespace kt {
 namespace {
 
@@ -14,6 +17,8 @@ constexpr qsizetype kPieceLength = 64;
 /// Bytes of binary data on one line; fewer stay on the property's own line.
 constexpr qsizetype kBytesPerLine = 32;
 constexpr qsizetype kIndent = 2;
+/// The level from which lines are not indented further.
+constexpr qsizetype kDeepestIndent = 60;
 /// The first character that RawUtf8 leaves alone; the C1 controls below it are numbers always.
 constexpr char16_t kFirstRaw = 0xA0;
 
@@ -50,7 +55,7 @@ void TTextWriter::NewLine() {
 }
 
 void TTextWriter::Indent() {
-  const qsizetype count = FLevel * kIndent;
+  const qsizetype count = std::min(FLevel, kDeepestIndent) * kIndent;
   std::memset(FSink.Reserve(count), ' ', std::size_t(count));
   FSink.Commit(count);
 }

@@ -21,7 +21,8 @@ struct TTextWriterOptions {
 /// Writes events as canonical text, the very form in which the component framework itself writes it.
 ///
 /// The events must follow the grammar of IFormSink; their order is only asserted. A name that text cannot hold (it
-/// would not read back) is an EWriteError that names it.
+/// would not read back) is an EWriteError that names it. From 60 levels on lines are not indented further, so that the
+/// size of the text stays in proportion to that of the form.
 class TTextWriter : public IFormSink {
  public:
   /// `sink` must outlive the writer; flushing it is the caller's business.

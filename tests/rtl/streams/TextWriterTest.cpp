@@ -179,5 +179,24 @@ TEST(TextWriterTest, ErrorsInItemsNameTheItem) {
             }));
 }
 
+TEST(TextWriterTest, TheIndentationStopsGrowingAt60Levels) {
+  const QByteArray text = Written([](IFormSink& sink) {
+    for (int i = 0; i < 100; ++i) sink.BeginList();
+    for (int i = 0; i < 100; ++i) sink.EndList();
+  });
+  const QByteArray deepest = '\n' + QByteArray(120, ' ') + "(\n" + QByteArray(120, ' ') + '(';
+  EXPECT_TRUE(text.contains(deepest));
+  EXPECT_FALSE(text.contains(QByteArray(121, ' ')));
+}
+
+TEST(TextWriterTest, TextBelow60LevelsParsesToTheSameEvents) {
+  const QByteArray text = Written([](IFormSink& sink) {
+    for (int i = 0; i < 100; ++i) sink.BeginList();
+    sink.Integer(7);
+    for (int i = 0; i < 100; ++i) sink.EndList();
+  });
+  EXPECT_EQ(Events(FormWith(QByteArray(100, '(') + '7' + QByteArray(100, ')'))), Events(text));
+}
+
 }  // namespace
 }  // namespace kt
