@@ -11,6 +11,8 @@
 
 #include <QIODevice>
 
+#include <cmath>
+
 namespace kt {
 
 namespace {
@@ -127,6 +129,12 @@ QChar TReader::ReadChar() {
   return text.front();
 }
 
+/// TWriter::WriteVariant() stores an integer beyond the signed 64 bits as an extended number, and no double.
+static Variant VariantOfExtended(Extended value) {
+  const bool isUnsigned = value >= 0x1p63L && value < 0x1p64L && value == std::floor(value);
+  return isUnsigned ? Variant(static_cast<quint64>(value)) : Variant(static_cast<double>(value));
+}
+
 Variant TReader::ReadVariant() {
   switch (FInput.NextValue()) {
     case vaNil:
@@ -142,9 +150,13 @@ Variant TReader::ReadVariant() {
     case vaInt64:
       return Variant(FInput.ReadInt64());
     case vaExtended:
+      return VariantOfExtended(FInput.ReadFloat());
     case vaSingle:
+      return Variant(static_cast<float>(FInput.ReadFloat()));
     case vaCurrency:
+      return Variant(Currency::FromScaled(FInput.ReadCurrency()));
     case vaDate:
+      return Variant::FromDateTime(ReadFloat());
     case vaDouble:
       return Variant(ReadFloat());
     case vaTrue:

@@ -5,6 +5,10 @@
 #include "kt/rtl/streams/UnknownComponent.h"
 #include "kt/rtl/typeinfo/ClassInfo.h"
 
+#include <QScopeGuard>
+
+#include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace kt {
@@ -22,6 +26,7 @@ void TWriter::WriteRootComponent(TComponent* root, TComponent* ancestor) {
   FRoot = root;
   FLookupRoot = root;
   FRootAncestor = ancestor;
+  FLookupAncestor = ancestor;
   FAncestor = ancestor;
   FOutput.WriteSignature();
   WriteComponent(root);
@@ -37,17 +42,19 @@ void TWriter::WriteComponents(const std::vector<TComponent*>& components, TCompo
   FOutput.WriteListEnd();
 }
 
-void TWriter::WriteComponent(TComponent* component) {
+void TWriter::WriteComponent(TComponent* component, std::optional<int> position) {
   TPersistent* outer = FAncestor;
   if (component != FRoot) FAncestor = FindAncestor(component);
-  WriteHeader(component, FAncestor != nullptr);
+  WriteHeader(component, position);
   component->FComponentState.Include(csWriting);
+  const auto done = qScopeGuard([&] {
+    component->FComponentState.Exclude(csWriting);
+    FAncestor = outer;
+  });
   component->WriteState(*this);
-  component->FComponentState.Exclude(csWriting);
-  FAncestor = outer;
 }
 
-void TWriter::WriteHeader(TComponent* component, bool isInherited) {
+void TWriter::WriteHeader(TComponent* component, std::optional<int> position) {
   TFormObjectHeader header;
   if (const auto* unknown = dynamic_cast<TUnknownComponent*>(component)) {
     header = unknown->GetHeader();
@@ -55,7 +62,15 @@ void TWriter::WriteHeader(TComponent* component, bool isInherited) {
     header.ClassName = component->ClassName();
     header.Flags.setFlag(ffInline, component->HasState(csInline));
   }
-  if (isInherited) header.Flags.setFlag(ffInherited);
+  if (FAncestor) {
+    // A nested form that is inherited is found through its ancestor; the two are never stored together.
+    header.Flags.setFlag(ffInherited);
+    header.Flags.setFlag(ffInline, false);
+  }
+  if (position) {
+    header.Flags.setFlag(ffChildPos);
+    header.ChildPos = *position;
+  }
   header.Name = component->GetName();
   FOutput.WriteObjectHeader({header.Flags, header.ClassName, header.Name, header.ChildPos});
 }
@@ -70,9 +85,14 @@ void TWriter::WriteData(TComponent* instance) {
   WriteProperties(instance);
   FOutput.WriteListEnd();
   TComponent* outer = FLookupRoot;
-  if (IsScopeOfNames(instance)) FLookupRoot = instance;
+  TComponent* outerAncestor = FLookupAncestor;
+  if (IsScopeOfNames(instance)) {
+    FLookupRoot = instance;
+    FLookupAncestor = dynamic_cast<TComponent*>(FAncestor);
+  }
   WriteChildren(instance);
   FLookupRoot = outer;
+  FLookupAncestor = outerAncestor;
   FOutput.WriteListEnd();
 }
 
@@ -83,11 +103,50 @@ static bool IsWrittenElsewhere(TComponent* child, const TComponent* parent) {
   return dynamic_cast<TUnknownComponent*>(child) && child->HasParent();
 }
 
+namespace {
+
+/// The order in which a reader that starts with the ancestor's children has the children of a component.
+class TChildOrder {
+ public:
+  explicit TChildOrder(std::vector<TComponent*> inherited) : FOrder(std::move(inherited)) {}
+
+  /// Takes the next child; the position that a reader has to be told, or none when the child comes there by itself.
+  std::optional<int> Next(TComponent* ancestor) {
+    const auto place = FOrder.begin() + FCount;
+    const auto found = std::find(place, FOrder.end(), ancestor);
+    // It has another parent in the ancestor; a reader leaves it there.
+    if (ancestor && found == FOrder.end()) return std::nullopt;
+    const bool isInPlace = place == (ancestor ? found : FOrder.end());
+    if (!ancestor) {
+      FOrder.insert(place, nullptr);
+    } else {
+      std::rotate(place, found, found + 1);
+    }
+    ++FCount;
+    return isInPlace ? std::nullopt : std::optional<int>(FCount - 1);
+  }
+
+ private:
+  std::vector<TComponent*> FOrder;
+  int FCount = 0;
+};
+
+}  // namespace
+
+/// What the counterpart of the component being written has as children.
+std::vector<TComponent*> TWriter::AncestorChildren() {
+  std::vector<TComponent*> children;
+  auto* ancestor = dynamic_cast<TComponent*>(FAncestor);
+  if (ancestor) ancestor->GetChildren([&](TComponent* child) { children.push_back(child); }, FRootAncestor);
+  return children;
+}
+
 /// The children that the component names, with the stand-ins among them at the places they had in the stream.
 void TWriter::WriteChildren(TComponent* instance) {
   const TKeptData* kept = FindKeptData(instance);
   std::vector<TKeptData::TChild> standIns;
   if (kept) standIns = kept->Children;
+  TChildOrder order(AncestorChildren());
   size_t next = 0;
   int position = 0;
   const auto writeStandIns = [&] {
@@ -99,16 +158,17 @@ void TWriter::WriteChildren(TComponent* instance) {
       [&](TComponent* child) {
         if (IsWrittenElsewhere(child, instance)) return;
         writeStandIns();
-        WriteComponent(child);
+        WriteComponent(child, order.Next(FindAncestor(child)));
         ++position;
       },
       FRoot);
   for (; next < standIns.size(); ++next) WriteComponent(standIns[next].Component);
 }
 
+/// The counterpart, looked for where a reader would: in that of the form or nested form that owns the component.
 TComponent* TWriter::FindAncestor(const TComponent* component) const {
-  return FRootAncestor && !component->GetName().isEmpty() ? FRootAncestor->FindComponent(component->GetName())
-                                                          : nullptr;
+  TComponent* scope = component->GetOwnerComponent() == FRoot ? FRootAncestor : FLookupAncestor;
+  return scope && !component->GetName().isEmpty() ? scope->FindComponent(component->GetName()) : nullptr;
 }
 
 void TWriter::DefineProperty(QStringView name, const TReaderProc&, const TWriterProc& write, bool hasData) {
@@ -132,9 +192,30 @@ void TWriter::WriteVariant(const Variant& value) {
   if (VarIsEmpty(value)) return FOutput.WriteConstant(fcNil);
   if (VarIsNull(value)) return FOutput.WriteConstant(fcNull);
   if (VarType(value) == varBoolean) return FOutput.WriteBoolean(value.ToBool());
+  if (VarType(value) == varUInt64) return WriteUnsigned(value.ToUInt64());
   if (VarIsOrdinal(value)) return FOutput.WriteInteger(value.ToInt64());
-  if (VarIsNumeric(value)) return FOutput.WriteFloat(value.ToDouble());
+  if (VarType(value) == varDate) return FOutput.WriteDate(value.ToDateTime());
+  if (VarType(value) == varCurrency) return FOutput.WriteCurrency(value.ToCurrency().Scaled());
+  if (VarType(value) == varSingle) return FOutput.WriteSingle(static_cast<float>(value.ToDouble()));
+  if (VarType(value) == varDouble) return WriteDouble(value.ToDouble());
   FOutput.WriteString(VarToStr(value));
+}
+
+/// The format has no unsigned integers: what is beyond the signed ones is an extended number, which has 64 binary
+/// digits. Where it has not, text keeps every digit.
+void TWriter::WriteUnsigned(quint64 value) {
+  if (std::in_range<qint64>(value)) return FOutput.WriteInteger(static_cast<qint64>(value));
+  if constexpr (std::numeric_limits<Extended>::digits >= 64) {
+    FOutput.WriteFloat(static_cast<Extended>(value));
+  } else {
+    FOutput.WriteString(QString::number(value));
+  }
+}
+
+/// In the range of those unsigned integers a double says that it is one.
+void TWriter::WriteDouble(double value) {
+  const bool isAmbiguous = value >= 0x1p63 && value < 0x1p64;
+  isAmbiguous ? FOutput.WriteDouble(value) : FOutput.WriteFloat(value);
 }
 
 void TWriter::WriteCollection(TCollection& collection) {

@@ -8,6 +8,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
 #include <vector>
 
 namespace kt {
@@ -44,6 +45,8 @@ class TWriter : public TFiler {
   void WriteString(const QString& value) { FOutput.WriteString(value); }
   void WriteIdent(const QString& value) { FOutput.WriteIdent(value); }
   void WriteBinary(const QByteArray& value) { FOutput.WriteBinary(value); }
+  /// Keeps the type of dates, amounts, texts, truth values and floating-point numbers, Null and Unassigned; an integer
+  /// comes back in the smallest of Integer, Int64 and UInt64 that holds it.
   void WriteVariant(const Variant& value);
   void WriteListBegin() { FOutput.WriteListBegin(); }
   void WriteListEnd() { FOutput.WriteListEnd(); }
@@ -53,8 +56,10 @@ class TWriter : public TFiler {
  private:
   friend class TComponent;
 
-  void WriteComponent(TComponent* component);
-  void WriteHeader(TComponent* component, bool isInherited);
+  void WriteUnsigned(quint64 value);
+  void WriteDouble(double value);
+  void WriteComponent(TComponent* component, std::optional<int> position = std::nullopt);
+  void WriteHeader(TComponent* component, std::optional<int> position);
   void WriteData(TComponent* instance);
   void WriteChildren(TComponent* instance);
   void WriteProperties(TPersistent* instance);
@@ -64,7 +69,7 @@ class TWriter : public TFiler {
   void WriteOrdValue(const TTypeInfo* type, qint64 value);
   void WriteSetValue(const TTypeInfo* type, qint64 bits);
   void WriteClassProperty(TPersistent* instance, const TPropInfo* property);
-  void WriteReference(const TPropInfo* property, TComponent* target);
+  void WriteReference(const TPropInfo* property, const TComponent* inherited, TComponent* target);
   void WriteNested(const TPropInfo* property, TPersistent* object);
   void WriteCollectionProperty(const TPropInfo* property, TCollection* collection);
   void WriteInterfaceProperty(TPersistent* instance, const TPropInfo* property);
@@ -73,8 +78,10 @@ class TWriter : public TFiler {
 
   bool HasDefaultValue(TPersistent* instance, const TPropInfo* property);
   TObject* AncestorObject(const TPropInfo* property);
+  IInterface* AncestorInterface(const TPropInfo* property);
   QString ReferenceName(TComponent* target);
   bool SameReference(const TComponent* inherited, const TComponent* target) const;
+  std::vector<TComponent*> AncestorChildren();
   TComponent* FindAncestor(const TComponent* component) const;
 
   QByteArray FData;
@@ -85,6 +92,8 @@ class TWriter : public TFiler {
   TComponent* FLookupRoot = nullptr;
   /// The form whose descendant is being written.
   TComponent* FRootAncestor = nullptr;
+  /// The counterpart of FLookupRoot in that form.
+  TComponent* FLookupAncestor = nullptr;
 };
 
 /// The binary form of a component and its children.

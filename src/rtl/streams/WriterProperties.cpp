@@ -29,6 +29,9 @@ bool CollectionsEqual(TCollection& a, TCollection& b) {
   return first.Data() == second.Data();
 }
 
+/// Variants of one type compare without a conversion, so nothing is raised, and a text is no number.
+bool VariantsEqual(const Variant& a, const Variant& b) { return VarType(a) == VarType(b) && VarSameValue(a, b); }
+
 }  // namespace
 
 void TWriter::WriteProperties(TPersistent* instance) {
@@ -66,7 +69,7 @@ bool TWriter::HasDefaultValue(TPersistent* instance, const TPropInfo* property) 
   }
   switch (property->Kind()) {
     case tkFloat:
-      return GetFloatProp(instance, property) == (ancestor ? GetFloatProp(ancestor, property) : 0.0);
+      return GetExtendedProp(instance, property) == (ancestor ? GetExtendedProp(ancestor, property) : 0.0L);
     case tkString:
     case tkLString:
     case tkWString:
@@ -74,8 +77,8 @@ bool TWriter::HasDefaultValue(TPersistent* instance, const TPropInfo* property) 
     case tkInt64:
       return GetInt64Prop(instance, property) == (ancestor ? GetInt64Prop(ancestor, property) : 0);
     case tkVariant:
-      return VarSameValue(GetVariantProp(instance, property),
-                          ancestor ? GetVariantProp(ancestor, property) : Variant());
+      return VariantsEqual(GetVariantProp(instance, property),
+                           ancestor ? GetVariantProp(ancestor, property) : Variant());
     default:
       return true;
   }
@@ -85,7 +88,7 @@ void TWriter::WriteValue(TPersistent* instance, const TPropInfo* property) {
   WritePropName(property->Name());
   switch (property->Kind()) {
     case tkFloat:
-      return FOutput.WriteFloat(GetFloatProp(instance, property));
+      return FOutput.WriteFloat(GetExtendedProp(instance, property));
     case tkString:
     case tkLString:
     case tkWString:
@@ -127,6 +130,12 @@ TObject* TWriter::AncestorObject(const TPropInfo* property) {
   return GetObjectProp(FAncestor, property->Name());
 }
 
+IInterface* TWriter::AncestorInterface(const TPropInfo* property) {
+  if (!FAncestor) return nullptr;
+  const TPropInfo* inherited = GetPropInfo(FAncestor, property->Name(), {tkInterface});
+  return inherited ? GetInterfaceProp(FAncestor, inherited) : nullptr;
+}
+
 void TWriter::WriteClassProperty(TPersistent* instance, const TPropInfo* property) {
   TObject* value = GetObjectProp(instance, property);
   if (!value) {
@@ -136,7 +145,8 @@ void TWriter::WriteClassProperty(TPersistent* instance, const TPropInfo* propert
   }
   auto* component = dynamic_cast<TComponent*>(value);
   if (component && !IsSubComponent(component)) {
-    if (property->IsWritable()) WriteReference(property, component);
+    if (!property->IsWritable()) return;
+    WriteReference(property, dynamic_cast<TComponent*>(AncestorObject(property)), component);
   } else if (auto* collection = dynamic_cast<TCollection*>(value)) {
     WriteCollectionProperty(property, collection);
   } else if (auto* object = dynamic_cast<TPersistent*>(value)) {
@@ -144,8 +154,7 @@ void TWriter::WriteClassProperty(TPersistent* instance, const TPropInfo* propert
   }
 }
 
-void TWriter::WriteReference(const TPropInfo* property, TComponent* target) {
-  const auto* inherited = dynamic_cast<TComponent*>(AncestorObject(property));
+void TWriter::WriteReference(const TPropInfo* property, const TComponent* inherited, TComponent* target) {
   const QString name = ReferenceName(target);
   if (name.isEmpty() || (inherited && SameReference(inherited, target))) return;
   WritePropName(property->Name());
@@ -155,8 +164,12 @@ void TWriter::WriteReference(const TPropInfo* property, TComponent* target) {
 /// The counterpart in the ancestor form counts as the same component.
 bool TWriter::SameReference(const TComponent* inherited, const TComponent* target) const {
   if (inherited == target) return true;
-  return inherited->GetOwnerComponent() == FRootAncestor && target->GetOwnerComponent() == FRoot &&
-         inherited->GetName() == target->GetName();
+  if (inherited->GetName() != target->GetName()) return false;
+  const TComponent* owner = target->GetOwnerComponent();
+  const TComponent* inheritedOwner = inherited->GetOwnerComponent();
+  if (!inheritedOwner) return false;
+  return (inheritedOwner == FRootAncestor && owner == FRoot) ||
+         (inheritedOwner == FLookupAncestor && owner == FLookupRoot);
 }
 
 QString TWriter::ReferenceName(TComponent* target) {
@@ -188,10 +201,13 @@ void TWriter::WriteCollectionProperty(const TPropInfo* property, TCollection* co
 }
 
 void TWriter::WriteInterfaceProperty(TPersistent* instance, const TPropInfo* property) {
-  TComponent* target = ComponentBehind(GetInterfaceProp(instance, property));
-  if (!target) return;
-  WritePropName(property->Name());
-  FOutput.WriteIdent(ReferenceName(target));
+  IInterface* value = GetInterfaceProp(instance, property);
+  IInterface* inherited = AncestorInterface(property);
+  if (!value && inherited) {
+    WritePropName(property->Name());
+    return FOutput.WriteConstant(fcNil);
+  }
+  if (TComponent* target = ComponentBehind(value)) WriteReference(property, ComponentBehind(inherited), target);
 }
 
 void TWriter::WriteMethodProperty(TPersistent* instance, const TPropInfo* property) {
