@@ -7,6 +7,8 @@
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 
+#include <limits>
+
 namespace kt {
 
 const TClassInfo* TStrings::Class() {
@@ -30,8 +32,12 @@ int TStrings::AddObject(const QString& text, TObject* object) {
 
 void TStrings::AddStrings(TStrings& strings) {
   const TUpdateBracket bracket(*this);
-  const int count = strings.GetCount();
-  for (int i = 0; i < count; ++i) AddObject(strings.Get(i), strings.GetObject(i));
+  // A list added to itself grows with each turn.
+  const int most = &strings == this ? GetCount() : std::numeric_limits<int>::max();
+  for (int i = 0; i < most && i < strings.GetCount(); ++i) {
+    const QString text = strings.Get(i);
+    AddObject(text, i < strings.GetCount() ? strings.GetObject(i) : nullptr);
+  }
 }
 
 void TStrings::InsertObject(int index, const QString& text, TObject* object) {
@@ -78,12 +84,13 @@ void TStrings::Assign(TPersistent* source) {
 }
 
 bool TStrings::Equals(TStrings& strings) {
-  const int count = GetCount();
-  if (count != strings.GetCount()) return false;
-  for (int i = 0; i < count; ++i) {
-    if (Get(i) != strings.Get(i)) return false;
+  if (&strings == this) return true;
+  if (GetCount() != strings.GetCount()) return false;
+  int index = 0;
+  for (; index < GetCount() && index < strings.GetCount(); ++index) {
+    if (Get(index) != strings.Get(index)) return false;
   }
-  return true;
+  return index == GetCount() && index == strings.GetCount();
 }
 
 int TStrings::IndexOf(QStringView text) {

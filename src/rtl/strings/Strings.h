@@ -15,7 +15,8 @@ namespace kt {
 ///
 /// Abstract: a descendant says where the lines are kept by overriding Get(), GetCount(), Insert(), Delete() and
 /// Clear(), and as much of the rest as it can do better. Nearly everything goes through Get(), which may change the
-/// list (a descendant brings missing lines into being there); that is why reading is not const.
+/// list (a descendant brings missing lines into being there); that is why reading is not const, and why whatever walks
+/// through the lines looks at the count in each turn.
 ///
 /// Errors of descendants are EStringListError, see Error(). Indices count from 0.
 class TStrings : public TPersistent {

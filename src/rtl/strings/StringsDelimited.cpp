@@ -25,13 +25,12 @@ QString InQuotes(QString line, QChar quote) {
   return quote + line + quote;
 }
 
-/// `lineAt` gives each line by its index.
-template <class F>
-QString Joined(int count, const TFormat& format, F&& lineAt) {
+QString Joined(TStrings& strings, const TFormat& format) {
   QString text;
-  for (int i = 0; i < count; ++i) {
-    const QString line = lineAt(i);
-    if (i > 0) text += format.Delimiter;
+  int count = 0;
+  for (; count < strings.GetCount(); ++count) {
+    const QString line = strings.GetStrings(count);
+    if (count > 0) text += format.Delimiter;
     text += NeedsQuotes(line, format) ? InQuotes(line, format.QuoteChar) : line;
   }
   // Without quotes the one empty line would look like no line.
@@ -41,9 +40,7 @@ QString Joined(int count, const TFormat& format, F&& lineAt) {
 
 }  // namespace
 
-QString TStrings::GetCommaText() {
-  return Joined(GetCount(), {Comma, DoubleQuote, GetStrictDelimiter()}, [this](int index) { return Get(index); });
-}
+QString TStrings::GetCommaText() { return Joined(*this, {Comma, DoubleQuote, GetStrictDelimiter()}); }
 
 void TStrings::SetCommaText(const QString& text) {
   SetDelimiter(Comma);
@@ -51,10 +48,7 @@ void TStrings::SetCommaText(const QString& text) {
   SetDelimitedText(text);
 }
 
-QString TStrings::GetDelimitedText() {
-  return Joined(GetCount(), {GetDelimiter(), GetQuoteChar(), GetStrictDelimiter()},
-                [this](int index) { return Get(index); });
-}
+QString TStrings::GetDelimitedText() { return Joined(*this, {GetDelimiter(), GetQuoteChar(), GetStrictDelimiter()}); }
 
 void TStrings::SetDelimitedText(const QString& text) {
   // A copy: the caller's text may be what Clear() frees.

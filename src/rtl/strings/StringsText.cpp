@@ -5,9 +5,8 @@ namespace kt {
 
 QString TStrings::GetTextStr() {
   const QString lineBreak = GetLineBreak();
-  const int count = GetCount();
   QString text;
-  for (int i = 0; i < count; ++i) text += Get(i) + lineBreak;
+  for (int i = 0; i < GetCount(); ++i) text += Get(i) + lineBreak;
   return text;
 }
 

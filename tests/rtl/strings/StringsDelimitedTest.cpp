@@ -158,6 +158,12 @@ TEST(StringsDelimitedTest, AStrictDelimiterStillKnowsQuotes) {
   EXPECT_EQ(" \"a | b\"", StrictLinesOf(" \"a,b\""));
 }
 
+TEST(StringsDelimitedTest, TheTextHoldsTheLinesThatReadingLeaves) {
+  EXPECT_EQ("a,x,x", NewFilling(3, {"a"})->GetDelimitedText());
+  EXPECT_EQ("a", NewFilling(1, {"a", "b", "c"})->GetDelimitedText());
+  EXPECT_EQ("a", NewFilling(1, {"a", "b", "c"})->GetCommaText());
+}
+
 TEST(StringsDelimitedTest, AStrictDelimiterHoldsForCommaTextToo) {
   auto list = NewStrictList();
   list->SetCommaText("a b,c");

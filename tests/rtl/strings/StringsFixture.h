@@ -100,6 +100,29 @@ class TPlainStrings : public TStrings {
   QStringList FLog;
 };
 
+/// A list whose Get() brings it to exactly `Wanted` lines first: "x" for each that is missing. It keeps objects.
+class TFillingStrings : public TStringList {
+ public:
+  using Inherited = TStringList;
+
+  int Wanted = 0;
+
+ protected:
+  QString Get(int index) override {
+    while (GetCount() > Wanted) Delete(GetCount() - 1);
+    while (GetCount() < Wanted) Add(QStringLiteral("x"));
+    return index < GetCount() ? TStringList::Get(index) : QString();
+  }
+};
+
+/// `lines` with a first Get() yet to come.
+inline std::unique_ptr<TFillingStrings> NewFilling(int wanted, const QStringList& lines) {
+  auto list = Make<TFillingStrings>();
+  list->Wanted = wanted;
+  for (const QString& line : lines) list->Insert(list->GetCount(), line);
+  return list;
+}
+
 inline std::unique_ptr<TPlainStrings> NewPlain(const QStringList& lines) {
   auto list = Make<TPlainStrings>();
   for (const QString& line : lines) list->Insert(list->GetCount(), line);

@@ -181,6 +181,46 @@ TEST(StringsTest, UpdateStateIsToldByTheOutermostBracketOnly) {
   EXPECT_EQ(0, list->GetUpdateCount());
 }
 
+TEST(StringsTest, LinesThatAreAddedOnReadingAreAssignedToo) {
+  auto list = NewList();
+  list->Assign(NewFilling(3, {"a"}).get());
+  EXPECT_EQ("a | x | x", Lines(*list));
+}
+
+TEST(StringsTest, LinesThatAreDeletedOnReadingAreNotAssigned) {
+  auto list = NewList();
+  list->Assign(NewFilling(2, {"a", "b", "c", "d"}).get());
+  EXPECT_EQ("a | b", Lines(*list));
+}
+
+TEST(StringsTest, ALineThatIsDeletedByItsOwnReadingHasNoObject) {
+  auto list = NewList();
+  auto source = NewFilling(0, {"a"});
+  source->SetObjects(0, list.get());
+  list->Assign(source.get());
+  EXPECT_EQ("", Lines(*list));
+  EXPECT_EQ(1, list->GetCount());
+  EXPECT_EQ(nullptr, list->GetObjects(0));
+}
+
+TEST(StringsTest, AListIsEqualOnlyWhenReadingLeavesItAsLongAsTheOther) {
+  EXPECT_FALSE(NewFilling(1, {"a", "b"})->Equals(*NewList({"a", "b"})));
+  EXPECT_FALSE(NewFilling(3, {"a", "b"})->Equals(*NewList({"a", "b"})));
+  EXPECT_FALSE(NewList({"a", "b"})->Equals(*NewFilling(1, {"a", "b"})));
+  EXPECT_TRUE(NewFilling(2, {"a", "b"})->Equals(*NewList({"a", "b"})));
+}
+
+TEST(StringsTest, AListIsEqualToItselfWhateverReadingDoes) {
+  auto list = NewFilling(1, {"a", "b"});
+  EXPECT_TRUE(list->Equals(*list));
+}
+
+TEST(StringsTest, ASearchEndsWhereReadingLeavesTheList) {
+  EXPECT_EQ(-1, NewFilling(1, {"a", "b", "c"})->IndexOf(u"c"));
+  EXPECT_EQ(2, NewFilling(3, {"a", "b"})->IndexOf(u"x"));
+  EXPECT_EQ(-1, NewFilling(1, {"a", "b=1"})->IndexOfName(u"b"));
+}
+
 TEST(StringsTest, ErrorPutsTheNumberIntoTheMessage) {
   EXPECT_EQ("List index out of bounds (7)",
             RaisedBy<EStringListError>([] { TPlainStrings::Error(SListIndexError, 7); }));

@@ -80,6 +80,11 @@ TEST(StringsTextTest, ATextSetFromTheListsOwnLineIsSafe) {
   EXPECT_EQ("a | b", Lines(*list));
 }
 
+TEST(StringsTextTest, HoldsTheLinesThatReadingLeaves) {
+  EXPECT_EQ("a\r\nx\r\nx\r\n", NewFilling(3, {"a"})->GetText());
+  EXPECT_EQ("a\r\n", NewFilling(1, {"a", "b", "c"})->GetText());
+}
+
 TEST(StringsTextTest, ComesBackAsItWas) {
   auto list = NewList({"", " a ", "\u00e9\U0001f600", "", "tab\there", ""});
   auto copy = NewList();
