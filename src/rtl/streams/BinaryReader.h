@@ -1,8 +1,8 @@
 #pragma once
 
+#include "kt/rtl/conversions/EightBit.h"
 #include "kt/rtl/streams/BinaryFormat.h"
 #include "kt/rtl/streams/ByteSource.h"
-#include "kt/rtl/streams/EightBit.h"
 #include "kt/rtl/streams/FormPath.h"
 
 #include <QString>

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "kt/rtl/conversions/EightBit.h"
 #include "kt/rtl/streams/BinaryFormat.h"
-#include "kt/rtl/streams/EightBit.h"
 #include "kt/rtl/streams/FormEvents.h"
 #include "kt/rtl/streams/TextWriter.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "kt/rtl/streams/EightBit.h"
+#include "kt/rtl/conversions/EightBit.h"
 
 #include <QByteArray>
 

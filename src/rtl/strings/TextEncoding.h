@@ -13,8 +13,4 @@ QString DecodeText(const QByteArray& bytes);
 /// UTF-8 that DecodeText() turns back into `text`; without a byte-order mark.
 QByteArray EncodeText(const QString& text);
 
-/// Each byte as a character of Windows-1252; the five bytes that it leaves open become the control characters of their
-/// number.
-QString DecodeWindows1252(QByteArrayView bytes);
-
 }  // namespace kt

@@ -26,14 +26,13 @@ TEST(TextEncodingTest, CutUtf8IsWindows1252) { EXPECT_EQ(u"a\u00c3", Decoded("a\
 TEST(TextEncodingTest, OverlongUtf8IsWindows1252) { EXPECT_EQ(u"\u00c0\u20ac", Decoded("\xc0\x80", 2)); }
 
 TEST(TextEncodingTest, Windows1252GivesEveryByteACharacterOfItsOwn) {
-  EXPECT_EQ(u"\u20ac\u0081\u201a", DecodeWindows1252("\x80\x81\x82"));
-  EXPECT_EQ(u"\u017e\u0178\u00a0\u00ff\u007f", DecodeWindows1252("\x9e\x9f\xa0\xff\x7f"));
+  EXPECT_EQ(u"\u20ac\u0081\u201a", Decoded("\x80\x81\x82", 3));
+  EXPECT_EQ(u"\u017e\u0178\u00a0\u00ff\u007f", Decoded("\x9e\x9f\xa0\xff\x7f", 5));
 }
 
 TEST(TextEncodingTest, NoBytesAreNoText) {
   EXPECT_EQ("", DecodeText({}));
   EXPECT_EQ("", Decoded("\xef\xbb\xbf", 3));
-  EXPECT_EQ("", DecodeWindows1252({}));
 }
 
 TEST(TextEncodingTest, TextIsWrittenInUtf8WithoutAMark) { EXPECT_EQ("\xc3\xa9", EncodeText(u"\u00e9"_qs)); }

@@ -1,4 +1,4 @@
-#include "kt/rtl/streams/EightBit.h"
+#include "kt/rtl/conversions/EightBit.h"
 
 #include <array>
 #include <cstring>

@@ -1,4 +1,4 @@
-#include "kt/rtl/streams/EightBit.h"
+#include "kt/rtl/conversions/EightBit.h"
 #include "support/FormTesting.h"
 
 namespace kt {
