@@ -1,15 +1,14 @@
 #include "kt/rtl/streams/FormErrors.h"
 
+#include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Messages.h"
 
 namespace kt {
 
 QString FillFormText(QLatin1StringView pattern, QStringView argument) {
-  QString text(pattern);
-  const qsizetype string = text.indexOf(u"%s");
-  const qsizetype number = text.indexOf(u"%d");
-  const qsizetype at = string < 0 || (number >= 0 && number < string) ? number : string;
-  return at < 0 ? text : text.replace(at, 2, argument.toString());
+  // A number arrives as text too, and Format() minds the difference.
+  if (QString(pattern).contains(QLatin1StringView("%d"))) return Format(pattern, {argument.toLongLong()});
+  return Format(pattern, {argument});
 }
 
 QString ShownName(QStringView name) {
@@ -25,11 +24,7 @@ QString AtOffset(const QString& what, qint64 offset, const QString& path) {
 }
 
 QString OnLine(const QString& what, qint64 line, qint64 column) {
-  // The line goes in first: `what` may hold any text, a percent sign included.
-  QString pattern(SParseError);
-  pattern.replace(QLatin1StringView("%d"), QString::number(line));
-  pattern.replace(QLatin1StringView("%s"), what);
-  return pattern + QStringLiteral(", column ") + QString::number(column);
+  return Format(SParseError, {what, line}) + QStringLiteral(", column ") + QString::number(column);
 }
 
 }  // namespace kt
