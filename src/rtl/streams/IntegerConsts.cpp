@@ -9,7 +9,7 @@ namespace {
 
 struct TConstsRegistry {
   std::mutex Mutex;
-  std::map<const TTypeInfo*, TIntegerConsts> Consts;
+  std::map<const TTypeInfo*, std::shared_ptr<const TIntegerConsts>> Consts;
 };
 
 TConstsRegistry& Registry() {
@@ -20,8 +20,10 @@ TConstsRegistry& Registry() {
 }  // namespace
 
 void RegisterIntegerConsts(const TTypeInfo* type, TIntegerConsts consts) {
+  auto shared = std::make_shared<const TIntegerConsts>(std::move(consts));
   const std::lock_guard lock(Registry().Mutex);
-  Registry().Consts.insert_or_assign(type, std::move(consts));
+  // What was registered before is freed after unlocking, with whatever its functions hold.
+  Registry().Consts[type].swap(shared);
 }
 
 void UnRegisterIntegerConsts(const TTypeInfo* type) {
@@ -29,10 +31,10 @@ void UnRegisterIntegerConsts(const TTypeInfo* type) {
   Registry().Consts.erase(type);
 }
 
-const TIntegerConsts* FindIntegerConsts(const TTypeInfo* type) {
+std::shared_ptr<const TIntegerConsts> FindIntegerConsts(const TTypeInfo* type) {
   const std::lock_guard lock(Registry().Mutex);
   const auto found = Registry().Consts.find(type);
-  return found == Registry().Consts.end() ? nullptr : &found->second;
+  return found == Registry().Consts.end() ? nullptr : found->second;
 }
 
 }  // namespace kt

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace kt {
@@ -19,7 +20,7 @@ struct TIntegerConsts {
 /// Registers the names of an integer type for the whole process; a second registration replaces the first.
 void RegisterIntegerConsts(const TTypeInfo* type, TIntegerConsts consts);
 void UnRegisterIntegerConsts(const TTypeInfo* type);
-/// The names of a type, or null.
-const TIntegerConsts* FindIntegerConsts(const TTypeInfo* type);
+/// The names of a type, or null. They stay valid while held, whatever is registered meanwhile, in whichever thread.
+std::shared_ptr<const TIntegerConsts> FindIntegerConsts(const TTypeInfo* type);
 
 }  // namespace kt

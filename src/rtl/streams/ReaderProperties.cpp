@@ -139,7 +139,7 @@ void TReader::ReadOrdValue(TPersistent* instance, const TPropInfo* property) {
     if (value < 0 && !IsBoolType(type)) throw EReadError(SInvalidPropertyValue.toString());
     return SetOrdProp(instance, property, value);
   }
-  const TIntegerConsts* consts = FindIntegerConsts(type);
+  const auto consts = FindIntegerConsts(type);
   const std::optional<qint64> value = consts ? consts->IdentToInt(ident) : std::nullopt;
   if (!value) throw EReadError(SInvalidPropertyValue.toString());
   SetOrdProp(instance, property, *value);

@@ -114,7 +114,7 @@ void TWriter::WriteOrdValue(const TTypeInfo* type, qint64 value) {
     default:
       break;
   }
-  const TIntegerConsts* consts = FindIntegerConsts(type);
+  const auto consts = FindIntegerConsts(type);
   const QString ident = consts ? consts->IntToIdent(value) : QString();
   ident.isEmpty() ? FOutput.WriteInteger(value) : FOutput.WriteIdent(ident);
 }
