@@ -6,10 +6,10 @@
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Messages.h"
 
+#include <algorithm>
+
 namespace kt {
 namespace {
-
-constexpr int MostSetMembers = 32;
 
 bool IsWideBoolType(const TEnumTypeInfo* type) { return IsBoolType(type) && type->MinValue() < 0; }
 
@@ -37,10 +37,18 @@ qint64 EnumValue(const TEnumTypeInfo* type, QStringView name) {
   throw EPropertyConvertError(Format(SInvalidPropertyType, {type->Name()}));
 }
 
+/// How many bits a set of that type can have: 32, or one for each member when there are more, up to the 64 that fit.
+int SetWidth(const TTypeInfo* component) {
+  const TOrdTypeInfo* members = OrdTypeOf(component);
+  return members ? static_cast<int>(std::clamp<qint64>(members->MaxValue(), 31, 63)) + 1 : 32;
+}
+
 qint64 MemberOrdinal(const TTypeInfo* component, QStringView name) {
   qint64 ordinal = -1;
   if (component->Kind() != tkInteger || TryStrToInt64(name, ordinal)) ordinal = GetEnumValue(component, name);
-  if (ordinal < 0 || ordinal >= MostSetMembers) throw EPropertyConvertError(Format(SInvalidPropertyElement, {name}));
+  if (ordinal < 0 || ordinal >= SetWidth(component)) {
+    throw EPropertyConvertError(Format(SInvalidPropertyElement, {name}));
+  }
   return ordinal;
 }
 
@@ -70,7 +78,8 @@ QString SetToString(const TTypeInfo* type, qint64 bits, bool brackets) {
   const TSetTypeInfo* set = SetTypeOf(type);
   if (!set) RaiseInvalidType(type);
   QStringList names;
-  for (int ordinal = 0; ordinal < MostSetMembers; ++ordinal) {
+  const int width = SetWidth(set->CompType());
+  for (int ordinal = 0; ordinal < width; ++ordinal) {
     if ((bits >> ordinal) & 1) names.append(GetEnumName(set->CompType(), ordinal));
   }
   const QString list = names.join(u',');

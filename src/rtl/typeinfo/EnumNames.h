@@ -16,11 +16,12 @@ QString GetEnumName(const TTypeInfo* type, qint64 value);
 /// Integer types: the number. Raises EConvertError for what should be a number and is none.
 qint64 GetEnumValue(const TTypeInfo* type, QStringView name);
 
-/// The members of a set as names in declaration order, joined by commas, in square brackets when asked for.
+/// The members of a set as names in declaration order, joined by commas, in square brackets when asked for. Bits from
+/// the number of the type's members on, though at least 32 and at most 64, do not count.
 QString SetToString(const TTypeInfo* type, qint64 bits, bool brackets = false);
 
 /// The bits of a set written as names (or numbers, for sets of integers) separated by commas or blanks, with or without
-/// square brackets. Raises EPropertyConvertError "Invalid property element: %s".
+/// square brackets. Raises EPropertyConvertError "Invalid property element: %s", also for a number from that limit on.
 qint64 StringToSet(const TTypeInfo* type, QStringView text);
 
 }  // namespace kt

@@ -5,6 +5,7 @@
 #include "support/Samples.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace kt {
 namespace {
@@ -67,6 +68,58 @@ TEST(EnumNamesTest, ASetIsReadWithAndWithoutBracketsAndBlanks) {
   EXPECT_EQ(0b101, StringToSet(TypeInfoOf<TSampleStyles>(), u" [ssbold, ssUnderline] "));
   EXPECT_EQ(0b10, StringToSet(TypeInfoOf<TSampleStyles>(), u"ssItalic"));
   EXPECT_EQ(0, StringToSet(TypeInfoOf<TSampleStyles>(), u"[]"));
+}
+
+/// A set of an enumeration with the members m0, m1 and so on.
+struct TMadeSet {
+  explicit TMadeSet(int count) : Component(QStringLiteral("TMember"), NamesOf(count)) {}
+
+  static QStringList NamesOf(int count) {
+    QStringList names;
+    for (int i = 0; i < count; ++i) names.append(u'm' + QString::number(i));
+    return names;
+  }
+
+  const TEnumTypeInfo Component;
+  const TSetTypeInfo Type{QStringLiteral("TMembers"), &Component};
+};
+
+TEST(EnumNamesTest, AWideSetListsItsMembersFrom32On) {
+  const TMadeSet set(64);
+  const qint64 bits = Q_INT64_C(1) << 31 | Q_INT64_C(1) << 32 | Q_INT64_C(1) << 40;
+  EXPECT_EQ(QStringLiteral("m31,m32,m40"), SetToString(&set.Type, bits));
+  EXPECT_EQ(QStringLiteral("[m63]"), SetToString(&set.Type, std::numeric_limits<qint64>::min(), true));
+}
+
+TEST(EnumNamesTest, AWideSetIsReadWithItsMembersFrom32On) {
+  const TMadeSet set(64);
+  EXPECT_EQ(Q_INT64_C(1) << 31 | Q_INT64_C(1) << 32 | Q_INT64_C(1) << 40, StringToSet(&set.Type, u"[m31,m32,m40]"));
+  EXPECT_EQ(std::numeric_limits<qint64>::min(), StringToSet(&set.Type, u"m63"));
+}
+
+TEST(EnumNamesTest, ASetHasRoomFor64Members) {
+  const TMadeSet set(65);
+  EXPECT_EQ(QStringLiteral("Invalid property element: m64"),
+            MessageOf<EPropertyConvertError>([&set] { StringToSet(&set.Type, u"m64"); }));
+}
+
+TEST(EnumNamesTest, AnOrdinarySetHas32BitsHoweverFewItsMembersAre) {
+  const TMadeSet set(3);
+  EXPECT_EQ(QStringLiteral("m0"), SetToString(&set.Type, Q_INT64_C(1) << 32 | 1));
+  EXPECT_EQ(QStringLiteral("Range check error"),
+            MessageOf<ERangeError>([&set] { SetToString(&set.Type, Q_INT64_C(1) << 31); }));
+}
+
+TEST(EnumNamesTest, ASetOfNumbersIsAsWideAsItsRange) {
+  const TOrdTypeInfo narrow(tkInteger, QStringLiteral("TDigit"), otUByte, 0, 9);
+  const TOrdTypeInfo wide(tkInteger, QStringLiteral("TMinute"), otUByte, 0, 59);
+  const TSetTypeInfo digits(QStringLiteral("TDigits"), &narrow);
+  const TSetTypeInfo minutes(QStringLiteral("TMinutes"), &wide);
+  EXPECT_EQ(Q_INT64_C(1) << 59 | 1, StringToSet(&minutes, u"[0,59]"));
+  EXPECT_EQ(QStringLiteral("Invalid property element: 60"),
+            MessageOf<EPropertyConvertError>([&minutes] { StringToSet(&minutes, u"60"); }));
+  EXPECT_EQ(QStringLiteral("Invalid property element: 32"),
+            MessageOf<EPropertyConvertError>([&digits] { StringToSet(&digits, u"32"); }));
 }
 
 TEST(EnumNamesTest, AnUnknownSetMemberRaises) {
