@@ -11,6 +11,12 @@
 
 namespace kt {
 
+namespace {
+
+using TItemSet = std::unordered_set<void*>;
+
+}  // namespace
+
 const TClassInfo* TList::Class() {
   static const TClassInfo info = TClassBuilder<TList>("TList").Creatable().Done();
   return &info;
@@ -148,8 +154,11 @@ void TList::Assign(const TList& source, TListAssignOp operation, const TList* ot
 }
 
 void TList::Combine(std::vector<void*> items, TListAssignOp operation) {
-  const std::unordered_set<void*> theirs(items.begin(), items.end());
-  std::unordered_set<void*> ours(FItems.begin(), FItems.end());
+  // Made before anything is taken out, and only where asked below: a copy needs neither.
+  const bool asksTheirs = operation == laAnd || operation == laXor || operation == laDestUnique;
+  const bool asksOurs = operation == laOr || operation == laXor || operation == laSrcUnique;
+  const TItemSet theirs = asksTheirs ? TItemSet(items.begin(), items.end()) : TItemSet();
+  TItemSet ours = asksOurs ? TItemSet(FItems.begin(), FItems.end()) : TItemSet();
   if (operation == laOr) {
     std::erase_if(items, [&ours](void* item) { return !ours.insert(item).second; });
   } else if (operation == laXor || operation == laSrcUnique) {
