@@ -1,5 +1,6 @@
 #include "ktform/FormFile.h"
 
+#include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Messages.h"
 
@@ -11,11 +12,7 @@ namespace {
 
 template <typename TError>
 [[noreturn]] void Fail(QLatin1StringView pattern, const QFileDevice& file) {
-  QString text(pattern);
-  // From the back: the name of a file may hold a placeholder of its own.
-  text.replace(text.lastIndexOf(QLatin1String("%s")), 2, file.errorString());
-  text.replace(text.indexOf(QLatin1String("%s")), 2, file.fileName());
-  throw TError(text);
+  throw TError(kt::Format(pattern, {file.fileName(), file.errorString()}));
 }
 
 }  // namespace

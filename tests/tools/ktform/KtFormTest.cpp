@@ -100,6 +100,14 @@ TEST_F(KtFormTest, NothingIsLeftOfAFileThatCannotBeSaved) {
   EXPECT_EQ(QStringList{QStringLiteral("a.dfm")}, QDir(FFolder.path()).entryList(QDir::Files));
 }
 
+TEST_F(KtFormTest, TheNameOfAFileMayLookLikeAPlaceholder) {
+  Write("a.dfm", kText);
+  const TRun run = Run({"to-binary", "a.dfm", "nowhere/%s%d%%.bin"});
+  EXPECT_EQ(1, run.Status);
+  EXPECT_TRUE(run.Errors.startsWith("a.dfm: error: Cannot create file \"nowhere/%s%d%%.bin\". "))
+      << run.Errors.toStdString();
+}
+
 TEST_F(KtFormTest, CheckPrintsOneLineAFile) {
   Write("a.dfm", kText);
   Write("a.bin", kBinary);
