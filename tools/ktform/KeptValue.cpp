@@ -32,7 +32,10 @@ void WriteFloat(kt::TBinaryWriter& writer, const QString& value) {
 void WriteSet(kt::TBinaryWriter& writer, QString value) {
   value.remove(u'[').remove(u']').replace(u' ', u',');
   writer.WriteSetBegin();
-  for (const QString& name : value.split(u',', Qt::SkipEmptyParts)) writer.WriteSetElement(name);
+  for (const QString& name : value.split(u',', Qt::SkipEmptyParts)) {
+    if (!kt::IsValidIdent(name)) throw kt::EPropertyError(kt::SInvalidPropertyValue.toString());
+    writer.WriteSetElement(name);
+  }
   writer.WriteSetEnd();
 }
 

@@ -1,48 +1,12 @@
-#include <QDir>
-#include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
+#include "tools/ktform/KtFormFixture.h"
 
 namespace {
 
+using ktform::tests::KtFormTest;
+using ktform::tests::TRun;
+
 constexpr char kText[] = "object A: TA\n  X = 'x'\nend\n";
 const QByteArray kBinary("TPF0\2TA\1A\1X\6\1x\0\0", 16);
-
-/// What a run of the program left: its exit status, standard output and standard error.
-struct TRun {
-  int Status;
-  QByteArray Output;
-  QByteArray Errors;
-};
-
-class KtFormTest : public ::testing::Test {
- protected:
-  QString Path(const char* name) const { return FFolder.filePath(QString::fromLatin1(name)); }
-
-  void Write(const char* name, const QByteArray& content) {
-    QFile file(Path(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(content);
-  }
-
-  QByteArray Content(const char* name) {
-    QFile file(Path(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-  }
-
-  TRun Run(const QStringList& arguments) {
-    QProcess program;
-    program.setWorkingDirectory(FFolder.path());
-    program.start(QStringLiteral(KT_FORM_PROGRAM), arguments);
-    program.waitForFinished(60000);
-    const int status = program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
-    return {status, program.readAllStandardOutput(), program.readAllStandardError()};
-  }
-
-  QTemporaryDir FFolder;
-};
 
 TEST_F(KtFormTest, WritesBinary) {
   Write("a.dfm", kText);

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+/// Runs the program in a folder of its own that goes with the test.
+namespace ktform::tests {
+
+/// What a run of the program left: its exit status, standard output and standard error.
+struct TRun {
+  int Status;
+  QByteArray Output;
+  QByteArray Errors;
+};
+
+class KtFormTest : public ::testing::Test {
+ protected:
+  QString Path(const char* name) const { return FFolder.filePath(QString::fromLatin1(name)); }
+
+  void Write(const char* name, const QByteArray& content) {
+    QFile file(Path(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+  }
+
+  QByteArray Content(const char* name) {
+    QFile file(Path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
+  }
+
+  TRun Run(const QStringList& arguments) {
+    QProcess program;
+    program.setWorkingDirectory(FFolder.path());
+    program.start(QStringLiteral(KT_FORM_PROGRAM), arguments);
+    program.waitForFinished(60000);
+    const int status = program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
+    return {status, program.readAllStandardOutput(), program.readAllStandardError()};
+  }
+
+  QTemporaryDir FFolder;
+};
+
+}  // namespace ktform::tests
