@@ -102,7 +102,7 @@ void TReader::ReadPropValue(TPersistent* instance, const TPropInfo* property) {
     case tkSet:
       return ReadSetValue(instance, property);
     case tkFloat:
-      return SetFloatProp(instance, property, ReadFloat());
+      return SetExtendedProp(instance, property, FInput.ReadFloat());
     case tkString:
     case tkLString:
     case tkWString:
@@ -151,7 +151,7 @@ void TReader::ReadSetValue(TPersistent* instance, const TPropInfo* property) {
   FInput.ReadSetBegin();
   for (QString name = FInput.ReadSetElement(); !name.isEmpty(); name = FInput.ReadSetElement()) {
     const qint64 ordinal = GetEnumValue(component, name);
-    if (ordinal < 0 || ordinal > 31) throw EReadError(SInvalidPropertyValue.toString());
+    if (ordinal < 0 || ordinal > 63) throw EReadError(SInvalidPropertyValue.toString());
     bits |= qint64{1} << ordinal;
   }
   SetOrdProp(instance, property, bits);
