@@ -24,6 +24,7 @@ class Currency {
   constexpr qint64 Scaled() const { return FScaled; }
   double ToDouble() const { return static_cast<double>(static_cast<long double>(FScaled) / 10000); }
 
+  // NOLINTNEXTLINE(modernize-use-nullptr): the check takes the comparison with zero inside for a null pointer.
   friend constexpr auto operator<=>(Currency, Currency) = default;
 
  private:

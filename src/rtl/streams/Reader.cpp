@@ -18,7 +18,7 @@ namespace kt {
 namespace {
 
 QByteArray AllOf(QIODevice& device) {
-  const QByteArray data = device.readAll();
+  QByteArray data = device.readAll();
   if (device.isReadable() && device.atEnd()) return data;
   throw EReadError(SReadError.toString() + u' ' + device.errorString());
 }
