@@ -11,9 +11,11 @@ namespace {
 template <typename T>
 TVariantRelationship Relate(const T& a, const T& b) {
   const std::partial_ordering order = a <=> b;
+  // NOLINTBEGIN(modernize-use-nullptr): the check takes the zero of an ordering for a null pointer.
   if (order == 0) return vrEqual;
   if (order < 0) return vrLessThan;
   return order > 0 ? vrGreaterThan : vrNotEqual;
+  // NOLINTEND(modernize-use-nullptr)
 }
 
 TVariantRelationship CompareAny(const QVariant& a, const QVariant& b) {
