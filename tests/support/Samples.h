@@ -55,12 +55,16 @@ class TSampleItem : public TCollectionItem {
     FCaption = value;
     Changed(false);
   }
+  ~TSampleItem() override { --Alive; }
+  /// How many items there are.
+  static inline int Alive = 0;
+
   TCollection& GetChildren() { return *FChildren; }
   void SetChildren(TCollection* value) { FChildren->Assign(value); }
   void Assign(TPersistent* source) override;
 
  protected:
-  explicit TSampleItem(TCollection* collection) : TCollectionItem(collection) {}
+  explicit TSampleItem(TCollection* collection) : TCollectionItem(collection) { ++Alive; }
   void Construct() override;
 
  private:
@@ -112,6 +116,10 @@ class TSample : public TComponent {
   TNotifyEvent OnAction;
   bool IsTextStored = true;
 
+  ~TSample() override { --Alive; }
+  /// How many samples there are.
+  static inline int Alive = 0;
+
   TSamplePart& GetPart() { return *FPart; }
   void SetPart(TSamplePart* value) { FPart->Assign(value); }
   TSampleItems& GetItems() { return *FItems; }
@@ -124,7 +132,7 @@ class TSample : public TComponent {
   TObject* LastSender = nullptr;
 
  protected:
-  explicit TSample(TComponent* owner = nullptr) : TComponent(owner) {}
+  explicit TSample(TComponent* owner = nullptr) : TComponent(owner) { ++Alive; }
   void Construct() override;
   void Notification(TComponent* component, TOperation operation) override;
   void GetChildren(const TGetChildProc& proc, TComponent* root) override;

@@ -1,5 +1,6 @@
 #include "support/FormOracle.h"
 #include "support/FormTesting.h"
+#include "support/LiveOracle.h"
 
 #include <QDir>
 
@@ -31,6 +32,12 @@ TEST(FormCorpusTest, TheTextParserKeepsItsPromises) {
 
 TEST(FormCorpusTest, TheBinaryReaderKeepsItsPromises) {
   EXPECT_EQ(QStringList(), Broken(QStringLiteral("fuzz_binary_reader"), oracle::CheckBinaryForm));
+}
+
+TEST(FormCorpusTest, LoadingIntoObjectsKeepsItsPromises) {
+  const auto check = [](const QByteArray& form) { oracle::CheckLiveLoad(form); };
+  EXPECT_EQ(QStringList(), Broken(QStringLiteral("fuzz_live_load"), check));
+  EXPECT_EQ(QStringList(), Broken(QStringLiteral("fuzz_binary_reader"), check));
 }
 
 }  // namespace
