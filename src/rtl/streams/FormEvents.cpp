@@ -11,7 +11,7 @@ constexpr std::array<QStringView, 4> kConstantNames{u"Null", u"nil", u"False", u
 
 std::optional<TFormConstant> FindFormConstant(QStringView identifier) {
   if (identifier.size() < 3 || identifier.size() > 5) return std::nullopt;
-  for (quint8 i = 0; i < kConstantNames.size(); ++i)
+  for (size_t i = 0; i < kConstantNames.size(); ++i)
     if (identifier.compare(kConstantNames[i], Qt::CaseInsensitive) == 0) return TFormConstant(i);
   return std::nullopt;
 }

@@ -80,7 +80,7 @@ QByteArray FixedText(Extended value) {
 }
 
 QByteArray ExtendedText(Extended value) {
-  const QByteArray fixed = FixedText(value);
+  QByteArray fixed = FixedText(value);
   if (!fixed.isEmpty() && Parse<Extended>(fixed) == value) return fixed;
   return ShortestExtended(value);
 }
@@ -105,7 +105,7 @@ bool IsSpecial(QByteArrayView text) { return text.size() == 4 && text.back() > '
 }  // namespace
 
 TFloatKind FloatKindOfSuffix(char letter) {
-  for (quint8 kind = fkSingle; kind < kSuffixes.size(); ++kind)
+  for (size_t kind = fkSingle; kind < kSuffixes.size(); ++kind)
     if (kSuffixes[kind] == letter) return TFloatKind(kind);
   return fkExtended;
 }

@@ -42,7 +42,7 @@ QByteArray DecodeUtf16(QByteArrayView bytes, bool bigEndian) {
   else
     qFromLittleEndian<char16_t>(bytes.data(), text.size(), text.data());
   const qsizetype valid = FindLoneSurrogate(text);
-  const QByteArray utf8 = QStringView(text).left(valid).toUtf8();
+  QByteArray utf8 = QStringView(text).left(valid).toUtf8();
   if (valid < text.size() || bytes.size() % 2 != 0) Fail(SInvalidUtf16, utf8, utf8.size());
   return utf8;
 }
