@@ -23,6 +23,20 @@ void TBinaryFormParser::ParseValue() {
   Run();
 }
 
+void TBinaryFormParser::ParseItems() {
+  FFrames.clear();
+  Push(fkCollection);
+  FSink.BeginCollection();
+  Run();
+}
+
+void TBinaryFormParser::ParseProperties() {
+  FFrames.clear();
+  Push(fkItem);
+  FSink.BeginItem(std::nullopt);
+  Run();
+}
+
 void TBinaryFormParser::Run() {
   while (!FFrames.empty()) Step();
 }

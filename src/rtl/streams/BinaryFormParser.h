@@ -24,6 +24,10 @@ class TBinaryFormParser {
   void ParseObject();
   /// One value with its type byte.
   void ParseValue();
+  /// The items of a collection whose type byte was read, with the end of their list.
+  void ParseItems();
+  /// A list of properties with its end, as one item of a collection.
+  void ParseProperties();
 
  private:
   enum TFrameKind : quint8 { fkProperties, fkChildren, fkList, fkCollection, fkItem };

@@ -10,6 +10,7 @@
 #include "kt/rtl/typeinfo/ClassInfo.h"
 
 #include <QIODevice>
+#include <QScopeGuard>
 
 #include <cmath>
 
@@ -33,10 +34,11 @@ TReader::~TReader() = default;
 
 TComponent* TReader::ReadRootComponent(TComponent* root) {
   if (FInput.IsAtResourceHeader()) FInput.ReadResourceHeader();
-  CheckStructure(false);
+  CheckStructure([](TBinaryReader&, TBinaryFormParser& parser) { parser.ParseForm(); });
   FInput.ReadSignature();
   TLoad load;
   FLoad = &load;
+  const auto done = qScopeGuard([this] { FLoad = nullptr; });
   const QString name = root ? root->GetName() : QString();
   TComponent* result = nullptr;
   try {
@@ -52,9 +54,12 @@ TComponent* TReader::ReadRootComponent(TComponent* root) {
 }
 
 void TReader::ReadComponents(TComponent* owner, TComponent* parent, const std::function<void(TComponent*)>& done) {
-  CheckStructure(true);
+  CheckStructure([](TBinaryReader& reader, TBinaryFormParser& parser) {
+    while (!reader.EndOfList()) parser.ParseForm();
+  });
   TLoad load;
   FLoad = &load;
+  const auto loaded = qScopeGuard([this] { FLoad = nullptr; });
   FRoot = owner;
   FScope = owner;
   FOwner = owner;
@@ -76,13 +81,29 @@ void TReader::ReadComponents(TComponent* owner, TComponent* parent, const std::f
 void TReader::RaiseInvalidRoot() { throw EInvalidCast(SInvalidCast.toString()); }
 
 /// Runs over the whole input once, so that what is damaged is refused before an object is touched.
-void TReader::CheckStructure(bool isList) {
+void TReader::CheckStructure(const TParseProc& parse) {
   TBinaryReader reader(FData);
   reader.Seek(FInput.Position());
   TIdleFormSink nowhere;
   TBinaryFormParser parser(reader, nowhere);
-  if (!isList) return parser.ParseForm();
-  while (!reader.EndOfList()) parser.ParseForm();
+  parse(reader, parser);
+}
+
+void TReader::InLoad(const std::function<void()>& read, const TParseProc& parse) {
+  if (FLoad) return read();
+  CheckStructure(parse);
+  TLoad load;
+  FLoad = &load;
+  FScope = FRoot;
+  const auto done = qScopeGuard([this] { FLoad = nullptr; });
+  try {
+    read();
+    load.Finish();
+  } catch (...) {
+    load.Undo();
+    throw;
+  }
+  GlobalFixupReferences();
 }
 
 TFormObjectHeader TReader::ReadHeader() {
@@ -167,15 +188,32 @@ Variant TReader::ReadVariant() {
   }
 }
 
+void TReader::ReadItemBegin() {
+  if (FInput.NextValue() != vaList) FInput.ReadInt64();
+  FInput.ReadListBegin();
+}
+
+void TReader::ReadProperties(TPersistent& instance) {
+  InLoad(
+      [&] {
+        while (!FInput.EndOfList()) ReadProperty(&instance);
+      },
+      [&](TBinaryReader& reader, TBinaryFormParser& parser) {
+        reader.Path().EnterObject({}, instance.ClassName());
+        parser.ParseProperties();
+      });
+}
+
 void TReader::ReadCollection(TCollection& collection) {
+  InLoad([&] { ReadItems(collection); }, [](TBinaryReader&, TBinaryFormParser& parser) { parser.ParseItems(); });
+}
+
+void TReader::ReadItems(TCollection& collection) {
   const TUpdateBracket bracket(collection);
   collection.Clear();
   while (!FInput.EndOfList()) {
-    // An index before the item belongs to the text format; the order of the items already says it.
-    if (FInput.NextValue() != vaList) FInput.ReadInt64();
-    FInput.ReadListBegin();
-    TCollectionItem* item = collection.Add();
-    while (!FInput.EndOfList()) ReadProperty(item);
+    ReadItemBegin();
+    ReadProperties(*collection.Add());
     FInput.ReadListEnd();
   }
   FInput.ReadListEnd();

@@ -16,6 +16,7 @@
 
 namespace kt {
 
+class TBinaryFormParser;
 class TClassInfo;
 class TCollection;
 class TMethod;
@@ -107,14 +108,29 @@ class TReader : public TFiler {
   void ReadListEnd() { FInput.ReadListEnd(); }
   bool EndOfList() { return FInput.EndOfList(); }
   void SkipValue() { FInput.SkipValue(); }
-  /// Replaces the items of `collection` by those that follow; the type code vaCollection has been consumed.
+  void ReadCollectionBegin() { FInput.ReadCollectionBegin(); }
+  /// Begins an item of a collection, whose end is a list end. Passes over the index that may stand before it: the order
+  /// of the items already says it.
+  void ReadItemBegin();
+  /// The name of the next property of a list.
+  QString ReadPropertyName() { return FInput.ReadShortString(); }
+  /// Reads properties into `instance` up to the list end, which is not read. Outside a component's load, references are
+  /// resolved before this returns, in the root first.
+  void ReadProperties(TPersistent& instance);
+  /// Replaces the items of `collection` by those that follow; the type code vaCollection has been consumed. Outside a
+  /// component's load as ReadProperties().
   void ReadCollection(TCollection& collection);
 
  private:
   friend class TComponent;
 
   [[noreturn]] static void RaiseInvalidRoot();
-  void CheckStructure(bool isList);
+  using TParseProc = std::function<void(TBinaryReader& reader, TBinaryFormParser& parser)>;
+  void CheckStructure(const TParseProc& parse);
+  /// Runs `read` as part of the load that is under way, or else as a load of its own for which `parse` checks the
+  /// structure.
+  void InLoad(const std::function<void()>& read, const TParseProc& parse);
+  void ReadItems(TCollection& collection);
   TFormObjectHeader ReadHeader();
   /// The bytes of the next value, its type code included.
   QByteArray TakeValue();

@@ -189,7 +189,7 @@ void TReader::ReadMethodValue(TPersistent* instance, const TPropInfo* property) 
   }
   const qint64 start = FInput.Position();
   const QString name = FInput.ReadIdent();
-  TMethod method = FRoot->ClassType()->FindMethod(name, FRoot);
+  TMethod method = FRoot ? FRoot->ClassType()->FindMethod(name, FRoot) : TMethod();
   if (method.IsEmpty() && OnFindMethod) method = OnFindMethod(name);
   if (!method.IsEmpty()) return SetMethodProp(instance, property, method);
   // A handler that the application does not have is as unknown as a property.

@@ -82,7 +82,7 @@ static bool IsScopeOfNames(const TComponent* component) {
 }
 
 void TWriter::WriteData(TComponent* instance) {
-  WriteProperties(instance);
+  WriteObjectProperties(instance);
   FOutput.WriteListEnd();
   TComponent* outer = FLookupRoot;
   TComponent* outerAncestor = FLookupAncestor;
@@ -173,7 +173,7 @@ TComponent* TWriter::FindAncestor(const TComponent* component) const {
 
 void TWriter::DefineProperty(QStringView name, const TReaderProc&, const TWriterProc& write, bool hasData) {
   if (!hasData || !write) return;
-  WritePropName(name);
+  WritePropertyName(name);
   const QString path = std::exchange(FPropPath, QString());
   write(*this);
   FPropPath = path;
@@ -182,11 +182,11 @@ void TWriter::DefineProperty(QStringView name, const TReaderProc&, const TWriter
 void TWriter::DefineBinaryProperty(QStringView name, const TReadBinaryProc&, const TWriteBinaryProc& write,
                                    bool hasData) {
   if (!hasData || !write) return;
-  WritePropName(name);
+  WritePropertyName(name);
   FOutput.WriteBinary(write());
 }
 
-void TWriter::WritePropName(QStringView name) { FOutput.WriteShortString(FPropPath + name.toString()); }
+void TWriter::WritePropertyName(QStringView name) { FOutput.WriteShortString(FPropPath + name.toString()); }
 
 void TWriter::WriteVariant(const Variant& value) {
   if (VarIsEmpty(value)) return FOutput.WriteConstant(fcNil);
@@ -219,17 +219,13 @@ void TWriter::WriteDouble(double value) {
 }
 
 void TWriter::WriteCollection(TCollection& collection) {
-  const QString path = std::exchange(FPropPath, QString());
-  TPersistent* outer = std::exchange(FAncestor, nullptr);
   FOutput.WriteCollectionBegin();
   for (int i = 0; i < collection.GetCount(); ++i) {
     FOutput.WriteListBegin();
-    WriteProperties(collection.GetItem(i));
+    WriteProperties(*collection.GetItem(i));
     FOutput.WriteListEnd();
   }
   FOutput.WriteListEnd();
-  FAncestor = outer;
-  FPropPath = path;
 }
 
 QByteArray WriteComponentToBinary(TComponent* component) {

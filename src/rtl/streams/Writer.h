@@ -50,6 +50,14 @@ class TWriter : public TFiler {
   void WriteVariant(const Variant& value);
   void WriteListBegin() { FOutput.WriteListBegin(); }
   void WriteListEnd() { FOutput.WriteListEnd(); }
+  /// Begins a collection whose items the caller writes: each as a list of properties between WriteListBegin() and
+  /// WriteListEnd(). Its end is WriteListEnd().
+  void WriteCollectionBegin() { FOutput.WriteCollectionBegin(); }
+  /// The name of a property, before its value.
+  void WritePropertyName(QStringView name);
+  /// Writes the properties of `instance`, what it defines included, into a list of properties, whose end the caller
+  /// writes; what equals `ancestor` is left out.
+  void WriteProperties(TPersistent& instance, TPersistent* ancestor = nullptr);
   /// One whole value: the type code vaCollection and the items with their published properties.
   void WriteCollection(TCollection& collection);
 
@@ -62,7 +70,7 @@ class TWriter : public TFiler {
   void WriteHeader(TComponent* component, std::optional<int> position);
   void WriteData(TComponent* instance);
   void WriteChildren(TComponent* instance);
-  void WriteProperties(TPersistent* instance);
+  void WriteObjectProperties(TPersistent* instance);
   void WriteKeptProperties(TPersistent* instance);
   void WriteProperty(TPersistent* instance, const TPropInfo* property);
   void WriteValue(TPersistent* instance, const TPropInfo* property);
@@ -74,7 +82,6 @@ class TWriter : public TFiler {
   void WriteCollectionProperty(const TPropInfo* property, TCollection* collection);
   void WriteInterfaceProperty(TPersistent* instance, const TPropInfo* property);
   void WriteMethodProperty(TPersistent* instance, const TPropInfo* property);
-  void WritePropName(QStringView name);
 
   bool HasDefaultValue(TPersistent* instance, const TPropInfo* property);
   TObject* AncestorObject(const TPropInfo* property);

@@ -10,6 +10,8 @@
 #include "kt/rtl/typeinfo/EnumNames.h"
 #include "kt/rtl/typeinfo/PropValues.h"
 
+#include <QScopeGuard>
+
 #include <utility>
 
 namespace kt {
@@ -34,7 +36,7 @@ bool VariantsEqual(const Variant& a, const Variant& b) { return VarType(a) == Va
 
 }  // namespace
 
-void TWriter::WriteProperties(TPersistent* instance) {
+void TWriter::WriteObjectProperties(TPersistent* instance) {
   for (const TPropInfo* property : instance->ClassType()->Props()) {
     if (IsStoredProp(instance, property)) WriteProperty(instance, property);
   }
@@ -42,11 +44,21 @@ void TWriter::WriteProperties(TPersistent* instance) {
   WriteKeptProperties(instance);
 }
 
+void TWriter::WriteProperties(TPersistent& instance, TPersistent* ancestor) {
+  const QString path = std::exchange(FPropPath, QString());
+  TPersistent* outer = std::exchange(FAncestor, ancestor);
+  const auto done = qScopeGuard([&] {
+    FAncestor = outer;
+    FPropPath = path;
+  });
+  WriteObjectProperties(&instance);
+}
+
 void TWriter::WriteKeptProperties(TPersistent* instance) {
   const TKeptData* kept = FindKeptData(instance);
   if (!kept) return;
   for (const TKeptData::TProperty& property : kept->Properties) {
-    WritePropName(property.Path);
+    WritePropertyName(property.Path);
     FOutput.WriteRaw(property.Value);
   }
 }
@@ -85,7 +97,7 @@ bool TWriter::HasDefaultValue(TPersistent* instance, const TPropInfo* property) 
 }
 
 void TWriter::WriteValue(TPersistent* instance, const TPropInfo* property) {
-  WritePropName(property->Name());
+  WritePropertyName(property->Name());
   switch (property->Kind()) {
     case tkFloat:
       return FOutput.WriteFloat(GetExtendedProp(instance, property));
@@ -140,7 +152,7 @@ void TWriter::WriteClassProperty(TPersistent* instance, const TPropInfo* propert
   TObject* value = GetObjectProp(instance, property);
   if (!value) {
     if (!property->IsWritable() || !AncestorObject(property)) return;
-    WritePropName(property->Name());
+    WritePropertyName(property->Name());
     return FOutput.WriteConstant(fcNil);
   }
   auto* component = dynamic_cast<TComponent*>(value);
@@ -157,7 +169,7 @@ void TWriter::WriteClassProperty(TPersistent* instance, const TPropInfo* propert
 void TWriter::WriteReference(const TPropInfo* property, const TComponent* inherited, TComponent* target) {
   const QString name = ReferenceName(target);
   if (name.isEmpty() || (inherited && SameReference(inherited, target))) return;
-  WritePropName(property->Name());
+  WritePropertyName(property->Name());
   FOutput.WriteIdent(name);
 }
 
@@ -186,7 +198,7 @@ QString TWriter::ReferenceName(TComponent* target) {
 void TWriter::WriteNested(const TPropInfo* property, TPersistent* object) {
   const QString path = std::exchange(FPropPath, FPropPath + property->Name() + u'.');
   TPersistent* outer = std::exchange(FAncestor, dynamic_cast<TPersistent*>(AncestorObject(property)));
-  WriteProperties(object);
+  WriteObjectProperties(object);
   FAncestor = outer;
   FPropPath = path;
 }
@@ -196,7 +208,7 @@ void TWriter::WriteCollectionProperty(const TPropInfo* property, TCollection* co
   auto* inherited = dynamic_cast<TCollection*>(AncestorObject(property));
   const bool isDefault = inherited ? CollectionsEqual(*collection, *inherited) : collection->GetCount() == 0;
   if (isDefault) return;
-  WritePropName(property->Name());
+  WritePropertyName(property->Name());
   WriteCollection(*collection);
 }
 
@@ -204,7 +216,7 @@ void TWriter::WriteInterfaceProperty(TPersistent* instance, const TPropInfo* pro
   IInterface* value = GetInterfaceProp(instance, property);
   IInterface* inherited = AncestorInterface(property);
   if (!value && inherited) {
-    WritePropName(property->Name());
+    WritePropertyName(property->Name());
     return FOutput.WriteConstant(fcNil);
   }
   if (TComponent* target = ComponentBehind(value)) WriteReference(property, ComponentBehind(inherited), target);
@@ -218,7 +230,7 @@ void TWriter::WriteMethodProperty(TPersistent* instance, const TPropInfo* proper
     const TMethod inherited = GetMethodProp(FAncestor, property->Name());
     if (inherited.Instance() && inherited.Instance()->ClassType()->MethodName(inherited) == name) return;
   }
-  WritePropName(property->Name());
+  WritePropertyName(property->Name());
   FOutput.WriteIdent(name);
 }
 
