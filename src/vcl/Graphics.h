@@ -1,0 +1,6 @@
+#pragma once
+
+/// Colours, cursors and fonts.
+#include "kt/vcl/graphics/Color.h"
+#include "kt/vcl/graphics/Cursor.h"
+#include "kt/vcl/graphics/Font.h"
