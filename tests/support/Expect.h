@@ -1,11 +1,15 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <gtest/gtest.h>
 #include <ostream>
 
 inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
+inline void PrintTo(const QByteArray& bytes, std::ostream* out) {
+  *out << ::testing::PrintToString(bytes.toStdString());
+}
 
 namespace kt::tests {
 

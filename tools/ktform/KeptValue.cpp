@@ -72,6 +72,8 @@ void WriteAs(kt::TBinaryWriter& writer, kt::TValueType type, const QString& valu
 
 }  // namespace
 
+bool HasKeptValue(kt::TComponent* component, QStringView path) { return FindKept(component, path) != nullptr; }
+
 void SetKeptValue(kt::TComponent* component, QStringView path, const QString& value) {
   kt::TKeptData::TProperty* property = FindKept(component, path);
   if (!property) throw kt::EPropertyError(kt::Format(kt::SUnknownProperty, {path}));

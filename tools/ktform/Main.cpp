@@ -20,7 +20,7 @@ QString Usage() {
          QStringLiteral(
              "\nIN may be text, binary or a resource; OUT may be IN, and is replaced as a whole or not at all.\n"
              "--crlf ends lines with CR LF, --utf8 keeps characters beyond ASCII readable, --resource writes the\n"
-             "resource header before the form.\n"
+             "resource header before the form. set leaves a text file as it is but for the lines that change.\n"
              "Exit status: 0 done, 1 failed, 2 wrong usage.");
 }
 

@@ -1,15 +1,15 @@
 #include "kt/rtl/objects/Exceptions.h"
-#include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/streams/BinaryFormWriter.h"
 #include "kt/rtl/streams/FormConversion.h"
 #include "kt/rtl/streams/Reader.h"
 #include "kt/rtl/streams/UnknownComponent.h"
 #include "kt/rtl/streams/Writer.h"
 #include "kt/rtl/typeinfo/PropPath.h"
-#include "kt/rtl/typeinfo/PropValues.h"
 #include "ktform/Commands.h"
 #include "ktform/FormFile.h"
+#include "ktform/FormTextEdit.h"
 #include "ktform/KeptValue.h"
+#include "ktform/PublishedValue.h"
 
 #include <memory>
 
@@ -34,16 +34,16 @@ std::unique_ptr<kt::TComponent> LoadForm(const QByteArray& form) {
   return std::unique_ptr<kt::TComponent>(reader.ReadRootComponent(nullptr));
 }
 
-/// The form in the format that it came in.
-QByteArray InFormatOf(const QByteArray& original, const QByteArray& binary) {
-  const kt::TStreamOriginalFormat format = kt::TestStreamFormat(original);
-  if (format == kt::sofBinary) return binary;
-  QByteArray text;
-  kt::ObjectBinaryToText(binary, text);
-  if (format != kt::sofResource) return text;
-  QByteArray resource;
-  kt::ObjectTextToResource(text, resource);
-  return resource;
+/// The changed form in the format and manner of the file it came from.
+QByteArray InFormatOf(const QByteArray& original, const QByteArray& before, const QByteArray& after) {
+  switch (kt::TestStreamFormat(original)) {
+    case kt::sofBinary:
+      return after;
+    case kt::sofResource:
+      return kt::WithResourceHeader(after);
+    default:
+      return EditFormText(original, before, after);
+  }
 }
 
 /// Names of components first, as many as there are; the rest is the path of a property.
@@ -59,19 +59,12 @@ TFormProperty FindProperty(kt::TComponent* root, QStringView path) {
   return found;
 }
 
-void SetReference(const kt::TPropTarget& target, kt::TComponent* root, const QString& name) {
-  kt::TComponent* component = name.isEmpty() ? nullptr : kt::FindNestedComponent(root, name);
-  if (!component && !name.isEmpty()) throw kt::EPropertyConvertError(kt::SInvalidPropertyValue.toString());
-  kt::SetObjectProp(target.Instance, target.Property, component);
-}
-
 void SetProperty(kt::TComponent* root, const TFormProperty& property, const QString& value) {
-  if (dynamic_cast<kt::TUnknownComponent*>(property.Component)) {
+  const bool isUnknown = dynamic_cast<kt::TUnknownComponent*>(property.Component) != nullptr;
+  if (isUnknown || HasKeptValue(property.Component, property.Path)) {
     return SetKeptValue(property.Component, property.Path, value);
   }
-  const kt::TPropTarget target = kt::FindPropTarget(property.Component, property.Path);
-  if (target.Property->Kind() == kt::tkClass) return SetReference(target, root, value);
-  kt::SetPropValue(target.Instance, target.Property, kt::Variant(value));
+  SetPublishedValue(root, kt::FindPropTarget(property.Component, property.Path), value);
 }
 
 void Assign(kt::TComponent* root, const QString& assignment) {
@@ -91,8 +84,9 @@ TExitStatus RunSet(const QStringList& arguments) {
   if (arguments.size() < 3 || !AreFileNames(arguments.mid(0, 2), 2)) return esWrongUsage;
   const QByteArray form = LoadFile(arguments[0]);
   const std::unique_ptr<kt::TComponent> root = LoadForm(form);
+  const QByteArray before = kt::WriteComponentToBinary(root.get());
   for (const QString& assignment : arguments.mid(2)) Assign(root.get(), assignment);
-  SaveFile(arguments[1], InFormatOf(form, kt::WriteComponentToBinary(root.get())));
+  SaveFile(arguments[1], InFormatOf(form, before, kt::WriteComponentToBinary(root.get())));
   return esDone;
 }
 

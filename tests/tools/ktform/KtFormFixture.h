@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Expect.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QByteArray>
+
+#include <optional>
+
+namespace ktform {
+
+/// How the bytes of a text file stand for its characters.
+enum TTextEncoding : quint8 { teUtf8, teUtf8Marked, teUtf16Little, teUtf16Big, teEightBit };
+
+/// The text of a form together with the manner in which its file writes it.
+struct TFormText {
+  TTextEncoding Encoding;
+  /// The line end that most lines have; LF where there is none.
+  QByteArray LineEnd;
+  /// UTF-8 without a mark, lines ended as in the file.
+  QByteArray Utf8;
+};
+
+/// Throws EParserError for bytes that are no text.
+TFormText DecodeText(const QByteArray& file);
+
+/// The bytes of a file that holds `utf8`, or none when the encoding lacks one of the characters.
+std::optional<QByteArray> EncodeText(const QByteArray& utf8, TTextEncoding encoding);
+
+}  // namespace ktform
