@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# Runs clang-tidy over the library sources, or over the given ones; .clang-tidy says which checks, and why not others.
-# The compiler's own warnings count too, so this also shows that every library source compiles with clang.
-# Use: scripts/check-tidy.sh [src/FILE.cpp]...
+# Runs clang-tidy over the sources of libraries and tools, or over the given ones; .clang-tidy says which checks, and why
+# not others. The compiler's own warnings count too, so this also shows that each of them compiles with clang.
+# Use: scripts/check-tidy.sh [FILE.cpp]...
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 cd "$root"
 [ -f build/debug/compile_commands.json ] || configure debug
-if [ $# -gt 0 ]; then sources=("$@"); else mapfile -t sources < <(git ls-files 'src/*.cpp'); fi
+if [ $# -gt 0 ]; then sources=("$@"); else mapfile -t sources < <(git ls-files 'src/*.cpp' 'tools/*.cpp'); fi
 printf '%s\0' "${sources[@]}" |
   xargs -0 -n 1 -P "$jobs" "$(llvm_tool clang-tidy)" -p build/debug --quiet --warnings-as-errors='*' \
     2> >(grep -vE '^[0-9]+ warnings? (generated|treated)' >&2)

@@ -20,7 +20,7 @@ template <typename TError>
 QByteArray LoadFile(const QString& fileName) {
   QFile file(fileName);
   if (!file.open(QIODevice::ReadOnly)) Fail<kt::EFOpenError>(kt::SFOpenError, file);
-  const QByteArray content = file.readAll();
+  QByteArray content = file.readAll();
   if (file.error() != QFileDevice::NoError) Fail<kt::EFOpenError>(kt::SFOpenError, file);
   return content;
 }
