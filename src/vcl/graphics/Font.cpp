@@ -71,16 +71,19 @@ void TFont::SetData(const TFontDataPointer& data) {
   if (!isSame) Changed();
 }
 
+TFontDataPointer TFont::DataAtOwnScale(const TFont& source) const {
+  TFontDataPointer data = source.FData;
+  const int scale = GetPixelsPerInch();
+  if (source.GetPixelsPerInch() == scale) return data;
+  data->Height = -Scaled(source.GetSize(), scale, kPointsPerInch);
+  data->PixelsPerInch = scale;
+  return data;
+}
+
 void TFont::Assign(TPersistent* source) {
   const auto* font = dynamic_cast<TFont*>(source);
   if (!font) return TPersistent::Assign(source);
-  TFontDataPointer data = font->FData;
-  const int scale = GetPixelsPerInch();
-  if (font->GetPixelsPerInch() != scale) {
-    data->Height = -Scaled(font->GetSize(), scale, kPointsPerInch);
-    data->PixelsPerInch = scale;
-  }
-  SetData(data);
+  SetData(DataAtOwnScale(*font));
 }
 
 }  // namespace kt

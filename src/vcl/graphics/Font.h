@@ -55,6 +55,8 @@ class TFont : public TGraphicsObject {
  protected:
   TFont() = default;
 
+  /// What `source` says, its height brought to this font's scale.
+  TFontDataPointer DataAtOwnScale(const TFont& source) const;
   /// Takes over `data` and tells the change, if it is one.
   void SetData(const TFontDataPointer& data);
 

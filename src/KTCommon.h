@@ -1,0 +1,6 @@
+#pragma once
+
+/// What the parts of the product share.
+#include "kt/ktcommon/DeltaFont.h"
+#include "kt/ktcommon/KTException.h"
+#include "kt/ktcommon/NewLine.h"
