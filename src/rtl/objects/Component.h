@@ -23,8 +23,8 @@ enum TComponentStateItem {
   csWriting,           ///< its own properties are being written
   csDestroying,        ///< its destruction has begun
   csDesigning,         ///< lives in a form designer
-  csAncestor,          ///< introduced by an ancestor form
-  csUpdating,          ///< its ancestor form is being merged in
+  csAncestor,          ///< introduced by an ancestor form; only in a designer
+  csUpdating,          ///< a descendant form is being read over it; only with csAncestor
   csFixups,            ///< refers to a component that is not loaded yet
   csFreeNotification,  ///< somebody watches it
   csInline,            ///< the root of a nested form
@@ -35,7 +35,7 @@ using TComponentState = TSet<TComponentStateItem>;
 enum TComponentStyleItem {
   csInheritable,  ///< can be part of an ancestor form
   csCheckPropAvail,
-  csSubComponent,  ///< belongs to a property of its owner and is streamed there
+  csSubComponent,  ///< belongs to a property of its owner and is streamed there, not among the children
   csTransient
 };
 using TComponentStyle = TSet<TComponentStyleItem>;
@@ -129,7 +129,9 @@ class TComponent : public TPersistent, public IInterfaceComponentReference {
   virtual void Notification(TComponent* component, TOperation operation);
   /// Everything read from the stream is in place; references too.
   virtual void Loaded() { FComponentState.Exclude(csLoading); }
+  /// In a designer, a descendant form is about to be read over this inherited component.
   virtual void Updating() { FComponentState.Include(csUpdating); }
+  /// The end of Updating(): its properties and references are in place, or the load has failed.
   virtual void Updated() { FComponentState.Exclude(csUpdating); }
   virtual void ReadState(class TReader& reader);
   virtual void WriteState(class TWriter& writer);

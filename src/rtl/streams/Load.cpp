@@ -1,6 +1,7 @@
 #include "kt/rtl/streams/Load.h"
 
 #include "kt/rtl/objects/Component.h"
+#include "kt/rtl/objects/UnhandledExceptions.h"
 
 #include <algorithm>
 #include <utility>
@@ -29,8 +30,31 @@ void TLoad::BeginLoading(TComponent* component) {
   FLoading.push_back(component);
 }
 
+void TLoad::MarkAncestor(TComponent* root) {
+  std::vector<TComponent*> found = {root};
+  for (size_t i = 0; i < found.size(); ++i) {
+    if (!found[i]->HasState(csAncestor)) FMarked.push_back(found[i]);
+    for (int k = 0; k < found[i]->GetComponentCount(); ++k) found.push_back(found[i]->GetComponents(k));
+  }
+  root->SetAncestor(true);
+}
+
+void TLoad::BeginUpdating(TComponent* component) {
+  if (!component->HasState(csAncestor)) return;
+  FUpdating.push_back(component);
+  component->Updating();
+}
+
+void TLoad::EndUpdating() {
+  for (size_t i = 0; i < FUpdating.size(); ++i) {
+    if (TComponent* component = std::exchange(FUpdating[i], nullptr)) component->Updated();
+  }
+  FUpdating.clear();
+}
+
 TComponent* TLoad::Finish() {
   FFixups.Resolve();
+  EndUpdating();
   // By index: a handler may free components, which become null here.
   for (size_t i = 0; i < FLoaded.size(); ++i) {
     if (FLoaded[i]) FLoaded[i]->Loaded();
@@ -38,6 +62,7 @@ TComponent* TLoad::Finish() {
   TComponent* root = FLoaded.empty() ? nullptr : FLoaded.front();
   FLoaded.clear();
   FLoading.clear();
+  FMarked.clear();
   FCreated.clear();
   return root;
 }
@@ -45,10 +70,18 @@ TComponent* TLoad::Finish() {
 void TLoad::Undo() noexcept {
   FFixups.Clear();
   FLoaded.clear();
+  // Each by itself: one that raises does not keep the others waiting.
+  while (!FUpdating.empty()) {
+    GuardedCall([this] { EndUpdating(); });
+  }
   for (TComponent* component : FLoading) {
-    if (component) component->FComponentState -= {csLoading, csReading};
+    if (component) component->FComponentState -= {csLoading, csReading, csUpdating};
   }
   FLoading.clear();
+  for (TComponent* component : FMarked) {
+    if (component) component->FComponentState.Exclude(csAncestor);
+  }
+  FMarked.clear();
   // The last first, so that children go before their owners; each disappears from the list when it goes.
   while (!FCreated.empty()) {
     delete FCreated.back();
@@ -64,6 +97,8 @@ void TLoad::ForgetHere(TPersistent* object) {
   FFixups.Remove(object);
   ClearLast(FCreated, object);
   ClearLast(FLoading, object);
+  ClearLast(FMarked, object);
+  ClearLast(FUpdating, object);
   ClearLast(FLoaded, object);
 }
 

@@ -22,12 +22,16 @@ class TLoad {
   void AddCreated(TComponent* component) { FCreated.push_back(component); }
   /// Marks a component as being loaded, which Finish() and Undo() take back.
   void BeginLoading(TComponent* component);
+  /// Marks all that `root` owns, and itself, as introduced by the ancestor form whose descendant is read over it.
+  void MarkAncestor(TComponent* root);
+  /// Tells a component that is marked so that a descendant form changes it; Finish() and Undo() tell it the end.
+  void BeginUpdating(TComponent* component);
   /// A component whose properties and children are complete: its Loaded() is still to be called.
   void AddLoaded(TComponent* component) { FLoaded.push_back(component); }
   TFixups& Fixups() { return FFixups; }
 
-  /// Resolves the references, then calls Loaded() of each component in the order of AddLoaded(). Answers the first of
-  /// them, the root; null when a handler has freed it.
+  /// Resolves the references, ends the updates, then calls Loaded() of each component in the order of AddLoaded().
+  /// Answers the first of them, the root; null when a handler has freed it.
   TComponent* Finish();
   /// Destroys what the load created, and leaves the others as not being loaded.
   void Undo() noexcept;
@@ -37,9 +41,12 @@ class TLoad {
 
  private:
   void ForgetHere(TPersistent* object);
+  void EndUpdating();
 
   std::vector<TComponent*> FCreated;
   std::vector<TComponent*> FLoading;
+  std::vector<TComponent*> FMarked;
+  std::vector<TComponent*> FUpdating;
   std::vector<TComponent*> FLoaded;
   TFixups FFixups;
   TLoad* FOuter;

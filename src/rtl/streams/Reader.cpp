@@ -129,6 +129,10 @@ void TReader::LoadRoot(TComponent* root) {
   FLoad->BeginLoading(FRoot);
   SetComponentName(FRoot, header.Name);
   FLoad->AddLoaded(FRoot);
+  if (root && header.Flags.testFlag(ffInherited)) {
+    if (root->HasState(csDesigning)) FLoad->MarkAncestor(root);
+    FLoad->BeginUpdating(root);
+  }
   ReadState(FRoot);
 }
 

@@ -37,6 +37,10 @@ enum TUnknownPolicy {
 /// its owner and its children, and only properties (collections among them) that had been read before the failure have
 /// their new values.
 ///
+/// A descendant form is read over an instance of its ancestor: what is inherited is found in that by name. In a
+/// designer (csDesigning) what the instance holds is marked csAncestor then, and every inherited component is told
+/// Updating() before its properties are read and Updated() when all references are set, before Loaded().
+///
 /// Every failure is one exception: EReadError with the path of the object and property ("Error reading Form1.Color:
 /// ..."), EClassNotFound, EMethodNotFound, or the exception of the binary format with its byte offset.
 class TReader : public TFiler {

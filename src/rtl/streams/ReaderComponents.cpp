@@ -89,6 +89,10 @@ TComponent* TReader::MakeChild(const TFormObjectHeader& header) {
   if (!component) return nullptr;
   FLoad->BeginLoading(component);
   if (header.Flags.testFlag(ffInline)) component->SetInline(true);
+  // What a nested form has by now, its class brought along.
+  for (int i = 0; component->HasState(csDesigning) && i < component->GetComponentCount(); ++i) {
+    component->GetComponents(i)->SetAncestor(true);
+  }
   SetComponentName(component, header.Name);
   return component;
 }
@@ -97,7 +101,9 @@ TComponent* TReader::FindInherited(const TFormObjectHeader& header) {
   if (!header.Flags.testFlag(ffInherited)) return nullptr;
   TComponent* found = FOwner->FindComponent(header.Name);
   if (!found && UnknownClasses != upKeep) throw EReadError(Format(SAncestorNotFound, {header.Name}));
-  if (found) FLoad->BeginLoading(found);
+  if (!found) return nullptr;
+  FLoad->BeginLoading(found);
+  FLoad->BeginUpdating(found);
   return found;
 }
 

@@ -44,17 +44,30 @@ void TWriter::WriteComponents(const std::vector<TComponent*>& components, TCompo
 
 void TWriter::WriteComponent(TComponent* component, std::optional<int> position) {
   TPersistent* outer = FAncestor;
-  if (component != FRoot) FAncestor = FindAncestor(component);
-  WriteHeader(component, position);
-  component->FComponentState.Include(csWriting);
+  TComponent* outerRoot = FRootAncestor;
   const auto done = qScopeGuard([&] {
     component->FComponentState.Exclude(csWriting);
     FAncestor = outer;
+    FRootAncestor = outerRoot;
   });
+  const bool isInherited = EnterAncestor(component);
+  WriteHeader(component, isInherited, position);
+  component->FComponentState.Include(csWriting);
   component->WriteState(*this);
 }
 
-void TWriter::WriteHeader(TComponent* component, std::optional<int> position) {
+/// Makes the counterpart of a component the present ancestor; answers whether the component comes from the ancestor
+/// form.
+bool TWriter::EnterAncestor(TComponent* component) {
+  if (component == FRoot) return FAncestor != nullptr;
+  TComponent* inherited = FindAncestor(component);
+  TComponent* ancestor = inherited;
+  if (OnFindAncestor) OnFindAncestor(component, component->GetName(), ancestor, FRootAncestor);
+  FAncestor = ancestor;
+  return ancestor && (inherited || !component->HasState(csInline));
+}
+
+void TWriter::WriteHeader(TComponent* component, bool isInherited, std::optional<int> position) {
   TFormObjectHeader header;
   if (const auto* unknown = dynamic_cast<TUnknownComponent*>(component)) {
     header = unknown->GetHeader();
@@ -62,7 +75,7 @@ void TWriter::WriteHeader(TComponent* component, std::optional<int> position) {
     header.ClassName = component->ClassName();
     header.Flags.setFlag(ffInline, component->HasState(csInline));
   }
-  if (FAncestor) {
+  if (isInherited) {
     // A nested form that is inherited is found through its ancestor; the two are never stored together.
     header.Flags.setFlag(ffInherited);
     header.Flags.setFlag(ffInline, false);
@@ -156,7 +169,7 @@ void TWriter::WriteChildren(TComponent* instance) {
   };
   instance->GetChildren(
       [&](TComponent* child) {
-        if (IsWrittenElsewhere(child, instance)) return;
+        if (IsWrittenElsewhere(child, instance) || child->GetComponentStyle().Has(csSubComponent)) return;
         writeStandIns();
         WriteComponent(child, order.Next(FindAncestor(child)));
         ++position;

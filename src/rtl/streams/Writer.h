@@ -8,6 +8,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -24,8 +25,17 @@ class TTypeInfo;
 /// for what the format cannot hold, and passes on what getters raise.
 class TWriter : public TFiler {
  public:
+  /// `ancestor` is the counterpart of `component` in the ancestor form, null when that has none; `rootAncestor` is the
+  /// form that the counterparts of the components below it are looked up in. The handler may change both.
+  using TFindAncestorEvent =
+      std::function<void(TComponent* component, const QString& name, TComponent*& ancestor, TComponent*& rootAncestor)>;
+
   TWriter();
   ~TWriter() override;
+
+  /// Asked for every component but the root. A nested form (csInline) that gets a counterpart only here is written as
+  /// one of its own, with what differs from that: a designer answers the instance that its class is designed with.
+  TFindAncestorEvent OnFindAncestor;
 
   /// Writes `root` and all its children, as the descendant of `ancestor` when one is given.
   void WriteRootComponent(TComponent* root, TComponent* ancestor = nullptr);
@@ -67,7 +77,8 @@ class TWriter : public TFiler {
   void WriteUnsigned(quint64 value);
   void WriteDouble(double value);
   void WriteComponent(TComponent* component, std::optional<int> position = std::nullopt);
-  void WriteHeader(TComponent* component, std::optional<int> position);
+  void WriteHeader(TComponent* component, bool isInherited, std::optional<int> position);
+  bool EnterAncestor(TComponent* component);
   void WriteData(TComponent* instance);
   void WriteChildren(TComponent* instance);
   void WriteObjectProperties(TPersistent* instance);

@@ -19,7 +19,12 @@ namespace {
 
 constexpr TTypeKinds OrdKinds = {tkInteger, tkChar, tkWChar, tkEnumeration, tkSet};
 
-bool IsSubComponent(const TComponent* component) { return component->GetComponentStyle().Has(csSubComponent); }
+/// A sub-component belongs to the property of its owner; others only refer to it.
+bool IsReference(const TComponent* value, const TPersistent* instance, const TPropInfo* property) {
+  if (!value->GetComponentStyle().Has(csSubComponent)) return true;
+  const TPersistent* owner = value->GetOwnerComponent();
+  return property->IsWritable() && owner && owner != instance;
+}
 
 /// Equal as streams see it: by what would be written.
 bool CollectionsEqual(TCollection& a, TCollection& b) {
@@ -156,7 +161,7 @@ void TWriter::WriteClassProperty(TPersistent* instance, const TPropInfo* propert
     return FOutput.WriteConstant(fcNil);
   }
   auto* component = dynamic_cast<TComponent*>(value);
-  if (component && !IsSubComponent(component)) {
+  if (component && IsReference(component, instance, property)) {
     if (!property->IsWritable()) return;
     WriteReference(property, dynamic_cast<TComponent*>(AncestorObject(property)), component);
   } else if (auto* collection = dynamic_cast<TCollection*>(value)) {
