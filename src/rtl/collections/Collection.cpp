@@ -30,9 +30,9 @@ TCollectionItem* TCollection::Add() { return static_cast<TCollectionItem*>(FItem
 
 TCollectionItem* TCollection::Insert(int index) {
   if (index < 0 || index > GetCount()) throw EListError(Format(SListIndexError, {index}));
-  TCollectionItem* item = Add();
+  std::unique_ptr<TCollectionItem> item(Add());
   item->SetIndex(index);
-  return item;
+  return item.release();
 }
 
 void TCollection::Delete(int index) {

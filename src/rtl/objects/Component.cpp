@@ -62,8 +62,9 @@ void TComponent::SetName(const QString& value) {
 }
 
 void TComponent::ChangeName(const QString& value) {
-  const QString previous = std::exchange(FName, value);
-  if (FOwner) FOwner->FOwned->Renamed(this, previous, value);
+  // The index first: should memory run out there, nothing has changed.
+  if (FOwner) FOwner->FOwned->Renamed(this, FName, value);
+  FName = value;
 }
 
 int TComponent::GetComponentCount() const { return FOwned ? FOwned->Count() : 0; }
@@ -132,7 +133,12 @@ void TComponent::FreeNotification(TComponent* component) {
   if (FOwner && component->FOwner == FOwner) return;
   if (std::find(FFreeNotifies.begin(), FFreeNotifies.end(), component) != FFreeNotifies.end()) return;
   FFreeNotifies.push_back(component);
-  component->FreeNotification(this);
+  try {
+    component->FreeNotification(this);
+  } catch (...) {
+    RemoveWatcher(component);
+    throw;
+  }
 }
 
 void TComponent::RemoveFreeNotification(TComponent* component) {
@@ -189,9 +195,10 @@ void TComponent::ValidateContainer(TComponent* container) { container->ValidateI
 
 TOwnedComponents& TComponent::EnsureOwned() {
   if (FOwned) return *FOwned;
-  FOwned = std::make_unique<TOwnedComponents>();
+  auto owned = std::make_unique<TOwnedComponents>();
   // From now on notifications have a way to go through here.
   if (FOwner) FOwner->FOwned->ListenersChanged();
+  FOwned = std::move(owned);
   return *FOwned;
 }
 

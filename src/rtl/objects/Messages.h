@@ -15,6 +15,7 @@ inline constexpr QLatin1StringView SSortedListError{"Operation not allowed on so
 // Objects and components.
 inline constexpr QLatin1StringView SAssignError{"Cannot assign a %s to a %s"};
 inline constexpr QLatin1StringView SInvalidCast{"Invalid class typecast"};
+inline constexpr QLatin1StringView SObjectFreed{"An object was freed while it was in use"};
 inline constexpr QLatin1StringView SDuplicateName{"A component named %s already exists"};
 inline constexpr QLatin1StringView SInvalidName{"''%s'' is not a valid component name"};
 inline constexpr QLatin1StringView SDuplicateClass{"A class named %s already exists"};

@@ -12,12 +12,21 @@ int TOwnedComponents::IndexOf(const TComponent* component) const {
   return found == FList.rend() ? -1 : static_cast<int>(FList.rend() - found) - 1;
 }
 
-TComponent* TOwnedComponents::Find(QStringView name) const { return FByName.value(name.toString().toLower()); }
+TComponent* TOwnedComponents::Find(QStringView name) const {
+  const auto entry = FByName.find(name.toString().toLower());
+  return entry == FByName.end() ? nullptr : entry->second;
+}
 
 void TOwnedComponents::Add(TComponent* component, const QString& name) {
   FList.push_back(component);
+  try {
+    if (component->HearsNotifications()) FListeners.reserve(FList.capacity());
+    IndexName(component, name);
+  } catch (...) {
+    FList.pop_back();
+    throw;
+  }
   if (component->HearsNotifications()) FListeners.push_back(component);
-  IndexName(component, name);
 }
 
 void TOwnedComponents::Remove(TComponent* component, const QString& name) {
@@ -32,7 +41,12 @@ void TOwnedComponents::Move(int from, int to) {
   TComponent* component = FList[from];
   FList.erase(FList.begin() + from);
   FList.insert(FList.begin() + to, component);
-  ListenersChanged();
+  FListenersAreKnown = false;
+}
+
+void TOwnedComponents::ListenersChanged() {
+  FListeners.reserve(FList.capacity());
+  FListenersAreKnown = false;
 }
 
 void TOwnedComponents::ForgetListener(const TComponent* component) {
@@ -50,30 +64,33 @@ const std::vector<TComponent*>& TOwnedComponents::Listeners() {
 }
 
 void TOwnedComponents::Renamed(TComponent* component, const QString& from, const QString& to) {
-  ForgetName(component, from);
+  if (from.toLower() == to.toLower()) return;
   IndexName(component, to);
+  ForgetName(component, from);
 }
 
 void TOwnedComponents::IndexName(TComponent* component, const QString& name) {
   if (name.isEmpty()) return;
-  TComponent*& entry = FByName[name.toLower()];
-  if (entry) {
-    FHasEqualNames = true;
-  } else {
-    entry = component;
-  }
+  const bool isNew = FByName.try_emplace(name.toLower(), component).second;
+  if (!isNew) FHasEqualNames = true;
 }
 
 void TOwnedComponents::ForgetName(TComponent* component, const QString& name) {
   const auto entry = FByName.find(name.toLower());
-  if (name.isEmpty() || entry == FByName.end() || *entry != component) return;
-  FByName.erase(entry);
-  if (!FHasEqualNames) return;
+  if (name.isEmpty() || entry == FByName.end() || entry->second != component) return;
+  if (!FHasEqualNames) {
+    FByName.erase(entry);
+    return;
+  }
   // A class may allow equal names by overriding ValidateRename(): the next one of the name takes the place.
   const auto next = std::find_if(FList.begin(), FList.end(), [&](const TComponent* other) {
     return other != component && SameText(other->GetName(), name);
   });
-  if (next != FList.end()) FByName.insert(name.toLower(), *next);
+  if (next != FList.end()) {
+    entry->second = *next;
+  } else {
+    FByName.erase(entry);
+  }
 }
 
 }  // namespace kt

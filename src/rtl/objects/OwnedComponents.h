@@ -1,8 +1,9 @@
 #pragma once
 
-#include <QHash>
+#include <QHashFunctions>
 #include <QString>
 
+#include <unordered_map>
 #include <vector>
 
 namespace kt {
@@ -10,7 +11,8 @@ namespace kt {
 class TComponent;
 
 /// The components of one owner, in order, with an index by name so that loading a form with many components stays
-/// linear.
+/// linear. Each operation is done or, when memory runs out, changes nothing; taking out and going through the listeners
+/// never need memory.
 class TOwnedComponents {
  public:
   const std::vector<TComponent*>& List() const { return FList; }
@@ -26,7 +28,7 @@ class TOwnedComponents {
   int ListenerCount() { return static_cast<int>(Listeners().size()); }
   TComponent* Listener(int index) { return Listeners()[index]; }
   /// A component has become a listener.
-  void ListenersChanged() { FListenersAreKnown = false; }
+  void ListenersChanged();
 
   void Renamed(TComponent* component, const QString& from, const QString& to);
 
@@ -37,8 +39,10 @@ class TOwnedComponents {
   void ForgetName(TComponent* component, const QString& name);
 
   std::vector<TComponent*> FList;
-  QHash<QString, TComponent*> FByName;
+  /// By the name in lower case. Not a QHash: that ends the program when memory runs out.
+  std::unordered_map<QString, TComponent*> FByName;
   bool FHasEqualNames = false;
+  /// Has room for the whole list as soon as there is a listener.
   std::vector<TComponent*> FListeners;
   bool FListenersAreKnown = true;
 };

@@ -13,6 +13,8 @@
 #include "kt/rtl/typeinfo/ClassInfo.h"
 #include "kt/rtl/typeinfo/PropValues.h"
 
+#include <QScopeGuard>
+
 #include <algorithm>
 #include <atomic>
 #include <map>
@@ -43,8 +45,11 @@ void Wait(const TFixups::TFixup& fixup) {
 
 std::vector<TFixups::TFixup> TakeWaiting() {
   const std::lock_guard lock(Waiting().Mutex);
+  // Those that go on waiting shall find room.
+  std::vector<TFixups::TFixup> room;
+  room.reserve(Waiting().List.size());
   Waiting().Count = 0;
-  return std::exchange(Waiting().List, {});
+  return std::exchange(Waiting().List, std::move(room));
 }
 
 std::map<int, TFindGlobalComponent>& Finders() {
@@ -81,7 +86,7 @@ QByteArray StoredIdent(const QString& name) {
 /// False while the component is missing.
 bool Apply(const TFixups::TFixup& fixup) {
   TComponent* target = Target(fixup);
-  if (!target) return false;
+  if (!target || !fixup.Instance) return false;
   if (fixup.IsKept && dynamic_cast<TUnknownComponent*>(target)) {
     EnsureKeptData(fixup.PathStart).Properties.push_back({fixup.Path, StoredIdent(fixup.Name)});
     return true;
@@ -89,31 +94,37 @@ bool Apply(const TFixups::TFixup& fixup) {
   try {
     SetReference(fixup, target);
   } catch (const EInvalidCast& error) {
-    throw EReadError(Format(SPropertyException, {fixup.PathStart->GetNamePath(), u'.', fixup.Path, error.Message()}));
+    const QString object = fixup.Instance ? fixup.PathStart->GetNamePath() : QString();
+    throw EReadError(Format(SPropertyException, {object, u'.', fixup.Path, error.Message()}));
   }
   return true;
 }
 
+bool Concerns(const TFixups::TFixup& fixup, const TPersistent* object) {
+  return fixup.Instance == object || fixup.PathStart == object || static_cast<const TPersistent*>(fixup.Root) == object;
+}
+
 void RemoveFrom(std::vector<TFixups::TFixup>& list, const TPersistent* object) {
-  const auto belongs = [object](const TFixups::TFixup& fixup) {
-    return fixup.Instance == object || fixup.PathStart == object ||
-           static_cast<const TPersistent*>(fixup.Root) == object;
-  };
-  list.erase(std::remove_if(list.begin(), list.end(), belongs), list.end());
+  std::erase_if(list, [object](const TFixups::TFixup& fixup) { return Concerns(fixup, object); });
 }
 
 }  // namespace
 
-void TFixups::Remove(const TPersistent* object) { RemoveFrom(FList, object); }
+void TFixups::Remove(const TPersistent* object) {
+  RemoveFrom(FList, object);
+  if (FCurrent && Concerns(*FCurrent, object)) FCurrent->Instance = nullptr;
+}
 
 template <class F>
 void TFixups::ResolveAll(F apply) {
   // Taken out one by one: a setter may destroy an object that a later reference belongs to.
   std::reverse(FList.begin(), FList.end());
   while (!FList.empty()) {
-    const TFixup fixup = std::move(FList.back());
+    TFixup fixup = std::move(FList.back());
     FList.pop_back();
-    if (!apply(fixup)) Wait(fixup);
+    FCurrent = &fixup;
+    const auto done = qScopeGuard([this] { FCurrent = nullptr; });
+    if (!apply(fixup) && fixup.Instance) Wait(fixup);
   }
 }
 
@@ -160,7 +171,7 @@ void GlobalFixupReferences() {
   if (Waiting().Count == 0) return;
   // While they are being resolved they belong to a load, so that objects destroyed meanwhile disappear.
   TLoad load;
-  for (TFixups::TFixup& fixup : TakeWaiting()) load.Fixups().Add(std::move(fixup));
+  load.Fixups().Take(TakeWaiting());
   load.Fixups().ResolveGuarded();
 }
 

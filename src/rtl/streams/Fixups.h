@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace kt {
@@ -16,6 +17,7 @@ class TPropInfo;
 class TFixups {
  public:
   struct TFixup {
+    /// Null when one of the objects was destroyed while the reference was being set.
     TPersistent* Instance;
     const TPropInfo* Property;
     /// The form, or nested form, that the name is relative to; the forms around it come next.
@@ -33,6 +35,8 @@ class TFixups {
   /// Drops the references that `object` holds or that are relative to it.
   void Remove(const TPersistent* object);
   void Clear() { FList.clear(); }
+  /// Takes over references that have waited.
+  void Take(std::vector<TFixup> fixups) { FList = std::move(fixups); }
   /// Sets every reference whose component exists now and hands the others to the waiting list of the process.
   void Resolve();
   /// The same, but a reference that cannot be set is reported (HandleException()) and dropped, and the others go on.
@@ -43,6 +47,8 @@ class TFixups {
   void ResolveAll(F apply);
 
   std::vector<TFixup> FList;
+  /// The one being set, which is no longer in the list.
+  TFixup* FCurrent = nullptr;
 };
 
 /// How references find components of other forms: answers the form, data module or other root component of that name.

@@ -14,4 +14,9 @@ struct TFormObjectHeader {
   int ChildPos = 0;
 };
 
+/// What messages call the object: its name, or its class when it has none.
+inline const QString& NameIn(const TFormObjectHeader& header) {
+  return header.Name.isEmpty() ? header.ClassName : header.Name;
+}
+
 }  // namespace kt

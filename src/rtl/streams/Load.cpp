@@ -25,9 +25,14 @@ TLoad::TLoad() : FOuter(std::exchange(Innermost, this)) {}
 
 TLoad::~TLoad() { Innermost = FOuter; }
 
+void TLoad::AddCreated(std::unique_ptr<TComponent> component) {
+  FCreated.push_back(nullptr);
+  FCreated.back() = component.release();
+}
+
 void TLoad::BeginLoading(TComponent* component) {
-  component->FComponentState.Include(csLoading);
   FLoading.push_back(component);
+  component->FComponentState.Include(csLoading);
 }
 
 void TLoad::MarkAncestor(TComponent* root) {
@@ -52,13 +57,16 @@ void TLoad::EndUpdating() {
   FUpdating.clear();
 }
 
-TComponent* TLoad::Finish() {
+void TLoad::Finish() {
   FFixups.Resolve();
   EndUpdating();
   // By index: a handler may free components, which become null here.
   for (size_t i = 0; i < FLoaded.size(); ++i) {
     if (FLoaded[i]) FLoaded[i]->Loaded();
   }
+}
+
+TComponent* TLoad::Keep() noexcept {
   TComponent* root = FLoaded.empty() ? nullptr : FLoaded.front();
   FLoaded.clear();
   FLoading.clear();
@@ -93,7 +101,16 @@ void TLoad::Forget(TPersistent* object) {
   for (TLoad* load = Innermost; load; load = load->FOuter) load->ForgetHere(object);
 }
 
+void TLoad::ForgetUses(const TPersistent* object) {
+  for (TUse* use = FUses; use; use = use->FOuter) {
+    if (use->FObject != object) continue;
+    use->FObject = nullptr;
+    FHasLostObject = true;
+  }
+}
+
 void TLoad::ForgetHere(TPersistent* object) {
+  ForgetUses(object);
   FFixups.Remove(object);
   ClearLast(FCreated, object);
   ClearLast(FLoading, object);

@@ -2,6 +2,8 @@
 
 #include "kt/rtl/streams/Fixups.h"
 
+#include <memory>
+#include <utility>
 #include <vector>
 
 namespace kt {
@@ -13,14 +15,33 @@ class TPersistent;
 /// a handler may free any of them in the middle of a load. Lives on the stack of the operation that loads.
 class TLoad {
  public:
+  /// Says, for its own time, that the load is at work on an object and cannot go on without it. Lives on the stack.
+  class TUse {
+   public:
+    explicit TUse(TLoad& load, TPersistent* object = nullptr)
+        : FLoad(load), FObject(object), FOuter(std::exchange(load.FUses, this)) {}
+    ~TUse() { FLoad.FUses = FOuter; }
+    TUse(const TUse&) = delete;
+    TUse& operator=(const TUse&) = delete;
+    void SetObject(TPersistent* object) { FObject = object; }
+    /// False when it was destroyed, or never set.
+    bool IsAlive() const { return FObject != nullptr; }
+
+   private:
+    friend class TLoad;
+    TLoad& FLoad;
+    TPersistent* FObject;
+    TUse* FOuter;
+  };
+
   TLoad();
   ~TLoad();
   TLoad(const TLoad&) = delete;
   TLoad& operator=(const TLoad&) = delete;
 
-  /// A component that the load created.
-  void AddCreated(TComponent* component) { FCreated.push_back(component); }
-  /// Marks a component as being loaded, which Finish() and Undo() take back.
+  /// A component that the load created; destroyed at once when it cannot be remembered.
+  void AddCreated(std::unique_ptr<TComponent> component);
+  /// Marks a component as being loaded, which Undo() takes back.
   void BeginLoading(TComponent* component);
   /// Marks all that `root` owns, and itself, as introduced by the ancestor form whose descendant is read over it.
   void MarkAncestor(TComponent* root);
@@ -29,10 +50,14 @@ class TLoad {
   /// A component whose properties and children are complete: its Loaded() is still to be called.
   void AddLoaded(TComponent* component) { FLoaded.push_back(component); }
   TFixups& Fixups() { return FFixups; }
+  /// True once an object was destroyed that the load was at work on.
+  bool HasLostObject() const { return FHasLostObject; }
 
   /// Resolves the references, ends the updates, then calls Loaded() of each component in the order of AddLoaded().
-  /// Answers the first of them, the root; null when a handler has freed it.
-  TComponent* Finish();
+  void Finish();
+  /// Everything has succeeded: what the load created is the caller's. Answers the component added first to those to be
+  /// told, the root; null when a handler has freed it.
+  TComponent* Keep() noexcept;
   /// Destroys what the load created, and leaves the others as not being loaded.
   void Undo() noexcept;
 
@@ -42,6 +67,7 @@ class TLoad {
  private:
   void ForgetHere(TPersistent* object);
   void EndUpdating();
+  void ForgetUses(const TPersistent* object);
 
   std::vector<TComponent*> FCreated;
   std::vector<TComponent*> FLoading;
@@ -49,6 +75,8 @@ class TLoad {
   std::vector<TComponent*> FUpdating;
   std::vector<TComponent*> FLoaded;
   TFixups FFixups;
+  TUse* FUses = nullptr;
+  bool FHasLostObject = false;
   TLoad* FOuter;
 };
 

@@ -40,17 +40,17 @@ TComponent* TReader::ReadRootComponent(TComponent* root) {
   FLoad = &load;
   const auto done = qScopeGuard([this] { FLoad = nullptr; });
   const QString name = root ? root->GetName() : QString();
-  TComponent* result = nullptr;
+  const TLoad::TUse use(load, root);
   try {
     LoadRoot(root);
-    result = load.Finish();
+    load.Finish();
+    GlobalFixupReferences();
+    return load.Keep();
   } catch (...) {
-    if (root) root->ChangeName(name);
     load.Undo();
+    if (use.IsAlive()) root->ChangeName(name);
     throw;
   }
-  GlobalFixupReferences();
-  return result;
 }
 
 void TReader::ReadComponents(TComponent* owner, TComponent* parent, const std::function<void(TComponent*)>& done) {
@@ -64,6 +64,8 @@ void TReader::ReadComponents(TComponent* owner, TComponent* parent, const std::f
   FScope = owner;
   FOwner = owner;
   FParent = parent;
+  const TLoad::TUse useOfOwner(load, owner);
+  const TLoad::TUse useOfParent(load, parent);
   try {
     while (!FInput.EndOfList()) {
       FInput.ReadSignature();
@@ -71,11 +73,12 @@ void TReader::ReadComponents(TComponent* owner, TComponent* parent, const std::f
     }
     FInput.ReadListEnd();
     load.Finish();
+    GlobalFixupReferences();
+    load.Keep();
   } catch (...) {
     load.Undo();
     throw;
   }
-  GlobalFixupReferences();
 }
 
 void TReader::RaiseInvalidRoot() { throw EInvalidCast(SInvalidCast.toString()); }
@@ -95,15 +98,17 @@ void TReader::InLoad(const std::function<void()>& read, const TParseProc& parse)
   TLoad load;
   FLoad = &load;
   FScope = FRoot;
+  FPlace.clear();
   const auto done = qScopeGuard([this] { FLoad = nullptr; });
   try {
     read();
     load.Finish();
+    GlobalFixupReferences();
+    load.Keep();
   } catch (...) {
     load.Undo();
     throw;
   }
-  GlobalFixupReferences();
 }
 
 TFormObjectHeader TReader::ReadHeader() {
@@ -123,15 +128,19 @@ QByteArray TReader::TakeValue() {
 void TReader::LoadRoot(TComponent* root) {
   const qint64 start = FInput.Position();
   const TFormObjectHeader header = ReadHeader();
+  FPlace = NameIn(header);
   FRoot = root ? root : AtPlace(start, header, [&] { return MakeRoot(header); });
+  const TLoad::TUse use(*FLoad, FRoot);
   FScope = FRoot;
   FOwner = FRoot;
   FLoad->BeginLoading(FRoot);
   SetComponentName(FRoot, header.Name);
+  CheckNothingLost(start, header);
   FLoad->AddLoaded(FRoot);
   if (root && header.Flags.testFlag(ffInherited)) {
     if (root->HasState(csDesigning)) FLoad->MarkAncestor(root);
     FLoad->BeginUpdating(root);
+    CheckNothingLost(start, header);
   }
   ReadState(FRoot);
 }
@@ -140,12 +149,15 @@ void TReader::DefineProperty(QStringView name, const TReaderProc& read, const TW
   if (FDefinedName.isEmpty() || !read || !SameText(name, FDefinedName)) return;
   FDefinedName.clear();
   read(*this);
+  // The override of DefineProperties() that called must not go on without its object.
+  CheckNothingLost();
 }
 
 void TReader::DefineBinaryProperty(QStringView name, const TReadBinaryProc& read, const TWriteBinaryProc&, bool) {
   if (FDefinedName.isEmpty() || !read || !SameText(name, FDefinedName)) return;
   FDefinedName.clear();
   read(FInput.ReadBinary());
+  CheckNothingLost();
 }
 
 QChar TReader::ReadChar() {
@@ -200,6 +212,7 @@ void TReader::ReadItemBegin() {
 void TReader::ReadProperties(TPersistent& instance) {
   InLoad(
       [&] {
+        const TLoad::TUse use(*FLoad, &instance);
         while (!FInput.EndOfList()) ReadProperty(&instance);
       },
       [&](TBinaryReader& reader, TBinaryFormParser& parser) {
@@ -212,8 +225,24 @@ void TReader::ReadCollection(TCollection& collection) {
   InLoad([&] { ReadItems(collection); }, [](TBinaryReader&, TBinaryFormParser& parser) { parser.ParseItems(); });
 }
 
+namespace {
+
+/// A collection whose update ends only if it is still there.
+struct TUpdateOfLiving {
+  TCollection& Collection;
+  const TLoad::TUse& Use;
+  void BeginUpdate() { Collection.BeginUpdate(); }
+  void EndUpdate() {
+    if (Use.IsAlive()) Collection.EndUpdate();
+  }
+};
+
+}  // namespace
+
 void TReader::ReadItems(TCollection& collection) {
-  const TUpdateBracket bracket(collection);
+  const TLoad::TUse use(*FLoad, &collection);
+  TUpdateOfLiving target{collection, use};
+  const TUpdateBracket bracket(target);
   collection.Clear();
   while (!FInput.EndOfList()) {
     ReadItemBegin();

@@ -35,7 +35,8 @@ enum TUnknownPolicy {
 /// A load is checked as a whole for a sound structure before the first object is touched. When it fails after that, all
 /// components that it created are destroyed; what existed before keeps its name,
 /// its owner and its children, and only properties (collections among them) that had been read before the failure have
-/// their new values.
+/// their new values. An event, setter or override may free any component: one that waits for its turn is left out, and
+/// freeing one that is just being read, or one around it, is a failure as any other.
 ///
 /// A descendant form is read over an instance of its ancestor: what is inherited is found in that by name. In a
 /// designer (csDesigning) what the instance holds is marked csAncestor then, and every inherited component is told
@@ -142,9 +143,12 @@ class TReader : public TFiler {
 
   void ReadData(TComponent* instance);
   void ReadComponent(const std::function<void(TComponent*)>& done = {});
+  /// Raises EReadError when an event, setter or override has freed an object that is being read.
+  void CheckNothingLost() const;
+  void CheckNothingLost(qint64 offset, const TFormObjectHeader& header);
   TComponent* AtPlace(qint64 offset, const TFormObjectHeader& header, const std::function<TComponent*()>& make);
   TComponent* MakeRoot(const TFormObjectHeader& header);
-  TComponent* MakeChild(const TFormObjectHeader& header);
+  TComponent* MakeChild(const TFormObjectHeader& header, TLoad::TUse& use);
   QString PlaceOf(const TFormObjectHeader& header) const;
   /// The component of the ancestor form that an inherited one stands for; null for others, or when the policy is to
   /// keep.
@@ -158,6 +162,8 @@ class TReader : public TFiler {
   void ReadState(TComponent* component);
 
   void ReadProperty(TPersistent* instance);
+  /// Raises the error of a property with its place, unless OnError passes over it.
+  void HandlePropertyError(TPersistent* instance, const QString& path, const QString& what);
   void ReadPropertyPath(TPersistent* instance, const QString& path);
   void ReadDefinedProperty(TPersistent* instance, const QString& name);
   bool TakeUnknownProperty();
@@ -183,6 +189,8 @@ class TReader : public TFiler {
     QString Path;
   };
   TPropPath FPropPath;
+  /// What the stream calls the component being read; errors show it when that is gone.
+  QString FPlace;
   /// How many children of the present parent have been read.
   int FChildIndex = 0;
   /// The form or nested form whose names count for what is being read.

@@ -18,6 +18,7 @@ namespace kt {
 void TReader::ReadState(TComponent* component) {
   component->FComponentState.Include(csReading);
   component->ReadState(*this);
+  CheckNothingLost();
   component->FComponentState.Exclude(csReading);
 }
 
@@ -42,7 +43,9 @@ void TReader::ReadData(TComponent* instance) {
 void TReader::ReadComponent(const std::function<void(TComponent*)>& done) {
   const qint64 start = FInput.Position();
   const TFormObjectHeader header = ReadHeader();
-  TComponent* component = AtPlace(start, header, [&] { return MakeChild(header); });
+  FPlace = NameIn(header);
+  TLoad::TUse use(*FLoad);
+  TComponent* component = AtPlace(start, header, [&] { return MakeChild(header, use); });
   if (!component) {
     FInput.Seek(start);
     TIdleFormSink nowhere;
@@ -50,10 +53,21 @@ void TReader::ReadComponent(const std::function<void(TComponent*)>& done) {
     return;
   }
   PlaceChild(component, header);
+  CheckNothingLost(start, header);
   ReadState(component);
   if (header.Flags.testFlag(ffChildPos) && FParent) FParent->SetChildOrder(component, header.ChildPos);
+  CheckNothingLost(start, header);
   FLoad->AddLoaded(component);
   if (done) done(component);
+  CheckNothingLost(start, header);
+}
+
+void TReader::CheckNothingLost() const {
+  if (FLoad->HasLostObject()) throw EReadError(SObjectFreed.toString());
+}
+
+void TReader::CheckNothingLost(qint64 offset, const TFormObjectHeader& header) {
+  if (FLoad->HasLostObject()) throw EReadError(AtOffset(SObjectFreed.toString(), offset, NameIn(header)));
 }
 
 /// Runs `make`; errors about the component as a whole get the place.
@@ -70,8 +84,8 @@ TComponent* TReader::AtPlace(qint64 offset, const TFormObjectHeader& header, con
 }
 
 QString TReader::PlaceOf(const TFormObjectHeader& header) const {
-  const QString name = header.Name.isEmpty() ? header.ClassName : header.Name;
-  return !FScope || FScope->GetName().isEmpty() ? name : FScope->GetName() + u'.' + name;
+  const QString name = NameIn(header);
+  return FLoad->HasLostObject() || !FScope || FScope->GetName().isEmpty() ? name : FScope->GetName() + u'.' + name;
 }
 
 /// There is no form without its root: that one cannot be skipped.
@@ -81,12 +95,19 @@ TComponent* TReader::MakeRoot(const TFormObjectHeader& header) {
   return root;
 }
 
-TComponent* TReader::MakeChild(const TFormObjectHeader& header) {
-  if (TComponent* inherited = FindInherited(header)) return inherited;
+TComponent* TReader::MakeChild(const TFormObjectHeader& header, TLoad::TUse& use) {
+  if (TComponent* inherited = FindInherited(header)) {
+    use.SetObject(inherited);
+    FLoad->BeginLoading(inherited);
+    FLoad->BeginUpdating(inherited);
+    CheckNothingLost();
+    return inherited;
+  }
   // Only the policy to keep comes here with an inherited one: its ancestor is unknown, so it needs a stand-in.
   const bool isInherited = header.Flags.testFlag(ffInherited);
   TComponent* component = isInherited ? CreateUnknown(header, FOwner) : CreateComponent(header, FOwner);
   if (!component) return nullptr;
+  use.SetObject(component);
   FLoad->BeginLoading(component);
   if (header.Flags.testFlag(ffInline)) component->SetInline(true);
   // What a nested form has by now, its class brought along.
@@ -94,6 +115,7 @@ TComponent* TReader::MakeChild(const TFormObjectHeader& header) {
     component->GetComponents(i)->SetAncestor(true);
   }
   SetComponentName(component, header.Name);
+  CheckNothingLost();
   return component;
 }
 
@@ -101,29 +123,33 @@ TComponent* TReader::FindInherited(const TFormObjectHeader& header) {
   if (!header.Flags.testFlag(ffInherited)) return nullptr;
   TComponent* found = FOwner->FindComponent(header.Name);
   if (!found && UnknownClasses != upKeep) throw EReadError(Format(SAncestorNotFound, {header.Name}));
-  if (!found) return nullptr;
-  FLoad->BeginLoading(found);
-  FLoad->BeginUpdating(found);
   return found;
 }
 
 TComponent* TReader::CreateComponent(const TFormObjectHeader& header, TComponent* owner) {
   const TClassInfo* classInfo = FindComponentClass(header.ClassName);
+  CheckNothingLost();
   if (!classInfo) {
     if (UnknownClasses == upRaise) throw EClassNotFound(Format(SClassNotFound, {header.ClassName}));
     return UnknownClasses == upKeep ? CreateUnknown(header, owner) : nullptr;
   }
   if (!classInfo->InheritsFrom(TComponent::Class())) throw EInvalidCast(SInvalidCast.toString());
   TComponent* component = OnCreateComponent ? OnCreateComponent(classInfo, owner) : nullptr;
-  if (!component) component = static_cast<TComponent*>(classInfo->CreateInstance(owner));
-  FLoad->AddCreated(component);
+  if (!component) {
+    CheckNothingLost();
+    component = static_cast<TComponent*>(classInfo->CreateInstance(owner));
+  }
+  FLoad->AddCreated(std::unique_ptr<TComponent>(component));
+  CheckNothingLost();
   return component;
 }
 
 TComponent* TReader::CreateUnknown(const TFormObjectHeader& header, TComponent* owner) {
-  auto* component = Make<TUnknownComponent>(owner).release();
-  component->FHeader = header;
-  FLoad->AddCreated(component);
+  auto made = Make<TUnknownComponent>(owner);
+  made->FHeader = header;
+  TUnknownComponent* component = made.get();
+  FLoad->AddCreated(std::move(made));
+  CheckNothingLost();
   return component;
 }
 
@@ -134,6 +160,7 @@ const TClassInfo* TReader::FindComponentClass(const QString& className) {
 
 void TReader::SetComponentName(TComponent* component, QString name) {
   if (OnSetName) OnSetName(component, name);
+  CheckNothingLost();
   // A stand-in gives back what it was given, whatever makes a good name here.
   if (dynamic_cast<TUnknownComponent*>(component)) return component->ChangeName(name);
   if (!name.isEmpty()) component->SetName(name);
@@ -142,8 +169,8 @@ void TReader::SetComponentName(TComponent* component, QString name) {
 /// Tells a component its parent, and remembers where a stand-in belongs.
 void TReader::PlaceChild(TComponent* child, const TFormObjectHeader& header) {
   if (auto* unknownParent = dynamic_cast<TUnknownComponent*>(FParent)) {
-    unknownParent->FChildren.push_back(child);
     EnsureKeptData(child).StandInParent = unknownParent;
+    unknownParent->FChildren.push_back(child);
   }
   auto* unknown = dynamic_cast<TUnknownComponent*>(child);
   if (!unknown) {

@@ -37,17 +37,25 @@ void TReader::ReadProperty(TPersistent* instance) {
     } else {
       ReadPropertyPath(instance, path);
     }
+    CheckNothingLost();
   } catch (const EAbort&) {
     throw;
   } catch (const Exception& error) {
-    const QString object = PathOf(instance);
-    const QString message =
-        Format(SPropertyException, {object, object.isEmpty() ? QString() : QStringLiteral("."), path, error.Message()});
-    if (!OnError || !OnError(message)) throw EReadError(message);
+    HandlePropertyError(instance, path, error.Message());
     FInput.Seek(start);
     FInput.SkipValue();
   }
   FPropPath = outer;
+}
+
+void TReader::HandlePropertyError(TPersistent* instance, const QString& path, const QString& what) {
+  const bool isLost = FLoad->HasLostObject();
+  const QString object = isLost ? FPlace : PathOf(instance);
+  const QString dot = object.isEmpty() ? QString() : QStringLiteral(".");
+  const QString message = Format(SPropertyException, {object, dot, path, what});
+  if (isLost || !OnError || !OnError(message)) throw EReadError(message);
+  // The event itself may have freed it.
+  if (FLoad->HasLostObject()) HandlePropertyError(nullptr, path, SObjectFreed.toString());
 }
 
 void TReader::ReadPropertyPath(TPersistent* instance, const QString& path) {
@@ -191,6 +199,7 @@ void TReader::ReadMethodValue(TPersistent* instance, const TPropInfo* property) 
   const QString name = FInput.ReadIdent();
   TMethod method = FRoot ? FRoot->ClassType()->FindMethod(name, FRoot) : TMethod();
   if (method.IsEmpty() && OnFindMethod) method = OnFindMethod(name);
+  CheckNothingLost();
   if (!method.IsEmpty()) return SetMethodProp(instance, property, method);
   // A handler that the application does not have is as unknown as a property.
   FInput.Seek(start);
