@@ -1,0 +1,111 @@
+#include "kt/vcl/controls/Control.h"
+
+#include "kt/rtl/typeinfo/ClassBuilder.h"
+#include "kt/vcl/controls/MessageAddress.h"
+#include "kt/vcl/controls/WinControl.h"
+
+namespace kt {
+
+const TClassInfo* TControl::Class() {
+  static const TClassInfo info = TClassBuilder<TControl>("TControl")
+                                     .Property<&TControl::GetLeft, &TControl::SetLeft>("Left")
+                                     .Property<&TControl::GetTop, &TControl::SetTop>("Top")
+                                     .Property<&TControl::GetWidth, &TControl::SetWidth>("Width")
+                                     .Property<&TControl::GetHeight, &TControl::SetHeight>("Height")
+                                     .Property<&TControl::GetCursor, &TControl::SetCursor>("Cursor")
+                                     .Default(crDefault)
+                                     .Property<&TControl::GetHint, &TControl::SetHint>("Hint")
+                                     .Property<&TControl::GetHelpContext, &TControl::SetHelpContext>("HelpContext")
+                                     .Default(0)
+                                     .Done();
+  return &info;
+}
+
+TControl::TControl(TComponent* owner) : TComponent(owner) {}
+
+TControl::~TControl() = default;
+
+void TControl::Construct() {
+  TComponent::Construct();
+  FConstraints = Make<TSizeConstraints>(this);
+  FFont = Make<TFont>();
+  FFont->OnChange = TNotifyEvent(this, &TControl::FontChanged);
+}
+
+void TControl::Destruct() {
+  FAddress.reset();
+  if (FParent) SetParent(nullptr);
+  TComponent::Destruct();
+}
+
+void TControl::Loaded() {
+  TComponent::Loaded();
+  RememberAnchorBase();
+}
+
+TComponent* TControl::GetParentComponent() { return FParent; }
+
+void TControl::SetParentComponent(TComponent* value) { SetParent(dynamic_cast<TWinControl*>(value)); }
+
+void TControl::SetParent(TWinControl* value) {
+  if (FParent == value) return;
+  if (FParent) FParent->RemoveControl(this);
+  if (value) value->InsertControl(this);
+}
+
+void TControl::SetVisible(bool value) {
+  if (FVisible == value) return;
+  FVisible = value;
+  Perform(CM_VISIBLECHANGED, value);
+  RequestAlign();
+}
+
+void TControl::SetEnabled(bool value) {
+  if (FEnabled == value) return;
+  FEnabled = value;
+  Perform(CM_ENABLEDCHANGED);
+}
+
+void TControl::SetText(const QString& value) {
+  if (GetText() == value) return;
+  FText = value;
+  Perform(CM_TEXTCHANGED);
+}
+
+void TControl::SetCursor(TCursor value) {
+  if (FCursor == value) return;
+  FCursor = value;
+  Perform(CM_CURSORCHANGED);
+}
+
+void TControl::SetShowHint(bool value) {
+  if (FShowHint == value) return;
+  FShowHint = value;
+  FParentShowHint = false;
+  Perform(CM_SHOWHINTCHANGED);
+}
+
+void TControl::SetParentShowHint(bool value) {
+  if (FParentShowHint == value) return;
+  FParentShowHint = value;
+  if (FParent && !HasState(csLoading)) Perform(CM_PARENTSHOWHINTCHANGED);
+}
+
+void TControl::CMParentShowHintChanged(TMessage&) {
+  if (!FParentShowHint || !FParent) return;
+  SetShowHint(FParent->FShowHint);
+  FParentShowHint = true;
+}
+
+qintptr TControl::Perform(quint32 msg, qintptr wParam, qintptr lParam) {
+  TMessage message{msg, wParam, lParam, 0};
+  WndProc(message);
+  return message.Result;
+}
+
+void TControl::PostMessage(quint32 msg, qintptr wParam, qintptr lParam) {
+  if (!FAddress) FAddress = std::make_unique<TMessageAddress>(this);
+  FAddress->Post({msg, wParam, lParam, 0});
+}
+
+}  // namespace kt

@@ -1,0 +1,257 @@
+#pragma once
+
+#include "kt/rtl/objects/Component.h"
+#include "kt/rtl/objects/Message.h"
+#include "kt/vcl/controls/ControlMessages.h"
+#include "kt/vcl/controls/ControlTypes.h"
+#include "kt/vcl/controls/SizeConstraints.h"
+#include "kt/vcl/graphics/Color.h"
+#include "kt/vcl/graphics/Cursor.h"
+#include "kt/vcl/graphics/Font.h"
+
+#include <QMargins>
+#include <QRect>
+#include <QString>
+
+#include <memory>
+
+namespace kt {
+
+class TMessageAddress;
+class TWinControl;
+
+/// Something with a place on a form, a look, and the mouse.
+///
+/// All of it works without a window, a display or an application object; what has a window is a TWinControl. Sizes and
+/// positions are pixels; positions are those in the parent's client area, mouse positions those in the control's own.
+///
+/// Which properties are published is up to the final class; Publish.h has a line for each. Used from the thread of the
+/// user interface alone. A handler must not free the control whose event it handles; it can ask the control's form to.
+class TControl : public TComponent {
+ public:
+  using Inherited = TComponent;
+
+  static const TClassInfo* Class();
+  const TClassInfo* ClassType() const override { return Class(); }
+
+  // Place.
+  int GetLeft() const { return FLeft; }
+  int GetTop() const { return FTop; }
+  int GetWidth() const { return FWidth; }
+  int GetHeight() const { return FHeight; }
+  void SetLeft(int value) { SetBounds(value, FTop, FWidth, FHeight); }
+  void SetTop(int value) { SetBounds(FLeft, value, FWidth, FHeight); }
+  void SetWidth(int value) { SetBounds(FLeft, FTop, value, FHeight); }
+  void SetHeight(int value) { SetBounds(FLeft, FTop, FWidth, value); }
+  QRect GetBoundsRect() const { return {FLeft, FTop, FWidth, FHeight}; }
+  /// The size is cut to Constraints and is never negative; the alignment may move the control on.
+  virtual void SetBounds(int left, int top, int width, int height);
+  /// The size without border and scroll bars. Setting it resizes the whole control.
+  int GetClientWidth() const { return GetClientRect().width(); }
+  int GetClientHeight() const { return GetClientRect().height(); }
+  void SetClientWidth(int value);
+  void SetClientHeight(int value);
+  /// The client area in its own coordinates: its top left is (0, 0).
+  QRect GetClientRect() const;
+  TAlign GetAlign() const { return FAlign; }
+  void SetAlign(TAlign value);
+  TAnchors GetAnchors() const { return FAnchors; }
+  void SetAnchors(TAnchors value);
+  TSizeConstraints& GetConstraints() { return *FConstraints; }
+  void SetConstraints(const TSizeConstraints& value);
+
+  // Parent.
+  TWinControl* GetParent() const { return FParent; }
+  /// The parent does not own the control; it frees it all the same when it is destroyed.
+  virtual void SetParent(TWinControl* value);
+  TComponent* GetParentComponent() override;
+  bool HasParent() override { return FParent != nullptr; }
+
+  // Look.
+  TColor GetColor() const { return FColor; }
+  void SetColor(TColor value);
+  bool IsParentColor() const { return FParentColor; }
+  void SetParentColor(bool value);
+  TFont& GetFont() { return *FFont; }
+  void SetFont(const TFont& value);
+  bool IsParentFont() const { return FParentFont; }
+  void SetParentFont(bool value);
+  TCursor GetCursor() const { return FCursor; }
+  void SetCursor(TCursor value);
+  TBiDiMode GetBiDiMode() const { return FBiDiMode; }
+  void SetBiDiMode(TBiDiMode value);
+  bool IsParentBiDiMode() const { return FParentBiDiMode; }
+  void SetParentBiDiMode(bool value);
+  /// Whether texts are aligned to the right, and scroll bars placed on the left.
+  bool UseRightToLeftAlignment() const { return FBiDiMode == bdRightToLeft; }
+  /// Whether texts are read from right to left.
+  bool UseRightToLeftReading() const { return FBiDiMode != bdLeftToRight; }
+  bool IsVisible() const { return FVisible; }
+  virtual void SetVisible(bool value);
+  bool IsEnabled() const { return FEnabled; }
+  virtual void SetEnabled(bool value);
+  void Show() { SetVisible(true); }
+  void Hide() { SetVisible(false); }
+  /// Asks for a paint later. Several requests make one paint.
+  virtual void Invalidate() {}
+  /// Asks for a paint and has it done at once.
+  virtual void Repaint() {}
+  /// Does at once what Invalidate() asked for.
+  virtual void Update() {}  // NOLINT(bugprone-virtual-near-miss): the framework's name
+
+  // Hints and help.
+  const QString& GetHint() const { return FHint; }
+  void SetHint(const QString& value) { FHint = value; }
+  bool IsShowHint() const { return FShowHint; }
+  void SetShowHint(bool value);
+  bool IsParentShowHint() const { return FParentShowHint; }
+  void SetParentShowHint(bool value);
+  int GetHelpContext() const { return FHelpContext; }
+  void SetHelpContext(int value) { FHelpContext = value; }
+
+  // Dragging.
+  TDragKind GetDragKind() const { return FDragKind; }
+  void SetDragKind(TDragKind value) { FDragKind = value; }
+  TDragMode GetDragMode() const { return FDragMode; }
+  void SetDragMode(TDragMode value) { FDragMode = value; }
+  TCursor GetDragCursor() const { return FDragCursor; }
+  void SetDragCursor(TCursor value) { FDragCursor = value; }
+
+  TControlStyle GetControlStyle() const { return FControlStyle; }
+  TControlState GetControlState() const { return FControlState; }
+
+  // Messages.
+  /// Sends a message to this control and answers its Result.
+  qintptr Perform(quint32 msg, qintptr wParam = 0, qintptr lParam = 0);
+  /// Has the message performed when control is back at the event queue, and dropped when the control dies before. Needs
+  /// no window.
+  void PostMessage(quint32 msg, qintptr wParam = 0, qintptr lParam = 0);
+  void Dispatch(TMessage& message) override;
+
+  // What streams ask.
+  bool IsAnchorsStored() const;
+  bool IsColorStored() const { return !FParentColor; }
+  bool IsFontStored() const { return !FParentFont; }
+  bool IsBiDiModeStored() const { return !FParentBiDiMode; }
+  bool IsShowHintStored() const { return !FParentShowHint; }
+
+  TNotifyEvent OnClick;
+  TNotifyEvent OnDblClick;
+  TMouseEvent OnMouseDown;
+  TMouseMoveEvent OnMouseMove;
+  TMouseEvent OnMouseUp;
+  TNotifyEvent OnMouseEnter;
+  TNotifyEvent OnMouseLeave;
+  TNotifyEvent OnResize;
+
+ protected:
+  friend class TSizeConstraints;
+  friend class TWinControl;
+  friend class TMessageAddress;
+
+  explicit TControl(TComponent* owner = nullptr);
+  ~TControl() override;
+
+  void Construct() override;
+  void Destruct() override;
+  void Loaded() override;
+  void SetParentComponent(TComponent* value) override;
+
+  /// The one way that every message takes; overrides see them first.
+  virtual void WndProc(TMessage& message) { Dispatch(message); }
+
+  /// The widths of what surrounds the client area: a border, scroll bars.
+  virtual QMargins GetClientMargins() const { return {}; }
+  /// The place or size has changed.
+  virtual void BoundsUpdated() {}
+  /// The size has changed: raises OnResize.
+  virtual void Resize() { OnResize(this); }
+  void RequestAlign();
+  void SetControlStyle(TControlStyle value) { FControlStyle = value; }
+
+  virtual const QString& GetText() const { return FText; }
+  /// Compares, stores and sends CM_TEXTCHANGED.
+  virtual void SetText(const QString& value);
+
+  virtual void Click();
+  virtual void DblClick() { OnDblClick(this); }
+  virtual void MouseDown(TMouseButton button, TShiftState shift, int x, int y) {
+    OnMouseDown(this, button, shift, x, y);
+  }
+  virtual void MouseMove(TShiftState shift, int x, int y) { OnMouseMove(this, shift, x, y); }
+  virtual void MouseUp(TMouseButton button, TShiftState shift, int x, int y) { OnMouseUp(this, button, shift, x, y); }
+
+  virtual void CMParentFontChanged(TMessage& message);
+  virtual void CMParentColorChanged(TMessage& message);
+  virtual void CMParentBiDiModeChanged(TMessage& message);
+  virtual void CMParentShowHintChanged(TMessage& message);
+  virtual void CMFontChanged(TMessage&) { Invalidate(); }
+  virtual void CMColorChanged(TMessage&) { Invalidate(); }
+  virtual void CMBiDiModeChanged(TMessage&) { Invalidate(); }
+  virtual void CMEnabledChanged(TMessage&) { Invalidate(); }
+  virtual void CMVisibleChanged(TMessage&) {}
+  virtual void CMShowHintChanged(TMessage&) {}
+  virtual void CMCursorChanged(TMessage&) {}
+  virtual void CMTextChanged(TMessage&) {}
+  virtual void CMMouseEnter(TMessage&) { OnMouseEnter(this); }
+  virtual void CMMouseLeave(TMessage&) { OnMouseLeave(this); }
+  virtual void CMCancelMode(TMessage&) {}
+
+  TControlStyle FControlStyle = {csCaptureMouse, csClickEvents, csSetCaption, csDoubleClicks};
+  TControlState FControlState;
+
+ private:
+  void FontChanged(TObject* sender);
+  void ConstraintsChanged();
+  bool DispatchMouse(TMessage& message);
+  void ButtonDown(const TMessage& message, TMouseButton button, bool isDouble);
+  void ButtonUp(const TMessage& message, TMouseButton button);
+  /// Remembers where the control stands relative to its parent, which anchors keep.
+  void RememberAnchorBase();
+  void ApplyAnchors(QSize parentSize);
+
+  TWinControl* FParent = nullptr;
+  std::unique_ptr<TSizeConstraints> FConstraints;
+  std::unique_ptr<TFont> FFont;
+  std::unique_ptr<TMessageAddress> FAddress;
+  QString FHint;
+  QString FText;
+  int FLeft = 0;
+  int FTop = 0;
+  int FWidth = 0;
+  int FHeight = 0;
+  QRect FAnchorBase;
+  QSize FAnchorParent;
+  TColor FColor = clWindow;
+  TAnchors FAnchors = {akLeft, akTop};
+  int FHelpContext = 0;
+  TCursor FCursor = crDefault;
+  TCursor FDragCursor = crDrag;
+  TAlign FAlign = alNone;
+  TBiDiMode FBiDiMode = bdLeftToRight;
+  TDragKind FDragKind = dkDrag;
+  TDragMode FDragMode = dmManual;
+  bool FParentColor = true;
+  bool FParentFont = true;
+  bool FParentBiDiMode = true;
+  bool FParentShowHint = true;
+  bool FShowHint = false;
+  bool FVisible = true;
+  bool FEnabled = true;
+};
+
+/// A position as mouse messages carry it, and back.
+qintptr MessagePoint(int x, int y);
+QPoint PointOfMessage(qintptr lParam);
+
+/// The object that a message parameter points to, of the class that the message's description names.
+template <class T>
+T* MessagePointer(qintptr parameter) {
+  return reinterpret_cast<T*>(parameter);  // NOLINT(performance-no-int-to-ptr): how messages carry pointers
+}
+template <class T>
+qintptr PointerMessage(T* pointer) {
+  return reinterpret_cast<qintptr>(pointer);
+}
+
+}  // namespace kt

@@ -1,0 +1,134 @@
+#include "kt/vcl/controls/ControlBody.h"
+
+#include "kt/rtl/objects/UnhandledExceptions.h"
+#include "kt/vcl/controls/KeyCodes.h"
+#include "kt/vcl/controls/WinControl.h"
+
+#include <QPaintEvent>
+
+namespace kt {
+
+namespace {
+
+/// How many events of ours are being handled: while there are any, widgets may be on the stack.
+int Running = 0;
+
+struct TRunning {
+  TRunning() { ++Running; }
+  ~TRunning() { --Running; }
+};
+
+}  // namespace
+
+TControlBody::~TControlBody() {
+  if (FControl) FControl->WindowDestroyed();
+}
+
+TControlBody* TControlBody::Of(const QObject* widget) {
+  return const_cast<TControlBody*>(dynamic_cast<const TControlBody*>(widget));
+}
+
+TWinControl* TControlBody::ControlOf(const QObject* widget) {
+  const TControlBody* body = Of(widget);
+  return body ? body->FControl : nullptr;
+}
+
+void TControlBody::Retire() {
+  FControl = nullptr;
+  if (Running == 0) {
+    delete FWidget;
+    return;
+  }
+  FWidget->hide();
+  FWidget->setParent(nullptr);
+  FWidget->deleteLater();
+}
+
+void TControlBody::RunInherited() {
+  if (!FEvent || FInheritedDone) return;
+  FInheritedDone = true;
+  FInheritedResult = (*FInherited)(FEvent);
+}
+
+bool TControlBody::HandleEvent(QEvent* event, const TInherited& inherited) {
+  if (!FControl) return inherited(event);
+  const TRunning running;
+  // Handlers may have the event loop run, and so this again.
+  QEvent* const outerEvent = std::exchange(FEvent, event);
+  const TInherited* const outerInherited = std::exchange(FInherited, &inherited);
+  const bool outerDone = std::exchange(FInheritedDone, false);
+  const bool outerResult = std::exchange(FInheritedResult, true);
+  bool isTranslated = true;
+  GuardedCall([&] { isTranslated = Translate(event); });
+  if (!isTranslated) RunInherited();
+  const bool result = FInheritedResult;
+  FEvent = outerEvent;
+  FInherited = outerInherited;
+  FInheritedDone = outerDone;
+  FInheritedResult = outerResult;
+  return result;
+}
+
+bool TControlBody::Translate(QEvent* event) {
+  switch (event->type()) {
+    case QEvent::Paint:
+      return Paint(event);
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+      return Press(static_cast<QMouseEvent*>(event)), true;
+    case QEvent::MouseButtonRelease:
+      return Release(static_cast<QMouseEvent*>(event)), true;
+    case QEvent::MouseMove:
+      return Move(static_cast<QMouseEvent*>(event)), true;
+    case QEvent::KeyPress:
+      return PressKey(static_cast<QKeyEvent*>(event));
+    case QEvent::KeyRelease:
+      return Key(static_cast<QKeyEvent*>(event));
+    case QEvent::Wheel:
+      return Wheel(static_cast<QWheelEvent*>(event));
+    case QEvent::InputMethod:
+      return Input(static_cast<QInputMethodEvent*>(event));
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+      return Focus(static_cast<QFocusEvent*>(event)), true;
+    case QEvent::Move:
+    case QEvent::Resize:
+      RunInherited();
+      return Geometry(), true;
+    case QEvent::Show:
+    case QEvent::Hide:
+      RunInherited();
+      if (FControl) FControl->WindowShown(event->type() == QEvent::Show);
+      return true;
+    case QEvent::Enter:
+      FControl->Perform(CM_MOUSEENTER);
+      return false;
+    case QEvent::Leave:
+      FControl->Perform(CM_MOUSELEAVE);
+      return false;
+    default:
+      return FControl->WindowEvent(*event);
+  }
+}
+
+bool TControlBody::LeaveFocusOwner(const std::function<bool()>& move) {
+  TWinControl* const owner = FControl ? FControl->FocusOwner() : nullptr;
+  QWidget* const window = owner && owner != FControl ? owner->Window() : nullptr;
+  if (!window) return move();
+  const Qt::FocusPolicy policy = window->focusPolicy();
+  window->setFocusPolicy(Qt::NoFocus);
+  const bool result = move();
+  window->setFocusPolicy(policy);
+  return result;
+}
+
+bool TControlBody::Paint(QEvent* event) {
+  FControl->PaintWindow(static_cast<QPaintEvent*>(event)->rect());
+  return true;
+}
+
+void TControlBody::Geometry() {
+  if (FControl) FControl->WindowMoved(FWidget->geometry());
+}
+
+}  // namespace kt

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <QEvent>
+#include <QWidget>
+
+#include <functional>
+
+class QFocusEvent;
+class QInputMethodEvent;
+class QKeyEvent;
+class QMouseEvent;
+class QWheelEvent;
+
+namespace kt {
+
+class TWinControl;
+
+/// The side of a control's widget that faces the control: the one way in from Qt. Turns Qt's events into the messages
+/// that the control understands; nothing that the control's code throws gets back into Qt.
+///
+/// The widget belongs to Qt's tree of widgets: when that destroys it, the control is told. When the control dies first,
+/// it retires the body.
+class TControlBody {
+ public:
+  using TInherited = std::function<bool(QEvent*)>;
+
+  TControlBody(TWinControl* control, QWidget* widget) : FControl(control), FWidget(widget) {}
+  TControlBody(const TControlBody&) = delete;
+  TControlBody& operator=(const TControlBody&) = delete;
+  virtual ~TControlBody();
+
+  /// The body of a widget, or null when the widget is none of ours.
+  static TControlBody* Of(const QObject* widget);
+  /// The control of a widget of ours, or null.
+  static TWinControl* ControlOf(const QObject* widget);
+
+  TWinControl* Control() const { return FControl; }
+  /// The control lets go: the widget disappears, at once or when nothing of it is on the stack any more.
+  void Retire();
+  /// Does with the event that is being handled what the widget does by itself; once for an event, and nothing when
+  /// there is none.
+  void RunInherited();
+  /// The event that is being handled, or null.
+  QEvent* CurrentEvent() const { return FEvent; }
+  /// Whether the widget got the press of the mouse button that is held.
+  bool IsPressed() const { return FIsPressed; }
+
+ protected:
+  /// What QObject::event() of the widget does. `inherited` is the event() of the widget's base class.
+  bool HandleEvent(QEvent* event, const TInherited& inherited);
+  /// Moves the focus by `move`, past the control that this one works for.
+  bool LeaveFocusOwner(const std::function<bool()>& move);
+
+ private:
+  bool Translate(QEvent* event);
+  void Press(QMouseEvent* event);
+  void Release(QMouseEvent* event);
+  void Move(QMouseEvent* event);
+  bool Key(QKeyEvent* event);
+  bool PressKey(QKeyEvent* event);
+  bool Wheel(QWheelEvent* event);
+  bool Paint(QEvent* event);
+  void Focus(QFocusEvent* event);
+  bool Input(QInputMethodEvent* event);
+  void Geometry();
+  bool SendMouse(quint32 msg, QMouseEvent* event);
+
+  TWinControl* FControl;
+  QWidget* FWidget;
+  QEvent* FEvent = nullptr;
+  const TInherited* FInherited = nullptr;
+  bool FInheritedResult = true;
+  bool FInheritedDone = false;
+  bool FIsPressed = false;
+};
+
+/// A widget of class W that is a control's window.
+template <class W>
+class TBodyOf final : public W, public TControlBody {
+ public:
+  TBodyOf(TWinControl* control, QWidget* parent) : W(parent), TControlBody(control, this) {}
+
+  bool event(QEvent* event) override {
+    return HandleEvent(event, [this](QEvent* passed) { return W::event(passed); });
+  }
+
+ protected:
+  bool focusNextPrevChild(bool next) override {
+    return LeaveFocusOwner([this, next] { return W::focusNextPrevChild(next); });
+  }
+};
+
+}  // namespace kt

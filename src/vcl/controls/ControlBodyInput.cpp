@@ -1,0 +1,145 @@
+// Keys, mouse, focus and input methods of TControlBody.
+#include "kt/vcl/controls/ControlBody.h"
+#include "kt/vcl/controls/Focus.h"
+#include "kt/vcl/controls/KeyCodes.h"
+#include "kt/vcl/controls/VirtualKeys.h"
+#include "kt/vcl/controls/WinControl.h"
+
+#include <QApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QWheelEvent>
+
+namespace kt {
+
+namespace {
+
+/// A key event that a control of ours has seen and left alone, on its way through the parents to somebody else's
+/// widget. Parents of ours let it pass: they have had their say through the control.
+const QEvent* Passing = nullptr;
+
+bool HasControlAbove(const QWidget* widget) {
+  while (!widget->isWindow() && widget->parentWidget()) {
+    widget = widget->parentWidget();
+    if (TControlBody::Of(widget)) return true;
+  }
+  return false;
+}
+
+void PassOn(QEvent* event, const QWidget* widget) {
+  event->ignore();
+  Passing = HasControlAbove(widget) ? event : nullptr;
+}
+
+bool IsSpecialKey(quint16 key) {
+  return key == VK_TAB || key == VK_RETURN || key == VK_ESCAPE || (key >= VK_LEFT && key <= VK_DOWN);
+}
+
+struct TButtonMessages {
+  quint32 Down;
+  quint32 Up;
+  quint32 DoubleClick;
+};
+
+TButtonMessages MessagesOf(Qt::MouseButton button) {
+  switch (button) {
+    case Qt::LeftButton:
+      return {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK};
+    case Qt::RightButton:
+      return {WM_RBUTTONDOWN, WM_RBUTTONUP, WM_RBUTTONDBLCLK};
+    case Qt::MiddleButton:
+      return {WM_MBUTTONDOWN, WM_MBUTTONUP, WM_MBUTTONDBLCLK};
+    default:
+      return {};
+  }
+}
+
+}  // namespace
+
+bool TControlBody::SendMouse(quint32 msg, QMouseEvent* event) {
+  if (msg == 0 || !FControl) return false;
+  const QPoint point = event->position().toPoint() - FControl->GetClientOrigin();
+  FControl->Perform(msg, ShiftStateOf(event->modifiers(), event->buttons()).Bits(), MessagePoint(point.x(), point.y()));
+  return true;
+}
+
+void TControlBody::Press(QMouseEvent* event) {
+  const TButtonMessages messages = MessagesOf(event->button());
+  FIsPressed = true;
+  event->accept();
+  const bool isDouble = event->type() == QEvent::MouseButtonDblClick;
+  SendMouse(isDouble ? messages.DoubleClick : messages.Down, event);
+}
+
+void TControlBody::Release(QMouseEvent* event) {
+  if (event->buttons() == Qt::NoButton) FIsPressed = false;
+  event->accept();
+  SendMouse(MessagesOf(event->button()).Up, event);
+}
+
+void TControlBody::Move(QMouseEvent* event) {
+  event->accept();
+  SendMouse(WM_MOUSEMOVE, event);
+}
+
+bool TControlBody::PressKey(QKeyEvent* event) {
+  if (event == Passing) return PassOn(event, FWidget), true;
+  const quint16 key = VirtualKeyOf(*event);
+  if (FControl->OfferToParents(key, event->modifiers())) return true;
+  if (IsSpecialKey(key) && FControl && !FControl->WantsKey(key)) {
+    if (FControl->OfferToForm(key, event->modifiers())) return true;
+    // Nobody's: Qt moves the focus with it.
+    if (key == VK_TAB) return false;
+  }
+  return !FControl || Key(event);
+}
+
+bool TControlBody::Key(QKeyEvent* event) {
+  if (event == Passing) return PassOn(event, FWidget), true;
+  const bool isDown = event->type() == QEvent::KeyPress;
+  const bool isSystem = event->modifiers().testFlag(Qt::AltModifier);
+  const quint32 msg = isDown ? (isSystem ? WM_SYSKEYDOWN : WM_KEYDOWN) : (isSystem ? WM_SYSKEYUP : WM_KEYUP);
+  event->accept();
+  const qintptr shift = ShiftStateOf(event->modifiers(), QApplication::mouseButtons()).Bits();
+  bool isTaken = FControl->SendKey(msg, VirtualKeyOf(*event), shift);
+  if (isDown) {
+    const QString text = event->text();
+    for (QChar character : text) {
+      if (FControl && FControl->SendKey(isSystem ? WM_SYSCHAR : WM_CHAR, character.unicode(), shift)) isTaken = true;
+    }
+  }
+  if (!isTaken && (!FInheritedDone || !event->isAccepted())) PassOn(event, FWidget);
+  return true;
+}
+
+bool TControlBody::Wheel(QWheelEvent* event) {
+  const QPoint delta = event->angleDelta();
+  const bool isHorizontal = delta.y() == 0;
+  const QPoint point = event->position().toPoint() - FControl->GetClientOrigin();
+  event->ignore();
+  if (FControl->DoMouseWheel(ShiftStateOf(event->modifiers(), event->buttons()), isHorizontal ? delta.x() : delta.y(),
+                             isHorizontal, point)) {
+    event->accept();
+  }
+  return true;
+}
+
+bool TControlBody::Input(QInputMethodEvent* event) { return FControl->InputText(event->commitString()); }
+
+void TControlBody::Focus(QFocusEvent* event) {
+  if (event->gotFocus()) {
+    FControl->Perform(WM_SETFOCUS);
+    if (FControl) TFocus::Moved(FControl->FocusOwner());
+    return;
+  }
+  QWidget* const next = QApplication::focusWidget();
+  TWinControl* const nextControl = next == FWidget ? nullptr : ControlOf(next);
+  FControl->Perform(WM_KILLFOCUS, PointerMessage(nextControl));
+  // Who only changes the window or opens a menu comes back to where he was.
+  const bool isAway = event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason ||
+                      event->reason() == Qt::MenuBarFocusReason;
+  if (!nextControl && !isAway) TFocus::Left();
+}
+
+}  // namespace kt

@@ -1,0 +1,115 @@
+// Place and size of TControl, alignment and anchors.
+#include "kt/vcl/controls/Control.h"
+#include "kt/vcl/controls/WinControl.h"
+
+#include <array>
+
+namespace kt {
+
+namespace {
+
+/// The anchors that a control gets together with an alignment.
+constexpr std::array<TAnchors, 7> AnchorAlign = {
+    TAnchors{akLeft, akTop},                     // alNone
+    TAnchors{akLeft, akTop, akRight},            // alTop
+    TAnchors{akLeft, akRight, akBottom},         // alBottom
+    TAnchors{akLeft, akTop, akBottom},           // alLeft
+    TAnchors{akRight, akTop, akBottom},          // alRight
+    TAnchors{akLeft, akTop, akRight, akBottom},  // alClient
+    TAnchors{akLeft, akTop},                     // alCustom
+};
+
+struct TSpan {
+  int Start;
+  int Length;
+};
+
+/// Where a span stands after its surroundings grew by `growth`.
+TSpan Anchored(TSpan base, int growth, bool toStart, bool toEnd) {
+  if (toStart && toEnd) return {base.Start, qMax(base.Length + growth, 0)};
+  if (toEnd) return {base.Start + growth, base.Length};
+  if (toStart) return base;
+  return {base.Start + growth / 2, base.Length};
+}
+
+}  // namespace
+
+void TControl::SetBounds(int left, int top, int width, int height) {
+  if (FConstraints) {
+    width = FConstraints->ClampWidth(width);
+    height = FConstraints->ClampHeight(height);
+  }
+  const QRect bounds(left, top, qMax(width, 0), qMax(height, 0));
+  if (bounds == GetBoundsRect()) return;
+  const bool isResized = bounds.size() != GetBoundsRect().size();
+  Invalidate();
+  FLeft = bounds.x();
+  FTop = bounds.y();
+  FWidth = bounds.width();
+  FHeight = bounds.height();
+  BoundsUpdated();
+  RememberAnchorBase();
+  RequestAlign();
+  if (isResized && !HasState(csLoading)) Resize();
+}
+
+QRect TControl::GetClientRect() const {
+  const QMargins margins = GetClientMargins();
+  return {0, 0, qMax(FWidth - margins.left() - margins.right(), 0),
+          qMax(FHeight - margins.top() - margins.bottom(), 0)};
+}
+
+void TControl::SetClientWidth(int value) {
+  const QMargins margins = GetClientMargins();
+  SetWidth(value + margins.left() + margins.right());
+}
+
+void TControl::SetClientHeight(int value) {
+  const QMargins margins = GetClientMargins();
+  SetHeight(value + margins.top() + margins.bottom());
+}
+
+void TControl::SetConstraints(const TSizeConstraints& value) {
+  FConstraints->Assign(const_cast<TSizeConstraints*>(&value));
+}
+
+void TControl::ConstraintsChanged() { SetBounds(FLeft, FTop, FWidth, FHeight); }
+
+void TControl::SetAlign(TAlign value) {
+  if (FAlign == value) return;
+  const TAlign previous = FAlign;
+  FAlign = value;
+  if (!HasState(csLoading) && FAnchors == AnchorAlign[previous]) FAnchors = AnchorAlign[value];
+  RememberAnchorBase();
+  RequestAlign();
+}
+
+void TControl::SetAnchors(TAnchors value) {
+  if (FAnchors == value) return;
+  FAnchors = value;
+  RememberAnchorBase();
+}
+
+bool TControl::IsAnchorsStored() const { return FAnchors != AnchorAlign[FAlign]; }
+
+void TControl::RequestAlign() {
+  if (FParent) FParent->AlignControl(this);
+}
+
+void TControl::RememberAnchorBase() {
+  if (!FParent || FParent->IsAligning()) return;
+  FAnchorBase = GetBoundsRect();
+  FAnchorParent = FParent->GetClientRect().size();
+}
+
+void TControl::ApplyAnchors(QSize parentSize) {
+  if (FAlign != alNone || FAnchors == TAnchors{akLeft, akTop}) return;
+  const QSize growth = parentSize - FAnchorParent;
+  const TSpan x =
+      Anchored({FAnchorBase.x(), FAnchorBase.width()}, growth.width(), FAnchors.Has(akLeft), FAnchors.Has(akRight));
+  const TSpan y =
+      Anchored({FAnchorBase.y(), FAnchorBase.height()}, growth.height(), FAnchors.Has(akTop), FAnchors.Has(akBottom));
+  SetBounds(x.Start, y.Start, x.Length, y.Length);
+}
+
+}  // namespace kt

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QtGlobal>
+
+/// The numbers of the messages that controls understand. Where a parameter is said to be a pointer it is passed as
+/// qintptr; see MessagePointer() for the way back.
+namespace kt {
+
+// Windows. A control that lets one of these come to DefaultHandler() leaves it to the window's own behaviour.
+inline constexpr quint32 WM_SIZE = 0x0005;
+inline constexpr quint32 WM_SETFOCUS = 0x0007;
+inline constexpr quint32 WM_KILLFOCUS = 0x0008;  ///< WParam: the TWinControl* that gets the focus, or 0
+inline constexpr quint32 WM_SETTEXT = 0x000C;    ///< LParam: const QString*
+inline constexpr quint32 WM_PAINT = 0x000F;
+inline constexpr quint32 WM_CANCELMODE = 0x001F;
+inline constexpr quint32 WM_SETCURSOR = 0x0020;  ///< Result 1: the cursor was set
+inline constexpr quint32 WM_KEYDOWN = 0x0100;    ///< WParam: virtual key code; LParam: bits of TShiftState
+inline constexpr quint32 WM_KEYUP = 0x0101;
+inline constexpr quint32 WM_CHAR = 0x0102;  ///< WParam: UTF-16 code unit
+inline constexpr quint32 WM_SYSKEYDOWN = 0x0104;
+inline constexpr quint32 WM_SYSKEYUP = 0x0105;
+inline constexpr quint32 WM_SYSCHAR = 0x0106;
+inline constexpr quint32 WM_MOUSEMOVE = 0x0200;  ///< mouse: WParam: bits of TShiftState; LParam: MessagePoint()
+inline constexpr quint32 WM_LBUTTONDOWN = 0x0201;
+inline constexpr quint32 WM_LBUTTONUP = 0x0202;
+inline constexpr quint32 WM_LBUTTONDBLCLK = 0x0203;
+inline constexpr quint32 WM_RBUTTONDOWN = 0x0204;
+inline constexpr quint32 WM_RBUTTONUP = 0x0205;
+inline constexpr quint32 WM_RBUTTONDBLCLK = 0x0206;
+inline constexpr quint32 WM_MBUTTONDOWN = 0x0207;
+inline constexpr quint32 WM_MBUTTONUP = 0x0208;
+inline constexpr quint32 WM_MBUTTONDBLCLK = 0x0209;
+inline constexpr quint32 WM_MOUSEWHEEL = 0x020A;  ///< WParam: turn in eighths of a degree, up positive
+inline constexpr quint32 WM_USER = 0x0400;        ///< the first number for a class's own messages
+
+// Controls.
+inline constexpr quint32 CM_BASE = 0xB000;
+inline constexpr quint32 CM_CANCELMODE = CM_BASE + 4;  ///< LParam: the TControl* that wants the others to let go
+inline constexpr quint32 CM_DIALOGKEY = CM_BASE + 5;   ///< WParam: virtual key code; Result 1: taken
+inline constexpr quint32 CM_FOCUSCHANGED = CM_BASE + 7;
+inline constexpr quint32 CM_PARENTFONTCHANGED = CM_BASE + 8;
+inline constexpr quint32 CM_PARENTCOLORCHANGED = CM_BASE + 9;
+inline constexpr quint32 CM_VISIBLECHANGED = CM_BASE + 11;  ///< WParam: 1 when it becomes visible
+inline constexpr quint32 CM_ENABLEDCHANGED = CM_BASE + 12;
+inline constexpr quint32 CM_COLORCHANGED = CM_BASE + 13;
+inline constexpr quint32 CM_FONTCHANGED = CM_BASE + 14;
+inline constexpr quint32 CM_CURSORCHANGED = CM_BASE + 15;
+inline constexpr quint32 CM_TEXTCHANGED = CM_BASE + 18;
+inline constexpr quint32 CM_MOUSEENTER = CM_BASE + 19;
+inline constexpr quint32 CM_MOUSELEAVE = CM_BASE + 20;
+inline constexpr quint32 CM_SHOWINGCHANGED = CM_BASE + 25;
+inline constexpr quint32 CM_ENTER = CM_BASE + 26;
+inline constexpr quint32 CM_EXIT = CM_BASE + 27;
+inline constexpr quint32 CM_WANTSPECIALKEY = CM_BASE + 30;  ///< WParam: virtual key code; Result 1: wanted
+inline constexpr quint32 CM_RELEASE = CM_BASE + 33;
+inline constexpr quint32 CM_SHOWHINTCHANGED = CM_BASE + 34;
+inline constexpr quint32 CM_PARENTSHOWHINTCHANGED = CM_BASE + 35;
+inline constexpr quint32 CM_TABSTOPCHANGED = CM_BASE + 40;
+inline constexpr quint32 CM_CONTROLLISTCHANGE = CM_BASE + 44;  ///< WParam: the TControl*; LParam: 1 added, 0 removed
+inline constexpr quint32 CM_CHILDKEY = CM_BASE + 46;           ///< WParam: key code; LParam: the child; Result 1: taken
+inline constexpr quint32 CM_HINTSHOW = CM_BASE + 48;           ///< LParam: THintInfo*; Result 1: show none
+inline constexpr quint32 CM_RECREATEWND = CM_BASE + 51;
+inline constexpr quint32 CM_CONTROLCHANGE = CM_BASE + 54;  ///< as CM_CONTROLLISTCHANGE, before or after the list
+inline constexpr quint32 CM_BIDIMODECHANGED = CM_BASE + 60;
+inline constexpr quint32 CM_PARENTBIDIMODECHANGED = CM_BASE + 61;
+
+}  // namespace kt

@@ -1,0 +1,117 @@
+#pragma once
+
+#include "kt/rtl/typeinfo/Event.h"
+#include "kt/rtl/typeinfo/Set.h"
+#include "kt/rtl/typeinfo/TypeOf.h"
+
+namespace kt {
+
+/// The side of the parent that a control keeps to.
+enum TAlign { alNone, alTop, alBottom, alLeft, alRight, alClient, alCustom };
+
+/// The sides of the parent that a control keeps its distance from when the parent is resized.
+enum TAnchorKind { akLeft, akTop, akRight, akBottom };
+using TAnchors = TSet<TAnchorKind>;
+
+/// The reading direction, and what of the control is mirrored with it.
+enum TBiDiMode { bdLeftToRight, bdRightToLeft, bdRightToLeftNoAlign, bdRightToLeftReadingOnly };
+
+enum TDragMode { dmManual, dmAutomatic };
+enum TDragKind { dkDrag, dkDock };
+
+enum TMouseButton { mbLeft, mbRight, mbMiddle };
+
+/// The keys and buttons that are held while something happens.
+enum TShiftStateItem { ssShift, ssAlt, ssCtrl, ssLeft, ssRight, ssMiddle, ssDouble };
+using TShiftState = TSet<TShiftStateItem>;
+
+/// What a kind of control does and looks like.
+enum TControlStyleItem {
+  csAcceptsControls,  ///< becomes the parent of what a designer drops on it
+  csCaptureMouse,     ///< gets the mouse moves and the release of a button that was pressed on it
+  csDesignInteractive,
+  csClickEvents,  ///< raises OnClick
+  csFramed,
+  csSetCaption,
+  csOpaque,        ///< paints every pixel of itself
+  csDoubleClicks,  ///< raises OnDblClick
+  csFixedWidth,
+  csFixedHeight,
+  csNoDesignVisible,
+  csReplicatable,
+  csNoStdEvents,
+  csDisplayDragImage,
+  csReflector,
+  csActionClient,
+  csMenuEvents
+};
+using TControlStyle = TSet<TControlStyleItem>;
+
+/// What a control is going through.
+enum TControlStateItem {
+  csLButtonDown,
+  csClicked,
+  csPalette,
+  csReadingState,
+  csAlignmentNeeded,
+  csFocusing,
+  csCreating
+};
+using TControlState = TSet<TControlStateItem>;
+
+enum TBorderStyle { bsNone, bsSingle };
+
+/// `key` is a virtual key code; a handler that sets it to 0 has consumed it.
+struct TKeyEvent : TEvent<TObject*, quint16&, TShiftState> {
+  using TEvent::TEvent;
+  static constexpr char TypeName[] = "TKeyEvent";
+};
+/// `key` is the character typed; a handler that sets it to 0 has consumed it.
+struct TKeyPressEvent : TEvent<TObject*, QChar&> {
+  using TEvent::TEvent;
+  static constexpr char TypeName[] = "TKeyPressEvent";
+};
+/// Positions are pixels in the client area.
+struct TMouseEvent : TEvent<TObject*, TMouseButton, TShiftState, int, int> {
+  using TEvent::TEvent;
+  static constexpr char TypeName[] = "TMouseEvent";
+};
+struct TMouseMoveEvent : TEvent<TObject*, TShiftState, int, int> {
+  using TEvent::TEvent;
+  static constexpr char TypeName[] = "TMouseMoveEvent";
+};
+
+template <>
+struct TEnumNames<TAlign> {
+  static constexpr char Name[] = "TAlign";
+  static constexpr const char* Values[] = {"alNone", "alTop", "alBottom", "alLeft", "alRight", "alClient", "alCustom"};
+};
+template <>
+struct TEnumNames<TAnchorKind> {
+  static constexpr char Name[] = "TAnchorKind";
+  static constexpr const char* Values[] = {"akLeft", "akTop", "akRight", "akBottom"};
+  static constexpr char SetName[] = "TAnchors";
+};
+template <>
+struct TEnumNames<TBiDiMode> {
+  static constexpr char Name[] = "TBiDiMode";
+  static constexpr const char* Values[] = {"bdLeftToRight", "bdRightToLeft", "bdRightToLeftNoAlign",
+                                           "bdRightToLeftReadingOnly"};
+};
+template <>
+struct TEnumNames<TDragMode> {
+  static constexpr char Name[] = "TDragMode";
+  static constexpr const char* Values[] = {"dmManual", "dmAutomatic"};
+};
+template <>
+struct TEnumNames<TDragKind> {
+  static constexpr char Name[] = "TDragKind";
+  static constexpr const char* Values[] = {"dkDrag", "dkDock"};
+};
+template <>
+struct TEnumNames<TBorderStyle> {
+  static constexpr char Name[] = "TBorderStyle";
+  static constexpr const char* Values[] = {"bsNone", "bsSingle"};
+};
+
+}  // namespace kt

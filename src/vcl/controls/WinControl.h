@@ -1,0 +1,187 @@
+#pragma once
+
+#include "kt/vcl/controls/Control.h"
+
+#include <QWidget>
+
+#include <span>
+#include <vector>
+
+namespace kt {
+
+class TControlBody;
+
+/// A control that can have a window, the focus, and other controls inside.
+///
+/// The window, a Qt widget, is made when it is needed: asked for by GetHandle(), or because the parent has one. Until
+/// then everything else works without. The handle of a control without parent can be put into any Qt layout or window;
+/// when Qt destroys it together with its surroundings, the control lives on without a window and can make another one.
+///
+/// Tabs: the children are visited in the order of their TabOrder.
+class TWinControl : public TControl {
+ public:
+  using Inherited = TControl;
+
+  static const TClassInfo* Class();
+  const TClassInfo* ClassType() const override { return Class(); }
+
+  // Children.
+  int GetControlCount() const { return static_cast<int>(FControls.size()); }
+  /// In the order they lie on each other, the lowest first. Raises EListError.
+  TControl* GetControls(int index) const;
+  bool ContainsControl(const TControl* control) const;
+  void InsertControl(TControl* control);
+  void RemoveControl(TControl* control);
+
+  // Tabs.
+  /// The place among the parent's children, -1 without a parent. Setting moves it there, cut to the valid range.
+  int GetTabOrder() const;
+  void SetTabOrder(int value);
+  bool IsTabStop() const { return FTabStop; }
+  void SetTabStop(bool value);
+  /// The children in tab order.
+  std::span<TWinControl* const> GetTabList() const { return FTabList; }
+
+  // Alignment of the children.
+  /// Puts off aligning until EnableAlign() was called as often.
+  void DisableAlign() { ++FAlignLevel; }
+  void EnableAlign();
+  /// Brings the children to the places that their Align and Anchors ask for.
+  void Realign() { AlignControl(nullptr); }
+
+  // The window.
+  bool HandleAllocated() const { return FWindow != nullptr; }
+  /// Makes the window if there is none. Needs a QApplication.
+  void HandleNeeded();
+  QWidget* GetHandle();
+  /// Whether the window is on the screen, as far as the program can tell.
+  bool IsShowing() const { return FShowing; }
+  void Invalidate() override;
+  void Repaint() override;
+  void Update() override;
+  QPoint ClientToScreen(QPoint point);
+  QPoint ScreenToClient(QPoint point);
+  /// Gets all mouse events until it is released, or another one captures the mouse.
+  void SetMouseCapture(bool value);
+  bool HasMouseCapture() const;
+
+  // Focus.
+  /// Whether this very window has the keyboard.
+  bool Focused() const;
+  /// Whether it and all its parents are visible and enabled.
+  bool CanFocus() const;
+  virtual void SetFocus();
+
+  void Dispatch(TMessage& message) override;
+  void DefaultHandler(TMessage& message) override;
+  void SetBounds(int left, int top, int width, int height) override;
+
+  TNotifyEvent OnEnter;
+  TNotifyEvent OnExit;
+  TKeyEvent OnKeyDown;
+  TKeyPressEvent OnKeyPress;
+  TKeyEvent OnKeyUp;
+
+ protected:
+  friend class TControl;
+  friend class TControlBody;
+  friend class TFocus;
+
+  explicit TWinControl(TComponent* owner = nullptr) : TControl(owner) {}
+
+  void Destruct() override;
+  void Loaded() override;
+  void GetChildren(const TGetChildProc& proc, TComponent* root) override;
+  void SetChildOrder(TComponent* child, int order) override;
+
+  /// Places the aligned and anchored children in `rect`, the client area.
+  virtual void AlignControls(QRect& rect);
+  bool IsAligning() const { return FIsAligning; }
+  void BoundsUpdated() override;
+  /// Sends a message to all children.
+  void NotifyControls(quint32 msg);
+
+  // The window.
+  /// Makes the window; overrides call the inherited one and then finish it.
+  virtual void CreateWnd();
+  virtual void DestroyWnd();
+  /// Makes the widget itself. `parent` may be null.
+  virtual QWidget* CreateBody(QWidget* parent);
+  void DestroyHandle();
+  void RecreateWnd();
+  /// Paints the window; what the widget shows by itself is painted by the inherited one. `clip` lies in the window.
+  virtual void PaintWindow(const QRect& clip);
+  /// Any event of Qt's that is not turned into a message; true when nothing is left to do.
+  virtual bool WindowEvent(QEvent&) { return false; }
+  void InvalidateRect(const QRect& clientRect);
+  /// The top left of the client area in the window.
+  QPoint GetClientOrigin() const;
+  QWidget* Window() const { return FWindow; }
+
+  // Keys and focus.
+  virtual void KeyDown(quint16& key, TShiftState shift) { OnKeyDown(this, key, shift); }
+  virtual void KeyUp(quint16& key, TShiftState shift) { OnKeyUp(this, key, shift); }
+  virtual void KeyPress(QChar& key) { OnKeyPress(this, key); }
+  virtual void DoEnter() { OnEnter(this); }
+  virtual void DoExit() { OnExit(this); }
+  /// The control that counts as focused when this window has the keyboard: itself, or whom it works for.
+  virtual TWinControl* FocusOwner() { return this; }
+  /// Whether a key that would otherwise move the focus is wanted here.
+  virtual bool WantsKey(quint16 key);
+  /// Text from an input method; false leaves it to the widget.
+  virtual bool InputText(const QString& text);
+  /// Turns of the wheel, in eighths of a degree; true when used.
+  virtual bool DoMouseWheel(TShiftState shift, int delta, bool isHorizontal, QPoint position);
+
+  virtual void CMEnter(TMessage&) { DoEnter(); }
+  virtual void CMExit(TMessage&) { DoExit(); }
+  virtual void CMShowingChanged(TMessage&) {}
+  /// Result 1: the control wants a key that would move the focus otherwise.
+  virtual void CMWantSpecialKey(TMessage&) {}
+  virtual void WMSetFocus(TMessage& message) { DefaultHandler(message); }
+  virtual void WMKillFocus(TMessage& message) { DefaultHandler(message); }
+  // NOLINTNEXTLINE(bugprone-virtual-near-miss): CM and WM are two messages
+  virtual void WMCancelMode(TMessage& message) { DefaultHandler(message); }
+  void CMFontChanged(TMessage& message) override;
+  void CMColorChanged(TMessage& message) override;
+  void CMBiDiModeChanged(TMessage& message) override;
+  void CMShowHintChanged(TMessage& message) override;
+  void CMVisibleChanged(TMessage& message) override;
+  void CMEnabledChanged(TMessage& message) override;
+  void CMCursorChanged(TMessage& message) override;
+
+ private:
+  void AlignControl(TControl* control);
+  void AlignAnchored(const QRect& rect);
+  void AlignSide(TAlign align, QRect& rect);
+  void UpdateTabOrder(int value);
+  void FixupTabList();
+  void InitializeWindow();
+  void UpdateWindowBounds();
+  void UpdateWindowVisible();
+  void WindowDestroyed();
+  void WindowShown(bool isShown);
+  void WindowMoved(const QRect& geometry);
+  bool OfferToParents(quint16 key, Qt::KeyboardModifiers modifiers);
+  bool OfferToForm(quint16 key, Qt::KeyboardModifiers modifiers);
+  /// True when somebody took it.
+  bool SendKey(quint32 msg, quint16 key, qintptr shift);
+  void DispatchKey(TMessage& message);
+
+  std::vector<TControl*> FControls;
+  std::vector<TWinControl*> FTabList;
+  QWidget* FWindow = nullptr;
+  TControlBody* FBody = nullptr;
+  int FTabOrder = -1;
+  int FAlignLevel = 0;
+  bool FTabStop = false;
+  bool FIsAligning = false;
+  bool FAlignNeeded = false;
+  bool FShowing = false;
+  /// The window is being told its place, or tells it.
+  bool FIsMovingWindow = false;
+  /// A key message came to DefaultHandler().
+  bool FIsKeyLeft = false;
+};
+
+}  // namespace kt

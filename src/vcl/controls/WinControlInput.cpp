@@ -1,0 +1,138 @@
+// Keys, focus and the wheel of TWinControl.
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/vcl/controls/ControlBody.h"
+#include "kt/vcl/controls/Focus.h"
+#include "kt/vcl/controls/KeyCodes.h"
+#include "kt/vcl/controls/VirtualKeys.h"
+#include "kt/vcl/controls/WinControl.h"
+
+#include <QLatin1StringView>
+
+namespace kt {
+
+namespace {
+
+constexpr QLatin1StringView SCannotFocus{"Cannot focus a disabled or invisible window"};
+
+}  // namespace
+
+void TWinControl::Dispatch(TMessage& message) {
+  switch (message.Msg) {
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+    case WM_KEYUP:
+    case WM_SYSKEYUP:
+    case WM_CHAR:
+      return DispatchKey(message);
+    case WM_SETFOCUS:
+      return WMSetFocus(message);
+    case WM_KILLFOCUS:
+      return WMKillFocus(message);
+    case WM_CANCELMODE:
+      return WMCancelMode(message);
+    case CM_ENTER:
+      return CMEnter(message);
+    case CM_EXIT:
+      return CMExit(message);
+    case CM_SHOWINGCHANGED:
+      return CMShowingChanged(message);
+    case CM_WANTSPECIALKEY:
+      return CMWantSpecialKey(message);
+    case CM_CHILDKEY:
+      if (GetParent()) GetParent()->WndProc(message);
+      return;
+    case CM_RECREATEWND:
+      return RecreateWnd();
+    default:
+      TControl::Dispatch(message);
+  }
+}
+
+void TWinControl::DispatchKey(TMessage& message) {
+  const auto shift = TShiftState::FromBits(static_cast<quint32>(message.LParam));
+  if (message.Msg == WM_CHAR) {
+    QChar character(static_cast<char16_t>(message.WParam));
+    KeyPress(character);
+    message.WParam = character.unicode();
+  } else {
+    auto key = static_cast<quint16>(message.WParam);
+    const bool isDown = message.Msg == WM_KEYDOWN || message.Msg == WM_SYSKEYDOWN;
+    if (isDown) {
+      KeyDown(key, shift);
+    } else {
+      KeyUp(key, shift);
+    }
+    message.WParam = key;
+  }
+  if (message.WParam != 0) DefaultHandler(message);
+}
+
+void TWinControl::DefaultHandler(TMessage& message) {
+  switch (message.Msg) {
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+    case WM_KEYUP:
+    case WM_SYSKEYUP:
+    case WM_CHAR:
+    case WM_SYSCHAR:
+      FIsKeyLeft = true;
+      return;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+      if (FBody) FBody->RunInherited();
+      return;
+    default:
+      return;
+  }
+}
+
+bool TWinControl::SendKey(quint32 msg, quint16 key, qintptr shift) {
+  FIsKeyLeft = false;
+  // A control that has gone is done with the key as well.
+  TControlBody* const body = FBody;
+  Perform(msg, key, shift);
+  return body->Control() != this || !FIsKeyLeft;
+}
+
+bool TWinControl::WantsKey(quint16 key) { return Perform(CM_WANTSPECIALKEY, key) != 0; }
+
+bool TWinControl::OfferToParents(quint16 key, Qt::KeyboardModifiers modifiers) {
+  if (key == 0 || !GetParent()) return false;
+  TMessage message{CM_CHILDKEY, key, PointerMessage(this), 0};
+  Q_UNUSED(modifiers)
+  GetParent()->WndProc(message);
+  return message.Result != 0;
+}
+
+bool TWinControl::OfferToForm(quint16 key, Qt::KeyboardModifiers modifiers) {
+  TWinControl* top = this;
+  while (top->GetParent()) top = top->GetParent();
+  return top->Perform(CM_DIALOGKEY, key, ShiftStateOf(modifiers).Bits()) != 0;
+}
+
+bool TWinControl::InputText(const QString& text) {
+  for (QChar character : text) {
+    if (HandleAllocated()) SendKey(WM_CHAR, character.unicode(), 0);
+  }
+  return true;
+}
+
+bool TWinControl::DoMouseWheel(TShiftState, int, bool, QPoint) { return false; }
+
+bool TWinControl::Focused() const { return HandleAllocated() && FWindow->hasFocus(); }
+
+bool TWinControl::CanFocus() const {
+  for (const TWinControl* control = this; control; control = control->GetParent()) {
+    if (!control->IsVisible() || !control->IsEnabled()) return false;
+  }
+  return true;
+}
+
+void TWinControl::SetFocus() {
+  if (!CanFocus()) throw EInvalidOperation(SCannotFocus);
+  GetHandle()->setFocus();
+}
+
+void TWinControl::CMCursorChanged(TMessage&) {}
+
+}  // namespace kt

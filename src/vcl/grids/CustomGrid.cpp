@@ -1,0 +1,84 @@
+#include "kt/vcl/grids/CustomGrid.h"
+
+#include "kt/rtl/typeinfo/ClassBuilder.h"
+
+namespace kt {
+
+const TClassInfo* TCustomGrid::Class() {
+  static const TClassInfo info = TClassBuilder<TCustomGrid>("TCustomGrid").Done();
+  return &info;
+}
+
+TCustomGrid::TCustomGrid(TComponent* owner) : TCustomControl(owner) {}
+
+TCustomGrid::~TCustomGrid() = default;
+
+void TCustomGrid::Construct() {
+  TCustomControl::Construct();
+  FControlStyle = {csCaptureMouse, csOpaque, csDoubleClicks};
+  SetParentColor(false);
+  SetTabStop(true);
+  SetBounds(GetLeft(), GetTop(), FCols.Count * GetDefaultColWidth(), FRows.Count * GetDefaultRowHeight());
+  Initialize();
+}
+
+void TCustomGrid::Initialize() {
+  FCols.First = FCols.Fixed;
+  FRows.First = FRows.Fixed;
+  FCurrent = {FCols.Fixed, FRows.Fixed};
+  FAnchor = FCurrent;
+  if (FOptions.Has(goRowSelect)) FAnchor.X = FCols.Count - 1;
+}
+
+void TCustomGrid::CheckIndex(const TGridAxis& axis, int index) const {
+  if (index < 0 || index >= axis.Count) throw EInvalidGridOperation(SGridIndexOutOfRange);
+}
+
+void TCustomGrid::SetOptions(TGridOptions value) {
+  if (value.Has(goRowSelect)) value.Exclude(goAlwaysShowEditor);
+  if (FOptions == value) return;
+  FOptions = value;
+  if (!FEditorMode) {
+    if (value.Has(goAlwaysShowEditor)) {
+      ShowEditor();
+    } else {
+      HideEditor();
+    }
+  }
+  if (value.Has(goRowSelect)) MoveCurrent(FCurrent.X, FCurrent.Y, true, false);
+  InvalidateGrid();
+}
+
+void TCustomGrid::SetFixedColor(TColor value) {
+  if (FFixedColor == value) return;
+  FFixedColor = value;
+  InvalidateGrid();
+}
+
+void TCustomGrid::SetScrollBars(TScrollStyle value) {
+  if (FScrollBars == value) return;
+  FScrollBars = value;
+  ScrollBarsNeedUpdate();
+}
+
+void TCustomGrid::SetBorderStyle(TBorderStyle value) {
+  if (FBorderStyle == value) return;
+  FBorderStyle = value;
+  ScrollBarsNeedUpdate();
+  InvalidateGrid();
+}
+
+void TCustomGrid::SizeChanged(int, int) {}
+void TCustomGrid::TopLeftChanged() { MoveEditor(); }
+void TCustomGrid::ColWidthsChanged() {
+  ScrollBarsNeedUpdate();
+  MoveEditor();
+}
+void TCustomGrid::RowHeightsChanged() {
+  ScrollBarsNeedUpdate();
+  MoveEditor();
+}
+void TCustomGrid::ColumnMoved(int, int) {}
+void TCustomGrid::RowMoved(int, int) {}
+
+}  // namespace kt
