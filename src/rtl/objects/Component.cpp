@@ -108,6 +108,7 @@ void TComponent::RemoveComponent(TComponent* component) {
 }
 
 void TComponent::DestroyComponents() {
+  if (FOwned) FOwned->DropIndex();
   while (GetComponentCount() > 0) {
     TComponent* last = FOwned->List().back();
     // Only a component that somebody watches announces its going to its siblings; the others go silently.

@@ -13,6 +13,7 @@ int TOwnedComponents::IndexOf(const TComponent* component) const {
 }
 
 TComponent* TOwnedComponents::Find(QStringView name) const {
+  EnsureIndex();
   const auto entry = FByName.find(name.toString().toLower());
   return entry == FByName.end() ? nullptr : entry->second;
 }
@@ -69,13 +70,33 @@ void TOwnedComponents::Renamed(TComponent* component, const QString& from, const
   ForgetName(component, from);
 }
 
+void TOwnedComponents::DropIndex() {
+  FByName.clear();
+  FHasEqualNames = false;
+  FIsIndexed = false;
+}
+
+void TOwnedComponents::EnsureIndex() const {
+  if (FIsIndexed) return;
+  std::unordered_map<QString, TComponent*> byName;
+  bool hasEqualNames = false;
+  for (TComponent* component : FList) {
+    if (component->GetName().isEmpty()) continue;
+    hasEqualNames |= !byName.try_emplace(component->GetName().toLower(), component).second;
+  }
+  FByName.swap(byName);
+  FHasEqualNames = hasEqualNames;
+  FIsIndexed = true;
+}
+
 void TOwnedComponents::IndexName(TComponent* component, const QString& name) {
-  if (name.isEmpty()) return;
+  if (name.isEmpty() || !FIsIndexed) return;
   const bool isNew = FByName.try_emplace(name.toLower(), component).second;
   if (!isNew) FHasEqualNames = true;
 }
 
 void TOwnedComponents::ForgetName(TComponent* component, const QString& name) {
+  if (!FIsIndexed) return;
   const auto entry = FByName.find(name.toLower());
   if (name.isEmpty() || entry == FByName.end() || entry->second != component) return;
   if (!FHasEqualNames) {

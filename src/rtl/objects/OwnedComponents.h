@@ -11,8 +11,10 @@ namespace kt {
 class TComponent;
 
 /// The components of one owner, in order, with an index by name so that loading a form with many components stays
-/// linear. Each operation is done or, when memory runs out, changes nothing; taking out and going through the listeners
-/// never need memory.
+/// linear. While an owner destroys them all, the index exists only when somebody asks for a name.
+///
+/// Each operation is done or, when memory runs out, changes nothing; taking out and going through the listeners never
+/// need memory.
 class TOwnedComponents {
  public:
   const std::vector<TComponent*>& List() const { return FList; }
@@ -30,18 +32,22 @@ class TOwnedComponents {
   /// A component has become a listener.
   void ListenersChanged();
 
+  /// All are about to go one by one: the index by name is dropped, and made anew when it is asked for.
+  void DropIndex();
   void Renamed(TComponent* component, const QString& from, const QString& to);
 
  private:
   const std::vector<TComponent*>& Listeners();
   void ForgetListener(const TComponent* component);
+  void EnsureIndex() const;
   void IndexName(TComponent* component, const QString& name);
   void ForgetName(TComponent* component, const QString& name);
 
   std::vector<TComponent*> FList;
   /// By the name in lower case. Not a QHash: that ends the program when memory runs out.
-  std::unordered_map<QString, TComponent*> FByName;
-  bool FHasEqualNames = false;
+  mutable std::unordered_map<QString, TComponent*> FByName;
+  mutable bool FHasEqualNames = false;
+  mutable bool FIsIndexed = true;
   /// Has room for the whole list as soon as there is a listener.
   std::vector<TComponent*> FListeners;
   bool FListenersAreKnown = true;

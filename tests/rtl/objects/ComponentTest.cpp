@@ -76,6 +76,50 @@ TEST(ComponentTest, ComponentsAreFoundByNameWithoutRegardToCase) {
   EXPECT_EQ(nullptr, owner->FindComponent(u""));
 }
 
+/// Notes, when it goes, which of the names A to D a component finds among its own.
+class TFarewell : public TComponent {
+ public:
+  TComponent* Asked = nullptr;
+  QString* Found = nullptr;
+  void BeforeDestruction() override {
+    for (const QStringView name : {u"A", u"B", u"C", u"D"}) {
+      if (Asked->FindComponent(name)) *Found += name;
+    }
+    *Found += u' ';
+    TComponent::BeforeDestruction();
+  }
+
+ protected:
+  explicit TFarewell(TComponent* owner = nullptr) : TComponent(owner) {}
+};
+
+void AddFarewell(TComponent* owner, const char* name, QString* found) {
+  auto* component = New<TFarewell>(owner);
+  component->SetName(QString::fromLatin1(name));
+  component->Asked = owner;
+  component->Found = found;
+}
+
+TEST(ComponentTest, WhileItsComponentsGoAnOwnerFindsThoseThatAreLeft) {
+  QString found;
+  const auto owner = Make<TComponent>();
+  Named(owner.get(), "A");
+  AddFarewell(owner.get(), "B", &found);
+  AddFarewell(owner.get(), "C", &found);
+  Named(owner.get(), "D");
+  owner->DestroyComponents();
+  EXPECT_EQ(QStringLiteral("AB A "), found);
+}
+
+TEST(ComponentTest, AnOwnerThatDestroyedItsComponentsTakesTheirNamesAgain) {
+  const auto owner = Make<TComponent>();
+  Named(owner.get(), "A");
+  owner->DestroyComponents();
+  EXPECT_EQ(nullptr, owner->FindComponent(u"A"));
+  TComponent* a = Named(owner.get(), "A");
+  EXPECT_EQ(a, owner->FindComponent(u"A"));
+}
+
 TEST(ComponentTest, ARenamedComponentIsFoundByItsNewNameOnly) {
   const auto owner = Make<TComponent>();
   TComponent* a = Named(owner.get(), "Alpha");
