@@ -2,10 +2,8 @@
 
 namespace kt {
 
-const TTypeInfo* TPropInfo::PropType() const {
-  const TTypeInfo* type = FType.load(std::memory_order_acquire);
-  if (type) return type;
-  type = FDefinition.Type();
+const TTypeInfo* TPropInfo::AskType() const {
+  const TTypeInfo* type = FDefinition.Type();
   FType.store(type, std::memory_order_release);
   return type;
 }

@@ -37,7 +37,10 @@ class TPropInfo {
   TPropInfo& operator=(const TPropInfo&) = delete;
 
   const QString& Name() const { return FDefinition.Name; }
-  const TTypeInfo* PropType() const;
+  const TTypeInfo* PropType() const {
+    const TTypeInfo* type = FType.load(std::memory_order_acquire);
+    return type ? type : AskType();
+  }
   TTypeKind Kind() const { return PropType()->Kind(); }
   bool IsReadable() const { return FDefinition.Access->IsReadable(); }
   bool IsWritable() const { return FDefinition.Access->IsWritable(); }
@@ -54,6 +57,8 @@ class TPropInfo {
   }
 
  private:
+  const TTypeInfo* AskType() const;
+
   TDefinition FDefinition;
   mutable std::atomic<const TTypeInfo*> FType = nullptr;
 };
