@@ -22,8 +22,8 @@ void Build(benchmark::State& state, bool atFront) {
     for (int i = 0; i < count; ++i) atFront ? collection->Insert(0) : collection->Add();
     benchmark::DoNotOptimize(collection->GetCount());
   }
-  state.counters["ns_per_item"] = benchmark::Counter(
-      static_cast<double>(count) * 1e-9, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+  state.counters["per_item"] =
+      benchmark::Counter(count, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 
 void BuildAndDestroy(benchmark::State& state) { Build(state, false); }
