@@ -144,16 +144,18 @@ void CountBytes(benchmark::State& state, qsizetype size) {
 }
 
 void ReadText(benchmark::State& state) {
+  const QByteArray& form = TextForm();
   TIdleFormSink nowhere;
-  for (auto step : state) ReadForm(TextForm(), nowhere);
-  CountBytes(state, TextForm().size());
+  for (auto step : state) ReadForm(form, nowhere);
+  CountBytes(state, form.size());
 }
 BENCHMARK(ReadText)->Unit(benchmark::kMillisecond);
 
 void ReadBinary(benchmark::State& state) {
+  const QByteArray& form = BinaryForm();
   TIdleFormSink nowhere;
-  for (auto step : state) ReadForm(BinaryForm(), nowhere);
-  CountBytes(state, BinaryForm().size());
+  for (auto step : state) ReadForm(form, nowhere);
+  CountBytes(state, form.size());
 }
 BENCHMARK(ReadBinary)->Unit(benchmark::kMillisecond);
 
