@@ -6,6 +6,9 @@ set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 cd "$root"
+# Every check that is off has its reason in the table, and the table names nothing else.
+diff <(sed -nE 's/^#   ([a-z][^ ]*) .*/\1/p' .clang-tidy | sort) <(sed -nE 's/^  -([a-z][^,]*),?$/\1/p' .clang-tidy | sort) ||
+  die "the reasons in .clang-tidy do not match its list"
 [ -f build/debug/compile_commands.json ] || configure debug
 if [ $# -gt 0 ]; then sources=("$@"); else mapfile -t sources < <(git ls-files 'src/*.cpp' 'tools/*.cpp'); fi
 printf '%s\0' "${sources[@]}" |
