@@ -2,6 +2,7 @@
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Make.h"
 #include "kt/rtl/typeinfo/ClassInfo.h"
+#include "support/InThreads.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -10,6 +11,8 @@
 
 namespace kt {
 namespace {
+
+using tests::InThreads;
 
 char Letters[] = "abc";
 
@@ -27,14 +30,6 @@ std::string ErrorOfAdding(TThreadList& list, void* item) {
     return error.what();
   }
   return "no error";
-}
-
-/// Runs `work` in several threads at once, each with its number.
-template <class F>
-void InThreads(int count, F work) {
-  std::vector<std::thread> threads;
-  for (int i = 0; i < count; ++i) threads.emplace_back(work, i);
-  for (std::thread& thread : threads) thread.join();
 }
 
 TEST(ThreadListTest, IsAClassDirectlyBelowTheRoot) {
