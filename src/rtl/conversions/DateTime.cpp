@@ -13,17 +13,17 @@
 namespace kt {
 namespace {
 
-constexpr int FirstDay = -693593;
-constexpr int LastDay = 2958465;
+constexpr int kFirstDay = -693593;
+constexpr int kLastDay = 2958465;
 /// The Julian day of 30 December 1899.
-constexpr qint64 JulianOffset = 2415019;
+constexpr qint64 kJulianOffset = 2415019;
 
-QDate DateOfStamp(const TTimeStamp& stamp) { return QDate::fromJulianDay(JulianOffset + stamp.Day); }
+QDate DateOfStamp(const TTimeStamp& stamp) { return QDate::fromJulianDay(kJulianOffset + stamp.Day); }
 
 }  // namespace
 
 bool TryDateTimeToTimeStamp(TDateTime value, TTimeStamp& stamp) {
-  if (!(value > FirstDay - 1.0 && value < LastDay + 1.0)) return false;
+  if (!(value > kFirstDay - 1.0 && value < kLastDay + 1.0)) return false;
   const double whole = std::trunc(value);
   TTimeStamp result{static_cast<int>(whole),
                     static_cast<int>(std::floor(std::fabs(value - whole) * MSecsPerDay + 0.5))};
@@ -31,7 +31,7 @@ bool TryDateTimeToTimeStamp(TDateTime value, TTimeStamp& stamp) {
     result.MSec -= MSecsPerDay;
     ++result.Day;
   }
-  if (result.Day < FirstDay || result.Day > LastDay) return false;
+  if (result.Day < kFirstDay || result.Day > kLastDay) return false;
   stamp = result;
   return true;
 }
@@ -53,7 +53,7 @@ bool TryEncodeDate(int year, int month, int day, TDateTime& value) {
   if (year < 1 || year > 9999) return false;
   const QDate date(year, month, day);
   if (!date.isValid()) return false;
-  value = static_cast<double>(date.toJulianDay() - JulianOffset);
+  value = static_cast<double>(date.toJulianDay() - kJulianOffset);
   return true;
 }
 
@@ -113,7 +113,7 @@ TDateTime Time() { return TimeOf(Now()); }
 TDateTime Now() {
   const QDateTime now = QDateTime::currentDateTime();
   return TimeStampToDateTime(
-      {static_cast<int>(now.date().toJulianDay() - JulianOffset), now.time().msecsSinceStartOfDay()});
+      {static_cast<int>(now.date().toJulianDay() - kJulianOffset), now.time().msecsSinceStartOfDay()});
 }
 
 TDateTime DateOf(TDateTime value) { return TimeStampToDateTime({DateTimeToTimeStamp(value).Day, 0}); }
@@ -127,7 +127,7 @@ void ReplaceTime(TDateTime& value, TDateTime newTime) { value = ComposeDateTime(
 TDateTime IncDay(TDateTime value, int days) {
   const TTimeStamp stamp = DateTimeToTimeStamp(value);
   const qint64 day = qint64{stamp.Day} + days;
-  if (day < FirstDay || day > LastDay) throw EConvertError(SDateEncodeError);
+  if (day < kFirstDay || day > kLastDay) throw EConvertError(SDateEncodeError);
   return TimeStampToDateTime({static_cast<int>(day), stamp.MSec});
 }
 

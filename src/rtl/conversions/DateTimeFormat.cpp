@@ -6,7 +6,7 @@ namespace kt {
 namespace {
 
 /// A picture may name a picture of the settings (which may name another): so deep at most.
-constexpr int NestingLimit = 2;
+constexpr int kNestingLimit = 2;
 
 QString Padded(int number, qsizetype digits) { return QString::number(number).rightJustified(digits, u'0'); }
 
@@ -30,7 +30,7 @@ class TDateTimeWriter {
   void WriteMonth(qsizetype count);
   void WriteHour(qsizetype count);
   void WriteNested(const QString& mask, int depth) {
-    if (depth < NestingLimit) Write(mask, depth + 1);
+    if (depth < kNestingLimit) Write(mask, depth + 1);
   }
 
   TDateTime FValue;

@@ -11,7 +11,7 @@ namespace kt {
 namespace {
 
 /// Longer runs of digits are no part of a date or time.
-constexpr qsizetype MaxDigits = 5;
+constexpr qsizetype kMaxDigits = 5;
 
 struct TNumber {
   int Value = 0;
@@ -52,7 +52,7 @@ bool TDateTimeScanner::TakeNumber(TNumber& number) {
   SkipBlanks();
   TNumber result;
   while (!FRest.isEmpty() && FRest.front() >= u'0' && FRest.front() <= u'9') {
-    if (++result.Digits > MaxDigits) return false;
+    if (++result.Digits > kMaxDigits) return false;
     result.Value = result.Value * 10 + (FRest.front().unicode() - u'0');
     FRest = FRest.sliced(1);
   }

@@ -8,7 +8,7 @@ namespace kt {
 namespace {
 
 /// What the digits are first made with; rounding happens on these, never on the binary value.
-constexpr int ExactDigits = 18;
+constexpr int kExactDigits = 18;
 
 void StripZeros(TFloatRec& rec) {
   while (!rec.Digits.empty() && rec.Digits.back() == '0') rec.Digits.pop_back();
@@ -55,7 +55,7 @@ TFloatRec FloatToDecimal(double value, int precision, int decimals) {
   }
   char text[48];
   const auto [end, error] =
-      std::to_chars(text, text + sizeof text, std::fabs(value), std::chars_format::scientific, ExactDigits - 1);
+      std::to_chars(text, text + sizeof text, std::fabs(value), std::chars_format::scientific, kExactDigits - 1);
   Q_ASSERT(error == std::errc());
   const char* const mark = std::find(text, end, 'e');
   rec.Digits.assign(1, text[0]);
@@ -63,7 +63,7 @@ TFloatRec FloatToDecimal(double value, int precision, int decimals) {
   const char* const exponent = mark + (mark[1] == '+' ? 2 : 1);
   std::from_chars(exponent, end, rec.Exponent);
   ++rec.Exponent;
-  RoundTo(rec, std::clamp(precision, 1, ExactDigits), decimals);
+  RoundTo(rec, std::clamp(precision, 1, kExactDigits), decimals);
   return rec;
 }
 

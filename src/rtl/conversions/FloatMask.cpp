@@ -11,8 +11,8 @@
 namespace kt {
 namespace {
 
-constexpr int MaskPrecision = 15;
-constexpr int HighestFixedExponent = 18;
+constexpr int kMaskPrecision = 15;
+constexpr int kHighestFixedExponent = 18;
 
 bool IsQuote(QChar c) { return c == u'\'' || c == u'"'; }
 
@@ -159,7 +159,7 @@ class TMaskWriter {
 template <typename T>
 TFloatRec Round(T value, const TPicture& picture) {
   if (picture.IsScientific) return FloatToDecimal(value, std::max(picture.Places(), 1), 9999);
-  return FloatToDecimal(value, std::is_same_v<T, Currency> ? 19 : MaskPrecision, picture.DecimalPlaces);
+  return FloatToDecimal(value, std::is_same_v<T, Currency> ? 19 : kMaskPrecision, picture.DecimalPlaces);
 }
 
 template <typename T>
@@ -175,7 +175,7 @@ QString FormatNumber(QStringView mask, T value, const TFormatSettings& settings)
     rec = Round(value, ReadPicture(section));
   }
   const bool isPlain = section.isEmpty() || rec.Kind != fkFinite ||
-                       (rec.Exponent > HighestFixedExponent && !ReadPicture(section).IsScientific);
+                       (rec.Exponent > kHighestFixedExponent && !ReadPicture(section).IsScientific);
   if (isPlain) {
     if constexpr (std::is_same_v<T, Currency>)
       return CurrToStr(value, settings);

@@ -9,8 +9,8 @@
 namespace kt {
 namespace {
 
-constexpr int CurrencyPrecision = 19;
-constexpr int AllDecimals = 9999;
+constexpr int kCurrencyPrecision = 19;
+constexpr int kAllDecimals = 9999;
 
 /// The digit at a position counted from the decimal point's left (0 is the first of Digits); zero beyond them.
 QChar DigitAt(const TFloatRec& rec, int index) {
@@ -63,15 +63,16 @@ QString GeneralText(const TFloatRec& rec, int precision, int digits, const TForm
 }
 
 /// n is the number, $ the sign, the rest is literal; indexed by CurrencyFormat and NegCurrFormat.
-constexpr std::array<const char*, 4> PositiveLayouts{"$n", "n$", "$ n", "n $"};
-constexpr std::array<const char*, 16> NegativeLayouts{"($n)", "-$n",  "$-n",  "$n-",  "(n$)", "-n$",  "n-$",   "n$-",
-                                                      "-n $", "-$ n", "n $-", "$ n-", "$ -n", "n- $", "($ n)", "(n $)"};
+constexpr std::array<const char*, 4> kPositiveLayouts{"$n", "n$", "$ n", "n $"};
+constexpr std::array<const char*, 16> kNegativeLayouts{"($n)", "-$n",  "$-n",   "$n-",  "(n$)", "-n$",
+                                                       "n-$",  "n$-",  "-n $",  "-$ n", "n $-", "$ n-",
+                                                       "$ -n", "n- $", "($ n)", "(n $)"};
 
 QString CurrencyText(const QString& number, bool isNegative, const TFormatSettings& settings) {
   const auto positive = static_cast<std::size_t>(std::clamp(settings.CurrencyFormat, 0, 3));
   const auto negative = static_cast<std::size_t>(std::clamp(settings.NegCurrFormat, 0, 15));
   QString result;
-  for (const char* at = isNegative ? NegativeLayouts[negative] : PositiveLayouts[positive]; *at; ++at) {
+  for (const char* at = isNegative ? kNegativeLayouts[negative] : kPositiveLayouts[positive]; *at; ++at) {
     if (*at == 'n')
       result += number;
     else if (*at == '$')
@@ -92,7 +93,7 @@ template <typename T>
 QString ToText(T value, TLayout layout, const TFormatSettings& settings) {
   const bool hasDecimals = layout.Format >= ffFixed;
   const int decimals = std::clamp(layout.Digits, 0, 18);
-  TFloatRec rec = FloatToDecimal(value, layout.Precision, hasDecimals ? decimals : AllDecimals);
+  TFloatRec rec = FloatToDecimal(value, layout.Precision, hasDecimals ? decimals : kAllDecimals);
   const QString sign = rec.Negative ? QStringLiteral("-") : QString();
   if (rec.Kind == fkNaN) return QStringLiteral("NAN");
   if (rec.Kind == fkInfinity) return sign + QStringLiteral("INF");
@@ -112,7 +113,7 @@ QString FloatToStrF(double value, TFloatFormat format, int precision, int digits
 }
 
 QString FloatToStrF(Currency value, TFloatFormat format, int digits, const TFormatSettings& settings) {
-  return ToText(value, {format, CurrencyPrecision, digits}, settings);
+  return ToText(value, {format, kCurrencyPrecision, digits}, settings);
 }
 
 QString FloatToStr(double value, const TFormatSettings& settings) {

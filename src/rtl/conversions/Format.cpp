@@ -13,11 +13,11 @@
 namespace kt {
 namespace {
 
-constexpr int PointerDigits = 2 * static_cast<int>(sizeof(void*));
-constexpr int FloatPrecision = 15;
-constexpr int FixedPrecision = 18;
+constexpr int kPointerDigits = 2 * static_cast<int>(sizeof(void*));
+constexpr int kFloatPrecision = 15;
+constexpr int kFixedPrecision = 18;
 /// How much of the format text an error message quotes.
-constexpr qsizetype QuotedLength = 31;
+constexpr qsizetype kQuotedLength = 31;
 
 struct TPlaceholder {
   bool IsLeft = false;
@@ -75,7 +75,7 @@ QString TFormatter::Run() {
 }
 
 void TFormatter::Fail(QLatin1StringView message) const {
-  QStringView quoted = FFormat.first(std::min(FFormat.size(), QuotedLength));
+  QStringView quoted = FFormat.first(std::min(FFormat.size(), kQuotedLength));
   if (quoted.size() < FFormat.size() && quoted.back().isHighSurrogate()) quoted.chop(1);
   throw EConvertError(QString(message).replace(QLatin1StringView("%s"), quoted.toString()));
 }
@@ -165,7 +165,7 @@ QString TFormatter::IntegerText(const TPlaceholder& place, const TVarRec& arg) c
 QString TFormatter::RealText(const TPlaceholder& place, const TVarRec& arg) const {
   if (arg.Kind() != vtExtended && arg.Kind() != vtCurrency) Fail(SInvalidFormat);
   const bool isGeneral = place.Type == u'g' || place.Type == u'e';
-  const int precision = isGeneral ? (place.Precision < 0 ? FloatPrecision : place.Precision) : FixedPrecision;
+  const int precision = isGeneral ? (place.Precision < 0 ? kFloatPrecision : place.Precision) : kFixedPrecision;
   const int decimals = place.Type == u'm' ? FSettings.CurrencyDecimals : 2;
   const int digits = isGeneral ? 3 : place.Precision < 0 ? decimals : place.Precision;
   TFloatFormat format = ffGeneral;
@@ -182,7 +182,7 @@ QString TFormatter::PlainText(const TPlaceholder& place, const TVarRec& arg) con
   if (place.Type == u'p') {
     if (arg.Kind() != vtPointer) Fail(SInvalidFormat);
     const QString digits = QString::number(reinterpret_cast<quintptr>(arg.AsPointer()), 16).toUpper();
-    return digits.rightJustified(PointerDigits, QLatin1Char('0'));
+    return digits.rightJustified(kPointerDigits, QLatin1Char('0'));
   }
   QString text;
   if (arg.Kind() == vtString)

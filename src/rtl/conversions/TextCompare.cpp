@@ -14,9 +14,9 @@
 namespace kt {
 namespace {
 
-constexpr char16_t FirstAscii = 0x20;
-constexpr char16_t LastAscii = 0x7e;
-constexpr quint8 NoRank = 0xff;
+constexpr char16_t kFirstAscii = 0x20;
+constexpr char16_t kLastAscii = 0x7e;
+constexpr quint8 kNoRank = 0xff;
 
 /// Where two texts first differ, or the length of the shorter one; four characters at a time.
 qsizetype Mismatch(QStringView s1, QStringView s2) {
@@ -48,7 +48,7 @@ class TLocaleOrder {
   void Refresh();
   void ReadAsciiRanks();
   std::optional<int> ComparePlain(QStringView s1, QStringView s2, Qt::CaseSensitivity sensitivity) const;
-  bool IsPlain(QChar c) const { return c.unicode() < FRanks.size() && FRanks[c.unicode()] != NoRank; }
+  bool IsPlain(QChar c) const { return c.unicode() < FRanks.size() && FRanks[c.unicode()] != kNoRank; }
   bool IsPlainOrEnd(QStringView text, qsizetype at) const { return at >= text.size() || IsPlain(text[at]); }
   int CompareCase(char16_t c1, char16_t c2) const;
 
@@ -57,7 +57,7 @@ class TLocaleOrder {
   bool FIsLowerFirst = true;
   QCollator FSensitive;
   QCollator FInsensitive;
-  /// The place of each ASCII character, NoRank for those that only the collator can judge.
+  /// The place of each ASCII character, kNoRank for those that only the collator can judge.
   std::array<quint8, 128> FRanks{};
 };
 
@@ -76,7 +76,7 @@ void TLocaleOrder::Refresh() {
   FSensitive = QCollator(locale);
   FInsensitive = QCollator(locale);
   FInsensitive.setCaseSensitivity(Qt::CaseInsensitive);
-  FRanks.fill(NoRank);
+  FRanks.fill(kNoRank);
   if (FIsOrdinal) {
     for (std::size_t c = 0; c < FRanks.size(); ++c)
       FRanks[c] = static_cast<quint8>(c >= 'A' && c <= 'Z' ? c + 0x20 : c);
@@ -86,8 +86,8 @@ void TLocaleOrder::Refresh() {
 }
 
 void TLocaleOrder::ReadAsciiRanks() {
-  std::vector<char16_t> order(LastAscii - FirstAscii + 1);
-  std::iota(order.begin(), order.end(), FirstAscii);
+  std::vector<char16_t> order(kLastAscii - kFirstAscii + 1);
+  std::iota(order.begin(), order.end(), kFirstAscii);
   const auto compare = [this](char16_t a, char16_t b) {
     return FInsensitive.compare(QStringView(&a, 1), QStringView(&b, 1));
   };

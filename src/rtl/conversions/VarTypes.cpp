@@ -10,7 +10,7 @@ struct TVarTypeName {
   QLatin1StringView Name;
 };
 
-constexpr std::array<TVarTypeName, 18> Names{{
+constexpr std::array<TVarTypeName, 18> kNames{{
     {varEmpty, QLatin1StringView("Empty")},
     {varNull, QLatin1StringView("Null")},
     {varSmallint, QLatin1StringView("Smallint")},
@@ -34,7 +34,7 @@ constexpr std::array<TVarTypeName, 18> Names{{
 }  // namespace
 
 QLatin1StringView VarTypeAsText(TVarType type) {
-  for (const TVarTypeName& entry : Names) {
+  for (const TVarTypeName& entry : kNames) {
     if (entry.Type == type) return entry.Name;
   }
   return QLatin1StringView("Unknown");

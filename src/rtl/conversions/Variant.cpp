@@ -7,7 +7,7 @@
 namespace kt {
 namespace {
 
-constexpr qint64 JulianOffset = 2415019;
+constexpr qint64 kJulianOffset = 2415019;
 
 TVarType TypeOfUserValue(QMetaType type) {
   if (type == QMetaType::fromType<Currency>()) return varCurrency;
@@ -49,7 +49,7 @@ QVariant Variant::ToQVariant() const {
     case varDate: {
       TTimeStamp stamp;
       if (!TryDateTimeToTimeStamp(ToDateTime(), stamp)) return QDateTime();
-      return QDateTime(QDate::fromJulianDay(JulianOffset + stamp.Day), QTime::fromMSecsSinceStartOfDay(stamp.MSec));
+      return QDateTime(QDate::fromJulianDay(kJulianOffset + stamp.Day), QTime::fromMSecsSinceStartOfDay(stamp.MSec));
     }
     default:
       return FValue;

@@ -12,7 +12,7 @@
 namespace kt {
 namespace {
 
-constexpr int SinglePrecision = 7;
+constexpr int kSinglePrecision = 7;
 
 TVarNumber Signed(qint64 value) {
   TVarNumber number;
@@ -101,7 +101,7 @@ float ToSingle(const Variant& v) {
 
 QString RealText(const Variant& v) {
   const QVariant& stored = v.Stored();
-  if (v.VarType() == varSingle) return FloatToStrF(stored.value<float>(), ffGeneral, SinglePrecision, 0);
+  if (v.VarType() == varSingle) return FloatToStrF(stored.value<float>(), ffGeneral, kSinglePrecision, 0);
   if (v.VarType() == varCurrency) return CurrToStr(stored.value<Currency>());
   return FloatToStr(stored.toDouble());
 }

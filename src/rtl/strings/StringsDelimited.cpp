@@ -10,8 +10,8 @@ namespace {
 
 using TFormat = TDelimitedTextReader::TFormat;
 
-constexpr QChar Comma = u',';
-constexpr QChar DoubleQuote = u'"';
+constexpr QChar kComma = u',';
+constexpr QChar kDoubleQuote = u'"';
 
 bool NeedsQuotes(const QString& line, const TFormat& format) {
   if (format.QuoteChar.isNull()) return false;
@@ -40,11 +40,11 @@ QString Joined(TStrings& strings, const TFormat& format) {
 
 }  // namespace
 
-QString TStrings::GetCommaText() { return Joined(*this, {Comma, DoubleQuote, GetStrictDelimiter()}); }
+QString TStrings::GetCommaText() { return Joined(*this, {kComma, kDoubleQuote, GetStrictDelimiter()}); }
 
 void TStrings::SetCommaText(const QString& text) {
-  SetDelimiter(Comma);
-  SetQuoteChar(DoubleQuote);
+  SetDelimiter(kComma);
+  SetQuoteChar(kDoubleQuote);
   SetDelimitedText(text);
 }
 

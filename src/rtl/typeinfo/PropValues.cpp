@@ -9,8 +9,8 @@
 namespace kt {
 namespace {
 
-constexpr TTypeKinds OrdKinds = {tkInteger, tkChar, tkWChar, tkEnumeration, tkSet};
-constexpr TTypeKinds StrKinds = {tkString, tkLString, tkWString};
+constexpr TTypeKinds kOrdKinds = {tkInteger, tkChar, tkWChar, tkEnumeration, tkSet};
+constexpr TTypeKinds kStrKinds = {tkString, tkLString, tkWString};
 
 void CheckKind(const TPropInfo* property, TTypeKinds kinds) {
   if (!kinds.Has(property->Kind())) throw EPropertyError(Format(SInvalidPropertyType, {property->PropType()->Name()}));
@@ -34,19 +34,19 @@ void Write(TObject* instance, const TPropInfo* property, TTypeKinds kinds, const
 
 qint64 GetOrdProp(TObject* instance, const TPropInfo* property) {
   if (property->Kind() == tkClass) return reinterpret_cast<qintptr>(GetObjectProp(instance, property));
-  return Read<qint64>(instance, property, OrdKinds);
+  return Read<qint64>(instance, property, kOrdKinds);
 }
 
 void SetOrdProp(TObject* instance, const TPropInfo* property, qint64 value) {
-  Write<qint64>(instance, property, OrdKinds, value);
+  Write<qint64>(instance, property, kOrdKinds, value);
 }
 
 qint64 GetInt64Prop(TObject* instance, const TPropInfo* property) {
-  return Read<qint64>(instance, property, OrdKinds + TTypeKinds{tkInt64});
+  return Read<qint64>(instance, property, kOrdKinds + TTypeKinds{tkInt64});
 }
 
 void SetInt64Prop(TObject* instance, const TPropInfo* property, qint64 value) {
-  Write<qint64>(instance, property, OrdKinds + TTypeKinds{tkInt64}, value);
+  Write<qint64>(instance, property, kOrdKinds + TTypeKinds{tkInt64}, value);
 }
 
 double GetFloatProp(TObject* instance, const TPropInfo* property) {
@@ -65,13 +65,15 @@ void SetExtendedProp(TObject* instance, const TPropInfo* property, long double v
   Write<long double>(instance, property, {tkFloat}, value);
 }
 
-QString GetStrProp(TObject* instance, const TPropInfo* property) { return Read<QString>(instance, property, StrKinds); }
+QString GetStrProp(TObject* instance, const TPropInfo* property) {
+  return Read<QString>(instance, property, kStrKinds);
+}
 
 void SetStrProp(TObject* instance, const TPropInfo* property, const QString& value) {
-  CheckKind(property, StrKinds);
+  CheckKind(property, kStrKinds);
   const TTypeInfo* type = property->PropType();
   const bool isShort = type->Kind() == tkString;
-  Write<QString>(instance, property, StrKinds,
+  Write<QString>(instance, property, kStrKinds,
                  isShort ? value.left(static_cast<const TShortStringTypeInfo*>(type)->MaxLength()) : value);
 }
 
