@@ -7,7 +7,11 @@
 #include <QSharedDataPointer>
 #include <QString>
 
+#include <memory>
+
 namespace kt {
+
+class TRealFont;
 
 /// What a font says, shared by all fonts that were copied from one another until one of them differs.
 struct TFontData : QSharedData {
@@ -20,6 +24,8 @@ struct TFontData : QSharedData {
   TFontPitch Pitch = fpDefault;
   TFontStyles Style;
   QString Name = QStringLiteral("MS Sans Serif");
+  /// What it is on the screen, found when something was drawn; it knows for itself whether it still fits.
+  mutable std::shared_ptr<TRealFont> Real;
 
   friend bool operator==(const TFontData& a, const TFontData& b);
 };

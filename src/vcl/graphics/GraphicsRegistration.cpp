@@ -1,8 +1,10 @@
 #include "kt/vcl/graphics/GraphicsRegistration.h"
 
 #include "kt/rtl/objects/ClassRegistry.h"
+#include "kt/vcl/graphics/Brush.h"
 #include "kt/vcl/graphics/Cursor.h"
 #include "kt/vcl/graphics/Font.h"
+#include "kt/vcl/graphics/Pen.h"
 
 namespace kt {
 
@@ -10,7 +12,7 @@ void RegisterGraphics() {
   RegisterColorNames();
   RegisterCursorNames();
   RegisterCharsetNames();
-  RegisterClass(TFont::Class());
+  RegisterClasses({TFont::Class(), TBrush::Class(), TPen::Class()});
 }
 
 }  // namespace kt
