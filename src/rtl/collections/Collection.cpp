@@ -96,7 +96,7 @@ void TCollection::Notify(TCollectionItem* item, TCollectionNotification action) 
   if (action == cnDeleting) Deleting(item);
 }
 
-void TCollection::SwapItems(int first, int second) { FItems.Exchange(first, second); }
+void TCollection::PermuteItems(const std::vector<int>& order) { FItems.Permute(order); }
 
 void TCollection::CheckClass(const TCollectionItem* item) const {
   if (!item->InheritsFrom(FItemClass)) throw EListError(SInvalidProperty.toString());

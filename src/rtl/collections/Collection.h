@@ -77,6 +77,7 @@ class TCollection : public TPersistent {
  public:
   using Inherited = TPersistent;
   using TCreatedIn = void;
+  using TItemSequence = TGapSequence<TCollectionItem>;
 
   static const TClassInfo* Class();
   const TClassInfo* ClassType() const override { return Class(); }
@@ -125,8 +126,13 @@ class TCollection : public TPersistent {
   virtual void SetItemName(TCollectionItem*) {}
   /// The name of the owner's published property that holds this collection; empty when there is none.
   QString GetPropName();
-  /// Exchanges the places of two items without any notification.
-  void SwapItems(int first, int second);
+  /// Brings the items into another order, without any notification: item i becomes what item order[i] was. `order` is
+  /// a permutation of all positions.
+  void PermuteItems(const std::vector<int>& order);
+  /// The items as they are kept, for descendants that keep sums over them.
+  const TItemSequence& Sequence() const { return FItems; }
+  /// Null for nobody. The collection does not own it.
+  void ObserveItems(TItemSequence::TObserver* observer) { FItems.Observe(observer); }
 
  private:
   void CheckClass(const TCollectionItem* item) const;

@@ -6,6 +6,7 @@
 #include <limits>
 #include <memory>
 #include <utility>
+#include <vector>
 
 namespace kt {
 
@@ -23,6 +24,19 @@ namespace kt {
 template <class T>
 class TGapSequence {
  public:
+  /// Keeps something about the slots, such as sums over them, in step with the sequence.
+  class TObserver {
+   public:
+    virtual ~TObserver() = default;
+    /// An element went from one slot to another; -1 stands for no slot: not in the sequence, or kept aside.
+    virtual void Moved(T* element, int from, int to) = 0;
+    /// Any element may have another slot now.
+    virtual void Rearranged() = 0;
+  };
+
+  /// Null for nobody. The sequence does not own it.
+  void Observe(TObserver* observer) { FObserver = observer; }
+
   int Count() const { return FCount + (FAside ? 1 : 0); }
 
   T* At(int index) const {
@@ -46,6 +60,7 @@ class TGapSequence {
       FAside = nullptr;
     } else {
       RemoveAt(IndexOf(element));
+      if (FObserver) FObserver->Moved(element, element->FSlot, -1);
     }
     element->FSlot = -1;
     if (Count() == 0) Release();
@@ -65,13 +80,27 @@ class TGapSequence {
     InsertAt(to, element);
   }
 
-  void Exchange(int first, int second) {
+  /// Brings the elements into another order: element i becomes what element order[i] was. `order` is a permutation of
+  /// all indices.
+  void Permute(const std::vector<int>& order) {
+    Q_ASSERT(static_cast<int>(order.size()) == Count());
     Settle();
-    T*& a = FSlots[SlotOf(first)];
-    T*& b = FSlots[SlotOf(second)];
-    std::swap(a, b);
-    std::swap(a->FSlot, b->FSlot);
+    MoveGap(FCount);
+    const std::unique_ptr<T*[]> previous = std::exchange(FSlots, std::make_unique_for_overwrite<T*[]>(FCapacity));
+    for (int index = 0; index < FCount; ++index) {
+      FSlots[index] = previous[order[index]];
+      FSlots[index]->FSlot = index;
+    }
+    if (FObserver) FObserver->Rearranged();
   }
+
+  /// The slots are 0..Capacity()-1, in the order of the elements.
+  int Capacity() const { return FCapacity; }
+  /// Null for a slot in the gap.
+  T* AtSlot(int slot) const { return slot >= FGapStart && slot < FGapStart + GapSize() ? nullptr : FSlots[slot]; }
+  /// -1 for an element kept aside, which comes after all slots.
+  int SlotOf(const T* element) const { return element->FSlot == AsideSlot ? -1 : element->FSlot; }
+  T* Aside() const { return FAside; }
 
   /// Makes room for `capacity` elements in all.
   void Reserve(int capacity) {
@@ -85,7 +114,7 @@ class TGapSequence {
   static constexpr int AsideSlot = std::numeric_limits<int>::max();
 
   int GapSize() const { return FCapacity - FCount; }
-  int SlotOf(int index) const { return index < FGapStart ? index : index + GapSize(); }
+  int SlotAt(int index) const { return index < FGapStart ? index : index + GapSize(); }
 
   void Settle() {
     if (!FAside) return;
@@ -122,26 +151,34 @@ class TGapSequence {
   }
 
   void Put(int slot, T* element) {
+    const int from = SlotOf(element);
     FSlots[slot] = element;
     element->FSlot = slot;
+    if (FObserver) FObserver->Moved(element, from, slot);
   }
 
   void Grow(int capacity) {
     std::unique_ptr<T*[]> previous = std::exchange(FSlots, std::make_unique_for_overwrite<T*[]>(capacity));
     std::copy_n(previous.get(), FGapStart, FSlots.get());
     const int shift = capacity - FCapacity;
-    for (int slot = FGapStart + GapSize(); slot < FCapacity; ++slot) Put(slot + shift, previous[slot]);
+    for (int slot = FGapStart + GapSize(); slot < FCapacity; ++slot) {
+      FSlots[slot + shift] = previous[slot];
+      FSlots[slot + shift]->FSlot = slot + shift;
+    }
     FCapacity = capacity;
+    if (FObserver) FObserver->Rearranged();
   }
 
   void Release() {
     FSlots.reset();
     FCapacity = 0;
     FGapStart = 0;
+    if (FObserver) FObserver->Rearranged();
   }
 
   std::unique_ptr<T*[]> FSlots;
   T* FAside = nullptr;
+  TObserver* FObserver = nullptr;
   int FCapacity = 0;
   /// Without the element kept aside.
   int FCount = 0;

@@ -1,0 +1,276 @@
+#pragma once
+
+#include "kt/KTItemListEditor/ItemListTypes.h"
+#include "kt/KTItemListEditor/ItemProp.h"
+#include "kt/KTItemListEditor/ItemProps.h"
+#include "kt/KTItemListEditor/ItemStrings.h"
+#include "kt/ktcommon/DeltaFont.h"
+#include "kt/rtl/conversions/Variant.h"
+#include "kt/vcl/grids/DrawGrid.h"
+
+namespace kt {
+
+/// Selectors of GetGridCount() and SetGridCount(): a line is an item, a field is its name or one of its values.
+enum TKTGridCount { gcFieldCount, gcCurrentField, gcFixedFields, gcLineCount, gcCurrentLine, gcFixedLines };
+
+/// A cell without regard to the orientation.
+struct TGridInfo {
+  int Field;
+  int Line;
+  int CurField;
+  int CurLine;
+  int FixedFields;
+  int FixedLines;
+  int FieldCount;
+  int LineCount;
+};
+
+/// A grid of named items with values: each item that shows is a line, field 0 is its name, field k its k-th value.
+///
+/// The tree of items is Items. Two lists follow from it: all items, parents before their children, and the rows, which
+/// leave out hidden items and what is below collapsed ones. Entries follow every change of the tree at once; rows do,
+/// too, except that they stand still while Items is in an update bracket. Both are counts rather than lists: finding an
+/// item or its place takes time in proportion to its level and to the logarithm of the number of its siblings,
+/// expanding and collapsing the same, however many rows come and go.
+///
+/// The model needs neither a display nor an application object.
+class TKTCustomItemListEditor : public TCustomDrawGrid {
+ public:
+  using Inherited = TCustomDrawGrid;
+
+  static const TClassInfo* Class();
+  const TClassInfo* ClassType() const override { return Class(); }
+  ~TKTCustomItemListEditor() override;
+
+  // Items.
+
+  TKTItemProps& GetItems() const { return *FItems; }
+  void SetItems(TKTItemProps& value) { FItems->Assign(&value); }
+  /// All items; null outside 0..GetItemCount()-1.
+  TKTItemProp* GetItem(int index) const;
+  int GetItemCount() const;
+  /// The rows; null outside 0..GetVisibleItemCount()-1.
+  TKTItemProp* GetVisibleItem(int index) const;
+  int GetVisibleItemCount() const;
+  /// The item under the cursor, or null.
+  TKTItemProp* GetSelected() const;
+  /// Expands the ancestors and moves the cursor to the item. Null hides the in-place editor.
+  void SetSelected(TKTItemProp* item);
+  /// Name and first value of a row; setting a row past the last adds an item.
+  QString GetPropNames(int index);
+  void SetPropNames(int index, const QString& value);
+  QString GetPropValues(int index);
+  void SetPropValues(int index, const QString& value);
+  TKTItemStrings& GetStrings() const { return *FStrings; }
+  void SetStrings(TStrings& value) { FStrings->Assign(&value); }
+
+  // Options.
+
+  TILEPropOptions GetPropertyOptions() const { return FPropertyOptions; }
+  /// propAdd brings propEdit with it, and goes with it.
+  void SetPropertyOptions(TILEPropOptions value);
+  TILEDisplayOptions GetDisplayOptions() const { return FDisplayOptions; }
+  TKTGridOrientation GetOrientation() const { return FOrientation; }
+  void SetOrientation(TKTGridOrientation value);
+  /// Between the names in a full path name.
+  const QString& GetPathDelimiter() const { return FPathDelimiter; }
+  void SetPathDelimiter(const QString& value) { FPathDelimiter = value; }
+  bool GetCaseSensitive() const { return FCaseSensitive; }
+  /// A list that is sorted already keeps its order.
+  void SetCaseSensitive(bool value);
+  bool IsSorted() const { return FItems->GetSorted(); }
+  void SetSorted(bool value) { FItems->SetSorted(value); }
+  /// Leaving a blank item deletes it.
+  bool GetDeleteBlanks() const { return FDeleteBlanks; }
+  void SetDeleteBlanks(bool value) { FDeleteBlanks = value; }
+  /// Records the wish to see items under categories: renamed items move. Switching it moves nothing.
+  bool GetArrangeByCategory() const { return FArrangeByCategory; }
+
+  // Fonts.
+
+  /// Of value fields without an item; items without a value font of their own inherit it.
+  TKTCustomDeltaFont& GetValueFont() const { return *FValueFont; }
+  void SetValueFont(TFont& value) { FValueFont->Assign(&value); }
+  TKTCustomDeltaFont& GetCategoryFont() const { return *FCategoryFont; }
+  void SetCategoryFont(TFont& value) { FCategoryFont->Assign(&value); }
+
+  // Titles.
+
+  TStringList& GetTitleCaptions() const { return *FTitleCaptions; }
+  void SetTitleCaptions(TStrings& value);
+  bool TitleCaptionsStored() const;
+
+  // Looking up.
+
+  /// Deliberately answers false even when it found the row: `index` tells, -1 for none.
+  bool FindItem(const QString& name, int& index);
+  /// The first line from `startIndex` on whose part before the first "=" is `name`, or -1. Lines without "=" have none.
+  int IndexOfName(TStrings& strings, int startIndex, const QString& name);
+  /// Whether the item under the cursor has neither name nor value.
+  bool IsEmptyItem() const;
+
+  // Changing.
+
+  /// Reuses the empty item under the cursor, or adds one at the top level: at the end, or before the cursor. Answers
+  /// its line.
+  int InsertItem(const QString& name, const QString& value, bool append);
+  /// Takes back what is typed, or removes the empty item under the cursor; false when there was neither.
+  bool RestoreCurrentItem();
+  /// Nothing is left to rebuild: entries follow the tree by themselves.
+  void RefreshAllItems() {}
+  /// Asks every item anew whether it has a row.
+  void RefreshVisibleItems();
+
+  // Counts without regard to the orientation.
+
+  int GetGridCount(int kind) const;
+  TGridInfo GetGridInfo(int col, int row) const;
+  bool IsValueCell(int col, int row) const { return (FOrientation == goVertical ? col : row) != 0; }
+  /// The number of value fields.
+  int GetValueCount() const { return GetGridCount(gcFieldCount) - 1; }
+  /// The value field under the cursor, counted from 1; 0 for the name.
+  int GetCurrentValueColumn() const { return GetGridCount(gcCurrentField); }
+  int GetCurrentValueIndex() const { return GetCurrentValueColumn() - 1; }
+  /// Whether the cursor is in a value field of that item.
+  bool IsSelectedValue(const TKTItemProp& item) const;
+  bool IsEditUpdateLocked() const { return FEditUpdateLock > 0; }
+
+  TKTGetCategoryEvent OnCategorize;
+  TKTOnValidateEvent OnValidate;
+  TKTOnValidateEvent OnValidated;
+  /// Without a handler the error goes on to the caller.
+  TKTOnValidateErrorEvent OnValidateError;
+
+ protected:
+  friend class TKTItemProp;
+  friend class TKTItemProps;
+
+  explicit TKTCustomItemListEditor(TComponent* owner = nullptr);
+
+  void Construct() override;
+  void Destruct() override;
+  void CMFontChanged(TMessage& message) override;
+
+  // What the items tell.
+
+  void ItemNotify(TKTItemProp* item, TCollectionNotification action);
+  void UpdatingItemProp(TKTItemProp* item);
+  /// Null for a structural change.
+  void UpdateItemProp(TKTItemProp* item);
+  void VisibleChanged(TKTItemProp* item);
+  void InvalidateItem(const TKTItemProp& item);
+  bool HasOpenInplaceEditor() const { return InplaceEditor() != nullptr; }
+
+  // What descendants can override, in its fixed order.
+
+  /// Both delete items, and do nothing while one of them is under way.
+  void DeleteColumn(int col) override;
+  void DeleteRow(int row) override;
+
+ public:
+  /// Without regard to case unless CaseSensitive. All matching of names goes through it.
+  virtual int CompareStrings(const QString& s1, const QString& s2);
+
+ protected:
+  virtual void AdjustGridCount();
+  /// Fills the category map of Items.
+  virtual void FillCategories() {}
+  virtual void DoValidate(TKTItemProp* item, int column);
+  virtual void DoValidated(TKTItemProp* item, int column);
+  virtual void DoValidateError(TKTItemProp* item, int column, const Exception& error);
+
+ public:
+  /// While locked, changes of items rebuild nothing and leave the in-place editor alone. Nests.
+  virtual void DisableEditUpdate();
+  virtual void EnableEditUpdate();
+  /// By an ordinal key the row of that number. By any other key the first row whose display name, Name=Value, equals
+  /// the key; with `create` raises ETORVException "Property not found: %s" when there is none. With `create` an ordinal
+  /// key outside the rows inserts an item at the top level. Null without rows.
+  virtual TKTItemProp* FindItemProp(const Variant& key, bool create);
+  /// The item under a cell, or null. `isGridPosition`: fixed lines count.
+  virtual TKTItemProp* FindItemProp(int col, int row, bool isGridPosition) const;
+  virtual QString GetCell(int col, int row);
+  virtual void SetCell(int col, int row, const QString& value);
+  virtual void SetArrangeByCategory(bool value) { FArrangeByCategory = value; }
+  virtual void SetDisplayOptions(TILEDisplayOptions value);
+  virtual void SetColumnTitles(bool value);
+  virtual void SetGridCount(int kind, int value);
+  virtual void FullCollapse();
+  virtual void FullExpand();
+  /// Moves an item under the category that the map has for its name; with `multipleCategories`, copies of it under each
+  /// category that the map has.
+  virtual void Categorize(TKTItemProp* item, TStrings& categoryMap, bool multipleCategories);
+  /// Each item of a collection.
+  virtual void Categorize(TKTItemProps& items, TStrings& categoryMap, bool multipleCategories);
+  /// Each top-level item that is no category. Always moves, never copies; the flag is deliberately not used.
+  virtual void Categorize(TStrings& categoryMap, bool multipleCategories);
+  /// By the map of Items.
+  virtual void Categorize(bool multipleCategories);
+  virtual void DeleteItem(int col, int row);
+  /// Brings the grid in step with the rows, unless locked.
+  virtual void Refresh();
+
+  /// The category for an item under a name, found or made; null when there is none for it. The item's parent while
+  /// loading.
+  TKTItemProp* Categorize(TKTItemProp* item, const QString& propName, TStrings& categoryMap);
+  /// The category of that name in a collection, found or made.
+  TKTItemProp* Categorize(TKTItemProps& items, const QString& categoryName);
+
+ protected:
+  /// Makes the collection for the editor or for an item: `owner`.
+  virtual std::unique_ptr<TKTItemProps> CreateItems(TPersistent* owner);
+  virtual void OrientationChange();
+  /// Font has changed.
+  virtual void FontChanged();
+  virtual void GetOriginalFont(TObject* sender, TFont*& font);
+
+ private:
+  bool IsUpdating() const { return FItems->GetUpdateCount() > 0; }
+  void ShowRows();
+  int WantedLineCount() const;
+  void GoToRow(int row);
+  template <class F>
+  void ChangeAll(F change);
+  void FreeItem(TKTItemProp* item);
+  TGridCoord CellOf(int row, int field) const;
+  std::unique_ptr<TKTCustomDeltaFont> MakeFont();
+  void ValueFontChanged(TObject*);
+  void CategoryFontChanged(TObject*);
+  void TitleCaptionsChange(TObject*);
+  TKTItemProps& LevelOf(const TKTItemProp& item) const;
+  void MoveTo(TKTItemProp& item, TKTItemProp* category);
+  void CopyTo(TKTItemProp& item, TKTItemProp* category);
+  void PlaceCopy(TKTItemProp& item, TKTItemProp& category);
+  void PlaceFurtherCopy(TKTItemProp& item, const QString& categoryName);
+
+  std::unique_ptr<TKTItemProps> FItems;
+  std::unique_ptr<TKTItemStrings> FStrings;
+  std::unique_ptr<TStringList> FTitleCaptions;
+  std::unique_ptr<TKTCustomDeltaFont> FValueFont;
+  std::unique_ptr<TKTCustomDeltaFont> FCategoryFont;
+  QString FPathDelimiter;
+  TILEPropOptions FPropertyOptions;
+  TILEDisplayOptions FDisplayOptions;
+  TKTGridOrientation FOrientation = goVertical;
+  int FEditUpdateLock = 0;
+  /// The number of rows when the lock was taken.
+  int FSavedVisibleCount = 0;
+  bool FDeleting = false;
+  bool FCaseSensitive = false;
+  bool FDeleteBlanks = false;
+  bool FArrangeByCategory = false;
+};
+
+/// The item list editor as applications place it on their forms: publishes what TKTCustomItemListEditor has.
+class TKTItemListEditor : public TKTCustomItemListEditor {
+ public:
+  using Inherited = TKTCustomItemListEditor;
+
+  static const TClassInfo* Class();
+  const TClassInfo* ClassType() const override { return Class(); }
+
+ protected:
+  explicit TKTItemListEditor(TComponent* owner = nullptr) : TKTCustomItemListEditor(owner) {}
+};
+
+}  // namespace kt

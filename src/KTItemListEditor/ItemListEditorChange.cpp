@@ -1,0 +1,84 @@
+#include "kt/KTItemListEditor/ItemListEditor.h"
+#include "kt/KTItemListEditor/ItemWatch.h"
+
+#include <QScopedValueRollback>
+
+namespace kt {
+
+int TKTCustomItemListEditor::InsertItem(const QString& name, const QString& value, bool append) {
+  const int line = GetGridCount(gcCurrentLine);
+  const int fixed = GetGridCount(gcFixedLines);
+  if (line <= GetVisibleItemCount() && IsEmptyItem()) {
+    SetPropNames(line - fixed, name);
+    SetPropValues(line - fixed, value);
+    return line;
+  }
+  // The number of the line counts rows; at the top level there may be fewer items.
+  TItemWatch item(append ? FItems->Add() : FItems->Insert(std::min(line - fixed, FItems->GetCount())));
+  const int result = append && item ? item->GetIndex() + fixed : line;
+  if (item) item->SetName(name);
+  if (item) item->SetValuesText(value);
+  return result;
+}
+
+void TKTCustomItemListEditor::DeleteRow(int row) {
+  if (FDeleting) return;
+  const QScopedValueRollback deleting(FDeleting, true);
+  if (GetRow() >= GetRowCount() - 1 && GetVisibleItemCount() > 1) SetRow(GetRow() - 1);
+  if (FOrientation == goVertical) FreeItem(GetVisibleItem(row - GetFixedRows()));
+}
+
+void TKTCustomItemListEditor::DeleteColumn(int col) {
+  if (FDeleting) return;
+  const QScopedValueRollback deleting(FDeleting, true);
+  if (GetCol() >= GetColCount() - 1 && GetVisibleItemCount() > 1) SetCol(GetCol() - 1);
+  // Deliberately a column's number taken for that of an item, and nothing at all where columns are items.
+  if (FOrientation == goVertical) FreeItem(GetVisibleItem(col - GetFixedCols()));
+}
+
+void TKTCustomItemListEditor::DeleteItem(int col, int row) {
+  if (FDeleting) return;
+  const QScopedValueRollback deleting(FDeleting, true);
+  const TGridInfo info = GetGridInfo(col, row);
+  if (info.CurLine >= info.LineCount - 1 && GetVisibleItemCount() > 1) SetGridCount(gcCurrentLine, info.CurLine - 1);
+  FreeItem(FindItemProp(col, row, true));
+}
+
+void TKTCustomItemListEditor::FreeItem(TKTItemProp* item) {
+  if (item) item->GetCollection()->Delete(item->GetIndex());
+}
+
+bool TKTCustomItemListEditor::RestoreCurrentItem() {
+  if (!IsEmptyItem()) return false;
+  DeleteItem(GetCol(), GetRow());
+  return true;
+}
+
+void TKTCustomItemListEditor::SetPropertyOptions(TILEPropOptions value) {
+  if (FPropertyOptions == value) return;
+  if (FPropertyOptions.Has(propEdit) && !value.Has(propEdit)) value.Exclude(propAdd);
+  if (!FPropertyOptions.Has(propAdd) && value.Has(propAdd)) value.Include(propEdit);
+  if (!value.Has(propEdit) && GetGridCount(gcCurrentField) == 0) SetGridCount(gcCurrentField, 1);
+  FPropertyOptions = value;
+  if (value.Has(propEdit) && HasState(csLoading)) SetGridCount(gcCurrentField, 0);
+}
+
+void TKTCustomItemListEditor::SetCaseSensitive(bool value) {
+  if (FCaseSensitive == value) return;
+  FCaseSensitive = value;
+  // Deliberately without effect on a sorted list: the new comparison counts for what comes later.
+  if (IsSorted()) FItems->Sort(false);
+}
+
+// Validation: the events of the editor, for items without a handler of their own.
+
+void TKTCustomItemListEditor::DoValidate(TKTItemProp* item, int column) { OnValidate(this, item, column); }
+
+void TKTCustomItemListEditor::DoValidated(TKTItemProp* item, int column) { OnValidated(this, item, column); }
+
+void TKTCustomItemListEditor::DoValidateError(TKTItemProp* item, int column, const Exception& error) {
+  if (!OnValidateError) throw;
+  OnValidateError(this, item, column, error);
+}
+
+}  // namespace kt

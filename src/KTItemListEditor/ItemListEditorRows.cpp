@@ -1,0 +1,127 @@
+#include "kt/KTItemListEditor/ItemListEditor.h"
+#include "kt/KTItemListEditor/ItemRows.h"
+#include "kt/KTItemListEditor/ItemSnapshot.h"
+#include "kt/KTItemListEditor/ItemWatch.h"
+#include "kt/rtl/collections/UpdateBracket.h"
+
+namespace kt {
+
+TKTItemProp* TKTCustomItemListEditor::GetItem(int index) const { return TItemRows::FindEntry(*FItems, index); }
+
+int TKTCustomItemListEditor::GetItemCount() const { return FItems ? FItems->GetSpan().Items : 0; }
+
+TKTItemProp* TKTCustomItemListEditor::GetVisibleItem(int index) const { return TItemRows::FindRow(*FItems, index); }
+
+int TKTCustomItemListEditor::GetVisibleItemCount() const { return FItems ? FItems->GetSpan().Rows : 0; }
+
+// What the items tell.
+
+void TKTCustomItemListEditor::ItemNotify(TKTItemProp* item, TCollectionNotification action) {
+  if (action == cnAdded) VisibleChanged(item);
+  if (action == cnExtracting) UpdatingItemProp(item);
+  Refresh();
+}
+
+void TKTCustomItemListEditor::UpdatingItemProp(TKTItemProp*) {
+  if (!IsEditUpdateLocked()) HideEditor();
+}
+
+void TKTCustomItemListEditor::UpdateItemProp(TKTItemProp* item) {
+  if (IsUpdating()) return;
+  if (!item && !IsEditUpdateLocked()) {
+    DisableEditUpdate();
+    ShowRows();
+    EnableEditUpdate();
+  } else if (!item) {
+    TItemRows::Recount(*FItems);
+  }
+  if (IsEditorMode() && !IsUpdating() && !IsEditUpdateLocked()) InvalidateEditor();
+}
+
+void TKTCustomItemListEditor::VisibleChanged(TKTItemProp*) {
+  if (HasState(csDestroying) || IsUpdating()) return;
+  const TItemWatch selected(GetSelected());
+  TItemRows::Recount(*FItems);
+  Refresh();
+  if (selected) GoToRow(selected->GetAbsoluteVIndex());
+}
+
+void TKTCustomItemListEditor::InvalidateItem(const TKTItemProp& item) {
+  const int row = item.GetAbsoluteVIndex();
+  if (row < 0) return;
+  if (FOrientation == goVertical) {
+    InvalidateRow(row + GetFixedRows());
+  } else {
+    InvalidateCol(row + GetFixedCols());
+  }
+}
+
+// Bringing the grid in step.
+
+void TKTCustomItemListEditor::ShowRows() {
+  HideEditor();
+  TItemRows::Recount(*FItems);
+  AdjustGridCount();
+  ShowEditor();
+}
+
+void TKTCustomItemListEditor::RefreshVisibleItems() {
+  TItemRows::MarkAllStale(*FItems);
+  ShowRows();
+}
+
+void TKTCustomItemListEditor::Refresh() {
+  if (IsEditUpdateLocked()) return;
+  AdjustGridCount();
+  Invalidate();
+  InvalidateEditor();
+}
+
+int TKTCustomItemListEditor::WantedLineCount() const {
+  // An empty grid keeps one blank line.
+  return GetGridCount(gcFixedLines) + std::max(GetVisibleItemCount(), 1);
+}
+
+void TKTCustomItemListEditor::AdjustGridCount() {
+  const int wanted = WantedLineCount();
+  if (wanted == GetGridCount(gcLineCount)) return;
+  if (wanted < GetGridCount(gcCurrentLine)) SetGridCount(gcCurrentLine, wanted - 1);
+  // Whoever heard of the new current line may have changed the rows.
+  SetGridCount(gcLineCount, WantedLineCount());
+  if (FDisplayOptions.Has(doColumnTitles) && GetGridCount(gcCurrentLine) == 0) SetGridCount(gcCurrentLine, 1);
+}
+
+void TKTCustomItemListEditor::DisableEditUpdate() {
+  if (FEditUpdateLock++ == 0) FSavedVisibleCount = GetVisibleItemCount();
+}
+
+void TKTCustomItemListEditor::EnableEditUpdate() {
+  Q_ASSERT(FEditUpdateLock > 0);
+  if (--FEditUpdateLock > 0) return;
+  // The second question is for rows that came and went while handlers ran.
+  if (GetVisibleItemCount() != FSavedVisibleCount || WantedLineCount() != GetGridCount(gcLineCount)) Refresh();
+}
+
+// Expansion of the whole tree.
+
+template <class F>
+void TKTCustomItemListEditor::ChangeAll(F change) {
+  {
+    const TUpdateBracket bracket(*FItems);
+    const TItemSnapshot snapshot(*FItems);
+    for (int i = 0; i < snapshot.Count(); ++i) {
+      if (snapshot[i]) change(*snapshot[i]);
+    }
+  }
+  ShowRows();
+}
+
+void TKTCustomItemListEditor::FullExpand() {
+  ChangeAll([](TKTItemProp& item) { item.FullExpand(); });
+}
+
+void TKTCustomItemListEditor::FullCollapse() {
+  ChangeAll([](TKTItemProp& item) { item.FullCollapse(); });
+}
+
+}  // namespace kt

@@ -1,0 +1,179 @@
+#include "kt/KTItemListEditor/ItemProp.h"
+
+#include "kt/KTItemListEditor/ItemListEditor.h"
+#include "kt/KTItemListEditor/ItemPropRare.h"
+#include "kt/KTItemListEditor/ItemPropValueStrings.h"
+#include "kt/KTItemListEditor/ItemProps.h"
+#include "kt/KTItemListEditor/ItemRows.h"
+#include "kt/KTItemListEditor/ItemWatch.h"
+#include "kt/rtl/conversions/Text.h"
+#include "kt/rtl/typeinfo/ClassBuilder.h"
+
+namespace kt {
+
+const TClassInfo* TKTItemProp::Class() {
+  using T = TKTItemProp;
+  static const TClassInfo info = TClassBuilder<T>("TKTItemProp")
+                                     .Property<&T::GetFont, &T::SetFont>("Font")
+                                     .Stored(&T::IsFontStored)
+                                     .Property<&T::GetValueFont, &T::SetValueFont>("ValueFont")
+                                     .Stored(&T::IsValueFontStored)
+                                     .Property<&T::GetParentFont, &T::SetParentFont>("ParentFont")
+                                     .Default(true)
+                                     .Property<&T::GetParentValueFont, &T::SetParentValueFont>("ParentValueFont")
+                                     .Default(true)
+                                     .Property<&T::GetCategory, &T::SetCategory>("Category")
+                                     .Default(false)
+                                     .Property<&T::GetDefaultCategory, &T::SetDefaultCategory>("DefaultCategory")
+                                     .Default(false)
+                                     .Property<&T::IsExpanded, &T::SetExpanded>("Expanded")
+                                     .Default(false)
+                                     .Property<&T::GetEnabled, &T::SetEnabled>("Enabled")
+                                     .Default(true)
+                                     .Property<&T::GetName, &T::SetName>("Name")
+                                     .Property<&T::GetValue, &T::SetValue>("Value")
+                                     .Property<&T::GetValues, &T::SetValues>("Values")
+                                     .Property<&T::GetHint, &T::SetHint>("Hint")
+                                     .Property<&T::IsReadOnly, &T::SetReadOnly>("ReadOnly")
+                                     .Default(false)
+                                     .Property<&T::GetVisible, &T::SetVisible>("Visible")
+                                     .Default(true)
+                                     .Property<&T::GetEditStyle, &T::SetEditStyle>("EditStyle")
+                                     .Default(esSimple)
+                                     .Property<&T::GetEditMask, &T::SetEditMask>("EditMask")
+                                     .Property<&T::GetOnEditButtonClick, &T::SetOnEditButtonClick>("OnEditButtonClick")
+                                     .Property<&T::GetOnGetPickList, &T::SetOnGetPickList>("OnGetPickList")
+                                     .Property<&T::GetOnValidate, &T::SetOnValidate>("OnValidate")
+                                     .Property<&T::GetOnValidated, &T::SetOnValidated>("OnValidated")
+                                     .Property<&T::GetOnValidateError, &T::SetOnValidateError>("OnValidateError")
+                                     .Property<&T::GetPickList, &T::SetPickList>("PickList")
+                                     .Stored(&T::HasPickList)
+                                     .Property<&T::GetExpressionMask, &T::SetExpressionMask>("ExpressionMask")
+                                     .Default(false)
+                                     .Property<&T::GetItems, &T::SetItems>("Items")
+                                     .Property<&T::GetTag, &T::SetTag>("Tag")
+                                     .Default(0)
+                                     .Creatable()
+                                     .Done();
+  return &info;
+}
+
+TKTItemProp::TKTItemProp(TCollection* collection) : TCollectionItem(collection) {}
+
+TKTItemProp::~TKTItemProp() = default;
+
+void TKTItemProp::Construct() {
+  if (const auto* items = static_cast<TKTItemProps*>(CollectionToEnter())) FSortsItems = items->GetSorted();
+  SetVisible(true);
+  // Last, so that whoever hears of the new item finds it complete.
+  TCollectionItem::Construct();
+}
+
+void TKTItemProp::Destruct() {
+  TItemWatcher::TellDeath(this);
+  FItems.reset();
+  TCollectionItem::Destruct();
+}
+
+TKTItemProp::TRare& TKTItemProp::Rare() {
+  if (!FRare) FRare = std::make_unique<TRare>();
+  return *FRare;
+}
+
+// Where the item stands.
+
+TKTItemProps* TKTItemProp::GetCollection() const {
+  return static_cast<TKTItemProps*>(TCollectionItem::GetCollection());
+}
+
+TKTItemProp* TKTItemProp::GetParent() const {
+  const TKTItemProps* items = GetCollection();
+  return items ? items->GetParent() : nullptr;
+}
+
+TKTCustomItemListEditor* TKTItemProp::GetEditor() const {
+  const TKTItemProps* items = GetCollection();
+  return items ? items->GetEditor() : nullptr;
+}
+
+int TKTItemProp::GetLevel() const {
+  int level = 0;
+  for (const TKTItemProp* parent = GetParent(); parent; parent = parent->GetParent()) ++level;
+  return level;
+}
+
+int TKTItemProp::GetAbsoluteIndex() const {
+  if (!GetEditor()) return -1;
+  const auto place = TItemRows::PlaceOf(*this);
+  return place ? place->Entry : -1;
+}
+
+int TKTItemProp::GetAbsoluteVIndex() const {
+  if (!GetEditor()) return -1;
+  const auto place = TItemRows::PlaceOf(*this);
+  return place ? place->Row.value_or(-1) : -1;
+}
+
+QString TKTItemProp::GetPathDelimiter() const {
+  const TKTCustomItemListEditor* editor = GetEditor();
+  return editor ? editor->GetPathDelimiter() : QStringLiteral(".");
+}
+
+QString TKTItemProp::GetFullPathName() {
+  TKTItemProp* parent = GetParent();
+  return parent ? parent->GetFullPathName() + GetPathDelimiter() + FName : FName;
+}
+
+QString TKTItemProp::GetDisplayName() { return FName + QLatin1Char('=') + TrimRight(GetValuesText()); }
+
+TItemSpan TKTItemProp::Span() const {
+  if (!FIsCounted) return {};
+  return {1 + (FItems ? FItems->FSpan.Items : 0), FRows};
+}
+
+// The child collection.
+
+TKTItemProps& TKTItemProp::EnsureItems() {
+  if (!FItems) {
+    TKTCustomItemListEditor* editor = GetEditor();
+    FItems = editor ? editor->CreateItems(this) : CreateItems();
+    FItems->StoreSorted(FSortsItems);
+  }
+  return *FItems;
+}
+
+std::unique_ptr<TKTItemProps> TKTItemProp::CreateItems() { return Make<TKTItemProps>(this, TKTItemProp::Class()); }
+
+TKTItemProps& TKTItemProp::GetItems() { return EnsureItems(); }
+
+void TKTItemProp::SetItems(TKTItemProps& value) { GetItems().Assign(&value); }
+
+bool TKTItemProp::HasItems() const { return FItems && FItems->GetCount() > 0; }
+
+bool TKTItemProp::IsExpandable() { return HasItems(); }
+
+// How changes travel up.
+
+void TKTItemProp::Changing() {
+  const TKTItemProps* items = GetCollection();
+  if (!items || items->GetUpdateCount() > 0) return;
+  TKTCustomItemListEditor* editor = items->GetEditor();
+  if (editor && !editor->IsEditUpdateLocked()) editor->UpdatingItemProp(this);
+}
+
+void TKTItemProp::UpdateItemProp(TKTItemProp* item) {
+  if (TKTItemProps* items = GetCollection()) items->Update(item);
+}
+
+void TKTItemProp::ItemNotify(TKTItemProp* item, TCollectionNotification action) {
+  if (TKTItemProps* items = GetCollection()) items->Notify(item, action);
+}
+
+void TKTItemProp::VisibleChanged() {
+  TKTItemProps* items = GetCollection();
+  if (!items) return;
+  TItemRows::MarkStale(*this);
+  items->VisibleChanged(this);
+}
+
+}  // namespace kt

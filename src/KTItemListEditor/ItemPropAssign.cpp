@@ -1,0 +1,77 @@
+#include "kt/KTItemListEditor/ItemPropRare.h"
+#include "kt/KTItemListEditor/ItemPropValueStrings.h"
+#include "kt/KTItemListEditor/ItemProps.h"
+#include "kt/KTItemListEditor/ItemWatch.h"
+
+namespace kt {
+
+void TKTItemProp::Assign(TPersistent* source) {
+  auto* other = dynamic_cast<TKTItemProp*>(source);
+  if (!other) return TCollectionItem::Assign(source);
+  if (other == this) return;
+  const TItemWatch self(this);
+  const TItemWatch from(other);
+  using TStep = void (TKTItemProp::*)(TKTItemProp&);
+  for (const TStep step : {&TKTItemProp::AssignFlags, &TKTItemProp::AssignRare, &TKTItemProp::AssignFonts,
+                           &TKTItemProp::AssignValues, &TKTItemProp::AssignItems}) {
+    (this->*step)(*from);
+    // Handlers of the changes may have freed either.
+    if (!self || !from) return;
+  }
+  Changed(false);
+}
+
+void TKTItemProp::AssignFlags(TKTItemProp& source) {
+  const TItemWatch self(this);
+  FCategory = source.FCategory;
+  SetDefaultCategory(source.FDefaultCategory);
+  if (!self) return;
+  FName = source.FName;
+  FReadOnly = source.IsReadOnly();
+  FEditStyle = source.FEditStyle;
+  FExpressionMask = source.FExpressionMask;
+  FExpanded = source.IsExpanded();
+}
+
+void TKTItemProp::AssignRare(TKTItemProp& source) {
+  if (!FRare && !source.FRare) return;
+  const TItemWatch self(this);
+  Rare().Hint = source.GetHint();
+  Rare().EditMask = source.GetEditMask();
+  Rare().ItemObject = source.GetItemObject();
+  Rare().Tag = source.GetTag();
+  if (!HasPickList() && !source.HasPickList()) return;
+  GetPickList().Assign(&source.GetPickList());
+}
+
+void TKTItemProp::AssignFonts(TKTItemProp& source) {
+  const TItemWatch self(this);
+  // A source without a font object inherits what it looks like, and so shall its copy.
+  if (source.FRare && source.FRare->Font) GetFont().Assign(source.FRare->Font.get());
+  if (!self) return;
+  FParentFont = source.FParentFont;
+  if (source.FRare && source.FRare->ValueFont) GetValueFont().Assign(source.FRare->ValueFont.get());
+  if (self) FParentValueFont = source.FParentValueFont;
+}
+
+void TKTItemProp::AssignValues(TKTItemProp& source) {
+  if (FValues || source.FValues) return SetValues(source.GetValues());
+  FSingleValue = source.FSingleValue;
+}
+
+void TKTItemProp::AssignItems(TKTItemProp& source) {
+  const TItemWatch self(this);
+  FVisible = source.GetVisible();
+  // Also for the flags that were copied without further ado: they can mean other rows.
+  VisibleChanged();
+  if (!self) return;
+  FSortsItems = source.FSortsItems;
+  if (source.FItems) {
+    SetItems(*source.FItems);
+  } else if (FItems) {
+    FItems->Clear();
+    if (self) FItems->StoreSorted(FSortsItems);
+  }
+}
+
+}  // namespace kt

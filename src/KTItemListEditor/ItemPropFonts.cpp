@@ -1,0 +1,122 @@
+#include "kt/KTItemListEditor/ItemListEditor.h"
+#include "kt/KTItemListEditor/ItemPropRare.h"
+#include "kt/KTItemListEditor/ItemProps.h"
+#include "kt/KTItemListEditor/ItemWatch.h"
+#include "kt/rtl/objects/Make.h"
+
+namespace kt {
+
+// An item without a font object of its own looks as the item or editor looks that it inherits from, which is what its
+// object would be a copy of.
+
+TFont* TKTItemProp::FontToInherit() {
+  for (TKTItemProp* parent = GetParent(); parent; parent = parent->GetParent()) {
+    // A category's font reaches categories only, and an item's passes by categories.
+    if (parent->FCategory == FCategory && parent->FRare && parent->FRare->Font) return parent->FRare->Font.get();
+  }
+  TKTCustomItemListEditor* editor = GetEditor();
+  if (!editor) return nullptr;
+  return FCategory ? &editor->GetCategoryFont() : &editor->GetFont();
+}
+
+TFont* TKTItemProp::ValueFontToInherit() {
+  for (TKTItemProp* parent = GetParent(); parent; parent = parent->GetParent()) {
+    if (parent->FRare && parent->FRare->ValueFont) return parent->FRare->ValueFont.get();
+  }
+  TKTCustomItemListEditor* editor = GetEditor();
+  return editor ? &editor->GetValueFont() : nullptr;
+}
+
+TFont& TKTItemProp::GetFont() {
+  if (!Rare().Font) {
+    auto font = Make<TFont>();
+    if (TFont* source = FParentFont ? FontToInherit() : nullptr) font->Assign(source);
+    font->OnChange = {this, &TKTItemProp::FontChanged};
+    Rare().Font = std::move(font);
+  }
+  return *Rare().Font;
+}
+
+TFont& TKTItemProp::GetValueFont() {
+  if (!Rare().ValueFont) {
+    auto font = Make<TFont>();
+    if (TFont* source = FParentValueFont ? ValueFontToInherit() : nullptr) font->Assign(source);
+    font->OnChange = {this, &TKTItemProp::FontChanged};
+    Rare().ValueFont = std::move(font);
+  }
+  return *Rare().ValueFont;
+}
+
+TFont& TKTItemProp::GetIndividualValueFont(int) { return GetValueFont(); }
+
+void TKTItemProp::SetFont(TFont& value) { GetFont().Assign(&value); }
+
+void TKTItemProp::SetValueFont(TFont& value) { GetValueFont().Assign(&value); }
+
+void TKTItemProp::FontChanged(TObject* sender) {
+  const TItemWatch self(this);
+  if (sender != FRare->Font.get()) {
+    FParentValueFont = false;
+    TellParentValueFontChanged();
+  } else {
+    FParentFont = false;
+    TellParentFontChanged(this);
+  }
+  if (self) InvalidateRow();
+  if (self) Changed(false);
+}
+
+void TKTItemProp::TellParentFontChanged(TKTItemProp* source) {
+  const TItemWatch self(this);
+  for (int i = 0; self && FItems && i < FItems->GetCount(); ++i) FItems->GetItem(i)->ParentFontChanged(source);
+}
+
+void TKTItemProp::TellParentValueFontChanged() {
+  const TItemWatch self(this);
+  for (int i = 0; self && FItems && i < FItems->GetCount(); ++i) FItems->GetItem(i)->ParentValueFontChanged();
+}
+
+void TKTItemProp::ParentFontChanged(TKTItemProp* source) {
+  if (!FParentFont || source == this) return;
+  if (source && source->FCategory != FCategory) return TellParentFontChanged(source);
+  TKTCustomItemListEditor* editor = source ? nullptr : GetEditor();
+  if (!source && !editor) return;
+  // Without a font object nothing changes here, but there may be one below.
+  if (!FRare || !FRare->Font) return TellParentFontChanged(this);
+  TFont& font = source ? source->GetFont() : FCategory ? editor->GetCategoryFont() : editor->GetFont();
+  const TItemWatch self(this);
+  FRare->Font->Assign(&font);
+  // The copy counted as a change of its own.
+  if (self) FParentFont = true;
+}
+
+void TKTItemProp::ParentValueFontChanged() {
+  if (!FParentValueFont) return;
+  TKTItemProp* parent = GetParent();
+  TKTCustomItemListEditor* editor = parent ? nullptr : GetEditor();
+  if (!parent && !editor) return;
+  if (!FRare || !FRare->ValueFont) return TellParentValueFontChanged();
+  const TItemWatch self(this);
+  FRare->ValueFont->Assign(parent ? &parent->GetValueFont() : &editor->GetValueFont());
+  if (self) FParentValueFont = true;
+}
+
+void TKTItemProp::SetParentFont(bool value) {
+  if (FParentFont == value) return;
+  FParentFont = value;
+  ParentFontChanged(this);
+}
+
+void TKTItemProp::SetParentValueFont(bool value) {
+  if (FParentValueFont == value) return;
+  FParentValueFont = value;
+  ParentValueFontChanged();
+}
+
+bool TKTItemProp::IsFontStored() const {
+  if (!FParentFont) return true;
+  const TKTItemProp* parent = GetParent();
+  return parent && parent->FCategory != FCategory;
+}
+
+}  // namespace kt

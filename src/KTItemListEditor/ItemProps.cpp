@@ -1,0 +1,166 @@
+#include "kt/KTItemListEditor/ItemProps.h"
+
+#include "kt/KTItemListEditor/ItemListEditor.h"
+#include "kt/KTItemListEditor/ItemRows.h"
+#include "kt/KTItemListEditor/ItemSums.h"
+#include "kt/KTItemListEditor/ItemWatch.h"
+#include "kt/KTItemListEditor/Messages.h"
+#include "kt/rtl/collections/UpdateBracket.h"
+#include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/conversions/Text.h"
+#include "kt/rtl/strings/StringList.h"
+#include "kt/rtl/typeinfo/ClassBuilder.h"
+
+namespace kt {
+
+const TClassInfo* TKTItemProps::Class() {
+  static const TClassInfo info =
+      TClassBuilder<TKTItemProps>("TKTItemProps")
+          .Property<&TKTItemProps::GetCategories, &TKTItemProps::SetCategories>("Categories")
+          .Property<&TKTItemProps::GetDefaultCategoryName, &TKTItemProps::SetDefaultCategoryName>("DefaultCategoryName")
+          .Done();
+  return &info;
+}
+
+TKTItemProps::TKTItemProps(TPersistent* owner, const TClassInfo* itemClass)
+    : TOwnedCollection(owner, itemClass),
+      FDefaultCategoryName(SDefaultCategoryName),
+      FOwnerItem(dynamic_cast<TKTItemProp*>(owner)),
+      FOwnerEditor(dynamic_cast<TKTCustomItemListEditor*>(owner)) {}
+
+TKTItemProps::~TKTItemProps() = default;
+
+void TKTItemProps::Destruct() {
+  TOwnedCollection::Destruct();
+  ObserveItems(nullptr);
+}
+
+TItemSums* TKTItemProps::Sums() {
+  if (FSums || GetCount() <= FewItems) return FSums.get();
+  FSums = std::make_unique<TItemSums>(Sequence());
+  ObserveItems(FSums.get());
+  return FSums.get();
+}
+
+TKTCustomItemListEditor* TKTItemProps::GetEditor() const {
+  const TKTItemProps* items = this;
+  while (items && items->FOwnerItem) items = items->FOwnerItem->GetCollection();
+  return items ? items->FOwnerEditor : nullptr;
+}
+
+QString TKTItemProps::GetPathDelimiter() const {
+  const TKTCustomItemListEditor* editor = GetEditor();
+  return editor ? editor->GetPathDelimiter() : QStringLiteral(".");
+}
+
+TStringList& TKTItemProps::GetCategories() {
+  if (!FCategories) {
+    FCategories = Make<TStringList>();
+    FCategories->SetSorted(FSorted);
+  }
+  return *FCategories;
+}
+
+void TKTItemProps::SetCategories(TStrings& value) { GetCategories().Assign(&value); }
+
+TKTItemProp* TKTItemProps::AddNewItem() { return static_cast<TKTItemProp*>(TOwnedCollection::Add()); }
+
+TKTItemProp* TKTItemProps::Add() {
+  Changing();
+  TItemWatch item(AddNewItem());
+  TOwnedCollection::Changed();
+  return item.Get();
+}
+
+TKTItemProp* TKTItemProps::Add(const QString& name, const QString& value) {
+  IsValid(name, true);
+  Changing();
+  TItemWatch item(AddNewItem());
+  item->SetName(name);
+  if (item) item->SetValuesText(value);
+  if (item) item->GetCollection()->Changed();
+  return item.Get();
+}
+
+TKTItemProp* TKTItemProps::Insert(int index) {
+  Changing();
+  TItemWatch item(static_cast<TKTItemProp*>(TOwnedCollection::Insert(index)));
+  TOwnedCollection::Changed();
+  return item.Get();
+}
+
+void TKTItemProps::Exchange(int index1, int index2) {
+  TKTItemProp* first = GetItem(index1);
+  TKTItemProp* second = GetItem(index2);
+  Changing();
+  first->SetIndex(index2);
+  second->SetIndex(index1);
+  TOwnedCollection::Changed();
+}
+
+bool TKTItemProps::RequiresUniqueNames() const {
+  const TKTCustomItemListEditor* editor = GetEditor();
+  return editor && editor->GetPropertyOptions().Has(propUnique);
+}
+
+bool TKTItemProps::IsValid(const QString& name, bool raiseOnConflict) {
+  if (name.isEmpty() || !RequiresUniqueNames() || IndexOf(name) < 0) return true;
+  if (raiseOnConflict) throw ETORVException(Format(SPropConflict, {name}));
+  return false;
+}
+
+void TKTItemProps::Assign(TPersistent* source) {
+  if (const auto* other = dynamic_cast<TKTItemProps*>(source); other && other != this) {
+    if (other->FCategories || FCategories) GetCategories().Assign(&const_cast<TKTItemProps*>(other)->GetCategories());
+    StoreSorted(other->FSorted);
+  }
+  TOwnedCollection::Assign(source);
+}
+
+// How changes travel up.
+
+void TKTItemProps::Changing() {
+  if (GetUpdateCount() > 0) return;
+  TKTCustomItemListEditor* editor = GetEditor();
+  if (editor && !editor->IsEditUpdateLocked()) editor->UpdatingItemProp(nullptr);
+}
+
+void TKTItemProps::BeginUpdate() {
+  Changing();
+  TOwnedCollection::BeginUpdate();
+}
+
+void TKTItemProps::Notify(TCollectionItem* item, TCollectionNotification action) {
+  auto* prop = static_cast<TKTItemProp*>(item);
+  const bool isOwn = prop->TCollectionItem::GetCollection() == this;
+  if (isOwn && action == cnAdded) TItemRows::Enter(*prop);
+  if (isOwn && action == cnExtracting) TItemRows::Leave(*prop);
+  if (action == cnAdded && FSorted) Sort(true);
+  if (action == cnExtracting && FDefaultCategory == prop) SetDefaultCategory(nullptr);
+  if (isOwn) TOwnedCollection::Notify(item, action);
+  TellOwner(prop, action);
+}
+
+void TKTItemProps::TellOwner(TKTItemProp* item, TCollectionNotification action) {
+  if (FOwnerItem) {
+    FOwnerItem->ItemNotify(item, action);
+  } else if (FOwnerEditor) {
+    FOwnerEditor->ItemNotify(item, action);
+  }
+}
+
+void TKTItemProps::Update(TCollectionItem* item) {
+  TOwnedCollection::Update(item);
+  auto* prop = static_cast<TKTItemProp*>(item);
+  if (FOwnerItem) return FOwnerItem->UpdateItemProp(prop);
+  if (GetUpdateCount() == 0) TItemRows::Recount(*this);
+  if (FOwnerEditor) FOwnerEditor->UpdateItemProp(prop);
+}
+
+void TKTItemProps::VisibleChanged(TKTItemProp* item) {
+  if (FOwnerItem) return FOwnerItem->VisibleChanged();
+  if (FOwnerEditor) return FOwnerEditor->VisibleChanged(item);
+  if (GetUpdateCount() == 0) TItemRows::Recount(*this);
+}
+
+}  // namespace kt

@@ -1,0 +1,77 @@
+#include "kt/KTItemListEditor/ItemListEditor.h"
+#include "kt/KTItemListEditor/ItemProps.h"
+#include "kt/KTItemListEditor/ItemWatch.h"
+#include "kt/KTItemListEditor/Messages.h"
+
+namespace kt {
+
+int TKTItemProps::IndexOfCategory(const QString& name) {
+  for (int i = 0; i < GetCount(); ++i) {
+    if (GetItem(i)->GetCategory() && CompareStrings(GetItem(i)->GetName(), name) == 0) return i;
+  }
+  return -1;
+}
+
+TKTItemProp* TKTItemProps::AddCategory(const QString& name, bool allowDuplicate) {
+  if (!allowDuplicate) {
+    if (const int index = IndexOfCategory(name); index >= 0) return GetItem(index);
+  }
+  Changing();
+  TItemWatch item(AddNewItem());
+  item->SetCategory(true);
+  if (item) item->SetReadOnly(true);
+  if (item) item->SetName(name);
+  if (item) item->GetCollection()->Changed();
+  return item.Get();
+}
+
+void TKTItemProps::RemoveCategory(const QString& name, bool deleteChildren) {
+  if (const int index = IndexOfCategory(name); index >= 0) DeleteCategory(index, deleteChildren);
+}
+
+void TKTItemProps::DeleteCategory(int index, bool deleteChildren) {
+  TItemWatch category(GetItem(index));
+  if (!category->GetCategory()) throw ETORVException(SDeleteCategoryError.toString());
+  while (!deleteChildren && category && category->HasItems()) {
+    category->GetItems().GetItem(0)->SetCollection(category->GetCollection());
+  }
+  if (category) category->GetCollection()->Delete(category->GetIndex());
+}
+
+void TKTItemProps::ClearCategories(bool deleteChildren) {
+  for (int index = 0; index < GetCount();) {
+    if (GetItem(index)->GetCategory()) {
+      DeleteCategory(index, deleteChildren);
+    } else {
+      ++index;
+    }
+  }
+}
+
+void TKTItemProps::SetDefaultCategory(TKTItemProp* item) {
+  if (FDefaultCategory == item) return;
+  TKTItemProp* previous = FDefaultCategory;
+  FDefaultCategory = item;
+  if (previous) previous->FDefaultCategory = false;
+  if (item) item->SetDefaultCategory(true);
+}
+
+void TKTItemProps::DefaultCategoryChanged(TKTItemProp* item) {
+  FDefaultCategory = item->GetDefaultCategory() ? item : nullptr;
+}
+
+void TKTItemProps::CreateDefaultCategory() {
+  if (FDefaultCategoryName.isEmpty()) return;
+  const int index = IndexOfCategory(FDefaultCategoryName);
+  TKTItemProp* category = index >= 0 ? GetItem(index) : AddCategory(FDefaultCategoryName, true);
+  if (category) SetDefaultCategory(category);
+}
+
+void TKTItemProps::SetDefaultCategoryName(const QString& value) {
+  if (FDefaultCategoryName == value) return;
+  FDefaultCategoryName = value;
+  const TKTCustomItemListEditor* editor = GetEditor();
+  if (editor && editor->GetArrangeByCategory()) CreateDefaultCategory();
+}
+
+}  // namespace kt

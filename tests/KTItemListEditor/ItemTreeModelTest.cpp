@@ -1,0 +1,262 @@
+#include "kt/KTItemListEditor/ItemWatch.h"
+#include "kt/rtl/strings/StringList.h"
+#include "support/ItemLists.h"
+
+#include <cstdlib>
+#include <optional>
+#include <random>
+#include <set>
+
+namespace kt::tests {
+namespace {
+
+/// A naive full walk: what the two lists of the editor have to be.
+struct TWalk {
+  std::vector<TKTItemProp*> Entries;
+  std::vector<TKTItemProp*> Rows;
+
+  explicit TWalk(TKTItemProps& items) { Visit(items, true); }
+
+  void Visit(TKTItemProps& items, bool isShown) {
+    for (int i = 0; i < items.GetCount(); ++i) {
+      TKTItemProp* item = items.GetItem(i);
+      Entries.push_back(item);
+      const bool hasRow = isShown && item->IsVisibleItem();
+      EXPECT_EQ(hasRow, item->IsVisible());
+      if (hasRow) Rows.push_back(item);
+      if (item->HasItems()) Visit(item->GetItems(), hasRow && item->IsExpanded());
+    }
+  }
+};
+
+int StepsToRun() {
+  const char* steps = std::getenv("KT_MODEL_STEPS");
+  return steps ? std::atoi(steps) : 100000;
+}
+
+/// Random operations on a tree, each followed by a comparison with the walk.
+class TItemTreeModel {
+ public:
+  explicit TItemTreeModel(unsigned seed) : FRandom(seed) {
+    FEditor->OnCategorize = [this](TObject*, TKTItemProp*, const QString&, QString&) { ActFromInside(); };
+    FEditor->OnSelectCell = [this](TObject*, int, int, bool&) { ActFromInside(); };
+  }
+
+  void Run(int steps) {
+    for (FStep = 0; FStep < steps; ++FStep) {
+      const int operation = Below(28);
+      try {
+        Apply(operation);
+      } catch (const ETORVException&) {
+        // A name that was not unique.
+      }
+      Check();
+      if (testing::Test::HasFailure()) {
+        ADD_FAILURE() << "at step " << FStep << " by operation " << operation;
+        return;
+      }
+    }
+    while (FEditor->GetItems().GetUpdateCount() > 0) FEditor->GetItems().EndUpdate();
+    FBrackets = 0;
+    Check();
+  }
+
+ private:
+  int Below(int end) { return static_cast<int>(FRandom() % static_cast<unsigned>(end)); }
+  TKTItemProps& Top() { return FEditor->GetItems(); }
+
+  /// Null only in an empty tree.
+  TKTItemProp* AnyItem() {
+    const int count = FEditor->GetItemCount();
+    return count == 0 ? nullptr : FEditor->GetItem(Below(count));
+  }
+  TKTItemProps& AnyLevel() {
+    TKTItemProp* item = Below(3) == 0 ? nullptr : AnyItem();
+    return item ? item->GetItems() : Top();
+  }
+  QString AnyName() { return QString(QChar('a' + Below(6))); }
+
+  void Apply(int operation) {
+    // Mostly around sixty items, so that some levels are long enough for sums.
+    if (FEditor->GetItemCount() > 60 + Below(200)) return delete AnyItem();
+    TKTItemProp* item = AnyItem();
+    if (operation < 5 || !item) return Add(operation);
+    switch (operation) {
+      case 5:
+        return delete item;
+      case 6:
+        return item->GetCollection()->Delete(item->GetIndex());
+      case 7:
+        return Move(*item);
+      case 8:
+        return item->SetIndex(Below(item->GetCollection()->GetCount()));
+      case 9:
+        return item->SetName(AnyName());
+      case 10:
+        return item->SetVisible(!item->GetVisible());
+      case 11:
+        return item->SetReadOnly(!item->IsReadOnly());
+      case 12:
+        return item->SetEnabled(!item->GetEnabled());
+      case 13:
+        return item->SetExpanded(!item->IsExpanded());
+      case 14:
+        return Below(2) ? item->FullExpand() : item->FullCollapse();
+      case 15:
+        return Below(2) ? FEditor->FullExpand() : FEditor->FullCollapse();
+      case 16:
+        return AnyLevel().SetSorted(Below(2) != 0);
+      case 17:
+        return item->SetCategory(!item->GetCategory());
+      case 18:
+        return FEditor->SetArrangeByCategory(Below(2) != 0);
+      case 19:
+        return Options();
+      case 20:
+        return Bracket();
+      case 21:
+        return Categorize(*item);
+      case 22:
+        return FEditor->SetSelected(item);
+      case 23:
+        return Below(6) == 0 ? AnyLevel().Clear() : item->SetValue(AnyName());
+      case 24:
+        return item->GetCollection()->Exchange(Below(item->GetCollection()->GetCount()), item->GetIndex());
+      case 25:
+        return AnyLevel().ClearCategories(Below(2) != 0);
+      case 26:
+        return Assign(*item);
+      default:
+        return static_cast<void>(FActsFromInside = Below(4) == 0 ? 3 : 0);
+    }
+  }
+
+  void Add(int operation) {
+    TKTItemProps& level = AnyLevel();
+    switch (operation) {
+      case 0:
+        return static_cast<void>(level.Add());
+      case 1:
+        return static_cast<void>(level.Insert(Below(level.GetCount() + 1)));
+      case 2:
+        return static_cast<void>(level.AddCategory(AnyName(), Below(2) != 0));
+      case 3:
+        return static_cast<void>(level.AddFullPath(AnyName() + "." + AnyName(), AnyName(), Below(2) != 0));
+      default:
+        return static_cast<void>(level.Add(AnyName(), AnyName()));
+    }
+  }
+
+  void Move(TKTItemProp& item) {
+    TKTItemProps& target = AnyLevel();
+    for (TKTItemProp* above = target.GetParent(); above; above = above->GetParent()) {
+      if (above == &item) return;
+    }
+    item.SetCollection(&target);
+  }
+
+  void Assign(TKTItemProp& item) {
+    TKTItemProp* source = AnyItem();
+    if (source->GetLevel() > 1 || FEditor->GetItemCount() > 100) return;
+    const std::unique_ptr<TKTItemProp> copy = Make<TKTItemProp>(nullptr);
+    copy->Assign(source);
+    item.Assign(copy.get());
+  }
+
+  void Options() {
+    FEditor->SetDisplayOptions(TILEDisplayOptions::FromBits(static_cast<quint32>(Below(16))));
+    FEditor->SetPropertyOptions(TILEPropOptions::FromBits(static_cast<quint32>(Below(3) == 0 ? 15 : 7)));
+  }
+
+  void Bracket() {
+    if (FBrackets > 0 && Below(3) > 0) {
+      --FBrackets;
+      Top().EndUpdate();
+    } else if (FBrackets < 3) {
+      ++FBrackets;
+      Top().BeginUpdate();
+    }
+  }
+
+  void Categorize(TKTItemProp& item) {
+    const std::unique_ptr<TStringList> map = Make<TStringList>();
+    map->SetCommaText("a=X,b=Y,a=Z");
+    if (FEditor->GetItemCount() > 100) return;
+    if (Below(2)) return FEditor->Categorize(&item, *map, Below(2) != 0);
+    FEditor->Categorize(*map, false);
+  }
+
+  /// What a handler does to the tree that it was called from.
+  void ActFromInside() {
+    if (FActsFromInside <= 0) return;
+    --FActsFromInside;
+    TKTItemProp* item = AnyItem();
+    if (!item) return;
+    switch (Below(4)) {
+      case 0:
+        return item->SetVisible(!item->GetVisible());
+      case 1:
+        return item->SetExpanded(!item->IsExpanded());
+      case 2:
+        return static_cast<void>(item->GetItems().Add());
+      default:
+        return item->SetReadOnly(!item->IsReadOnly());
+    }
+  }
+
+  void Check() {
+    const TWalk walk(Top());
+    CheckEntries(walk);
+    if (FBrackets == 0) {
+      CheckRows(walk.Rows);
+      EXPECT_EQ(std::max<size_t>(walk.Rows.size(), 1) + FEditor->GetGridCount(gcFixedLines),
+                static_cast<size_t>(FEditor->GetGridCount(gcLineCount)));
+    } else {
+      CheckStandingRows();
+    }
+  }
+
+  void CheckEntries(const TWalk& walk) {
+    ASSERT_EQ(walk.Entries.size(), static_cast<size_t>(FEditor->GetItemCount()));
+    for (size_t i = 0; i < walk.Entries.size(); ++i) {
+      ASSERT_EQ(walk.Entries[i], FEditor->GetItem(static_cast<int>(i)));
+      ASSERT_EQ(static_cast<int>(i), walk.Entries[i]->GetAbsoluteIndex());
+    }
+  }
+
+  void CheckRows(const std::vector<TKTItemProp*>& rows) {
+    ASSERT_EQ(rows.size(), static_cast<size_t>(FEditor->GetVisibleItemCount()));
+    for (size_t i = 0; i < rows.size(); ++i) {
+      ASSERT_EQ(rows[i], FEditor->GetVisibleItem(static_cast<int>(i)));
+      ASSERT_EQ(static_cast<int>(i), rows[i]->GetAbsoluteVIndex());
+    }
+  }
+
+  /// In a bracket the rows are what they were, less what has left; at least they agree with themselves.
+  void CheckStandingRows() {
+    std::set<TKTItemProp*> rows;
+    for (int i = 0; i < FEditor->GetVisibleItemCount(); ++i) {
+      TKTItemProp* item = FEditor->GetVisibleItem(i);
+      ASSERT_NE(nullptr, item);
+      ASSERT_TRUE(rows.insert(item).second);
+      ASSERT_EQ(i, item->GetAbsoluteVIndex());
+    }
+  }
+
+  std::unique_ptr<TKTItemListEditor> FEditor = Make<TKTItemListEditor>();
+  std::mt19937 FRandom;
+  int FStep = 0;
+  int FBrackets = 0;
+  int FActsFromInside = 0;
+};
+
+class ItemTreeModelTest : public testing::TestWithParam<unsigned> {};
+
+TEST_P(ItemTreeModelTest, TheListsAreThoseOfAFullWalkAfterEveryStep) {
+  TItemTreeModel(GetParam()).Run(StepsToRun() / 4);
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, ItemTreeModelTest, testing::Values(1u, 2u, 3u, 4u));
+
+}  // namespace
+}  // namespace kt::tests

@@ -1,0 +1,86 @@
+#include "support/ItemLists.h"
+
+#include <sstream>
+
+namespace kt::tests {
+
+namespace {
+
+void Append(std::ostream& text, TKTItemProps& items) {
+  for (int i = 0; i < items.GetCount(); ++i) {
+    TKTItemProp* item = items.GetItem(i);
+    text << (i > 0 ? " " : "") << item->GetName().toStdString();
+    if (!item->HasItems()) continue;
+    text << " [";
+    Append(text, item->GetItems());
+    text << ']';
+  }
+}
+
+void Fill(std::istream& text, TKTItemProps& items) {
+  TKTItemProp* last = nullptr;
+  for (std::string word; text >> word;) {
+    const bool opens = word.front() == '[';
+    if (opens) word.erase(0, 1);
+    size_t closes = 0;
+    while (word.back() == ']') {
+      word.pop_back();
+      ++closes;
+    }
+    // Back into the stream what belongs to the level below.
+    if (opens) {
+      std::string rest;
+      std::getline(text, rest, '\0');
+      int depth = 1;
+      std::string inside = word + std::string(closes, ']') + rest;
+      size_t end = 0;
+      for (; end < inside.size() && depth > 0; ++end) depth += inside[end] == '[' ? 1 : inside[end] == ']' ? -1 : 0;
+      std::istringstream below(inside.substr(0, end - 1));
+      Fill(below, last->GetItems());
+      std::istringstream after(inside.substr(end));
+      return Fill(after, items);
+    }
+    last = items.Add(QString::fromStdString(word), {});
+  }
+}
+
+}  // namespace
+
+std::string Tree(TKTItemProps& items) {
+  std::ostringstream text;
+  Append(text, items);
+  return text.str();
+}
+
+std::string Rows(const TKTCustomItemListEditor& editor) {
+  std::string text;
+  for (int row = 0; row < editor.GetVisibleItemCount(); ++row) {
+    TKTItemProp* item = editor.GetVisibleItem(row);
+    text += row > 0 ? " | " : "";
+    text += item == editor.GetSelected() ? ">" : "";
+    text += item->GetName().toStdString();
+  }
+  return text;
+}
+
+std::string Entries(const TKTCustomItemListEditor& editor) {
+  std::string text;
+  for (int i = 0; i < editor.GetItemCount(); ++i) {
+    text += i > 0 ? " " : "";
+    text += editor.GetItem(i)->GetName().toStdString();
+  }
+  return text;
+}
+
+void TItemListTest::Fill(const std::string& tree) {
+  std::istringstream text(tree);
+  tests::Fill(text, Items());
+}
+
+TKTItemProp& TItemListTest::Item(const QString& path) {
+  TKTItemProp* item = Items().FindItemByFullPathName(path);
+  if (!item) throw std::runtime_error("no item " + path.toStdString());
+  return *item;
+}
+
+}  // namespace kt::tests
