@@ -5,9 +5,11 @@
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/streams/Filer.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
+#include "kt/vcl/graphics/Canvas.h"
 
 #include <QBuffer>
 #include <QFile>
+#include <QPainter>
 #include <QSaveFile>
 
 namespace kt {
@@ -50,6 +52,12 @@ void TGraphic::SaveToFile(const QString& fileName) {
 bool TGraphic::Equals(TGraphic* other) {
   if (!other || other->ClassType() != ClassType() || other->IsEmpty() != IsEmpty()) return false;
   return other == this || IsEmpty() || WriteData() == other->WriteData();
+}
+
+void TGraphic::DrawImageOn(TCanvas& canvas, const QRect& rect, const QImage& image) {
+  QPainter& painter = canvas.Painter();
+  const bool isMirrored = painter.worldTransform().m11() < 0;
+  painter.drawImage(rect, isMirrored ? image.mirrored(true, false) : image);
 }
 
 void TGraphic::ReadData(const QByteArray& data) {

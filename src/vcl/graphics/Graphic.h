@@ -4,6 +4,7 @@
 #include "kt/rtl/typeinfo/Event.h"
 
 #include <QByteArray>
+#include <QImage>
 #include <QRect>
 #include <QString>
 
@@ -46,6 +47,8 @@ class TGraphic : public TPersistent {
 
   /// True when both are of one class and have one content.
   bool Equals(TGraphic* other);
+  /// The picture as pixels; null when it is empty or cannot be shown.
+  virtual QImage ToImage() const = 0;
   /// Draws the picture stretched to `rect`; TCanvas::Draw() calls it.
   virtual void DrawOn(TCanvas& canvas, const QRect& rect) = 0;
 
@@ -59,6 +62,10 @@ class TGraphic : public TPersistent {
   /// Notes the change and raises OnChange.
   virtual void Changed();
   void DefineProperties(TFiler& filer) override;
+  /// Takes over from `source` whether the background shows through, without telling it.
+  void CopyTransparency(const TGraphic& source) { FTransparent = source.FTransparent; }
+  /// Draws pixels stretched to `rect`; on a mirrored canvas they change sides and are not mirrored themselves.
+  static void DrawImageOn(TCanvas& canvas, const QRect& rect, const QImage& image);
 
  private:
   bool FTransparent = false;
