@@ -3,6 +3,7 @@
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/conversions/Text.h"
 #include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/objects/OwnedComponents.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
@@ -96,7 +97,10 @@ void TComponent::InsertComponent(TComponent* component) {
   EnsureOwned().Add(component, component->FName);
   component->FOwner = this;
   if (HasState(csDesigning)) component->SetDesigning(true);
+  const TLifeWatch watch(component);
   Notification(component, opInsert);
+  // A component that is being constructed must not go on when it, perhaps with its owner, is gone.
+  if (!watch.IsAlive()) throw EComponentError(SObjectFreed.toString());
 }
 
 void TComponent::RemoveComponent(TComponent* component) {
@@ -167,8 +171,11 @@ void TComponent::Notification(TComponent* component, TOperation operation) {
   if (operation == opRemove && component) RemoveFreeNotification(component);
   // Downwards, and cut to what is left each time: a notified component may free others.
   if (!FOwned) return;
+  const TLifeWatch self(this);
   for (int i = FOwned->ListenerCount() - 1; i >= 0; i = std::min(i - 1, FOwned->ListenerCount() - 1)) {
     FOwned->Listener(i)->Notification(component, operation);
+    // An override that called must not go on either.
+    if (!self.IsAlive()) throw EComponentError(SObjectFreed.toString());
   }
 }
 

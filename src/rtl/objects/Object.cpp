@@ -1,5 +1,8 @@
 #include "kt/rtl/objects/Object.h"
 
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/LifeWatch.h"
+#include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 
@@ -21,19 +24,22 @@ bool TObject::ClassNameIs(QStringView name) const { return ClassType()->ClassNam
 void TObject::operator delete(TObject* self, std::destroying_delete_t) noexcept { TObjectLife::End(self); }
 
 void TObjectLife::Begin(TObject* object) {
+  const TLifeWatch watch(object);
   try {
     object->Construct();
-    object->AfterConstruction();
+    if (watch.IsAlive()) object->AfterConstruction();
   } catch (...) {
-    Abandon(object);
+    if (watch.IsAlive()) Abandon(object);
     throw;
   }
+  if (!watch.IsAlive()) throw EInvalidOperation(SObjectFreed.toString());
 }
 
 void TObjectLife::Abandon(TObject* object) noexcept {
   GuardedCall([object] { object->Destruct(); });
   // The start of the memory, which is not where TObject lies when another base class comes first.
   void* memory = dynamic_cast<void*>(object);
+  TLifeWatch::Forget(object);
   object->~TObject();
   ::operator delete(memory);
 }

@@ -1,0 +1,25 @@
+#pragma once
+
+namespace kt {
+
+class TObject;
+
+/// Tells, after a call that may free anything, whether an object is still there. Lives on the stack, in the thread that
+/// uses the object; costs two stores, and one comparison for each object destroyed meanwhile.
+class TLifeWatch {
+ public:
+  explicit TLifeWatch(const TObject* object);
+  ~TLifeWatch();
+  TLifeWatch(const TLifeWatch&) = delete;
+  TLifeWatch& operator=(const TLifeWatch&) = delete;
+  bool IsAlive() const { return FObject != nullptr; }
+
+  /// Tells all watches of this thread that the memory of an object is about to go.
+  static void Forget(const TObject* object) noexcept;
+
+ private:
+  const TObject* FObject;
+  TLifeWatch* FOuter;
+};
+
+}  // namespace kt
