@@ -172,6 +172,9 @@ class TControl : public TComponent {
   virtual const QString& GetText() const { return FText; }
   /// Compares, stores and sends CM_TEXTCHANGED.
   virtual void SetText(const QString& value);
+  void StoreText(const QString& value) { FText = value; }
+  /// Sets Visible without telling anybody; CM_VISIBLECHANGED has to follow.
+  void SetVisibleFlag(bool value) { FVisible = value; }
 
   virtual void Click();
   virtual void DblClick() { OnDblClick(this); }

@@ -18,6 +18,11 @@ struct TRunning {
   ~TRunning() { --Running; }
 };
 
+bool TakesTab(const QWidget* widget) {
+  return (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && !widget->focusProxy() && !widget->isWindow() &&
+         widget->isVisible() && widget->isEnabled();
+}
+
 }  // namespace
 
 TControlBody::~TControlBody() {
@@ -111,15 +116,17 @@ bool TControlBody::Translate(QEvent* event) {
   }
 }
 
-bool TControlBody::LeaveFocusOwner(const std::function<bool()>& move) {
+bool TControlBody::MoveFocusPastOwner(bool next) {
   TWinControl* const owner = FControl ? FControl->FocusOwner() : nullptr;
-  QWidget* const window = owner && owner != FControl ? owner->Window() : nullptr;
-  if (!window) return move();
-  const Qt::FocusPolicy policy = window->focusPolicy();
-  window->setFocusPolicy(Qt::NoFocus);
-  const bool result = move();
-  window->setFocusPolicy(policy);
-  return result;
+  QWidget* const start = owner && owner != FControl ? owner->Window() : nullptr;
+  if (!start) return false;
+  const auto following = [next](QWidget* w) { return next ? w->nextInFocusChain() : w->previousInFocusChain(); };
+  for (QWidget* w = following(start); w && w != start; w = following(w)) {
+    if (start->isAncestorOf(w) || !TakesTab(w)) continue;
+    w->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+  }
+  return true;
 }
 
 bool TControlBody::Paint(QEvent* event) {

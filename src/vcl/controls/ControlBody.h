@@ -34,6 +34,9 @@ class TControlBody {
   /// The control of a widget of ours, or null.
   static TWinControl* ControlOf(const QObject* widget);
 
+  /// Whether a key sends characters; keys that move or delete do not, whatever text they have.
+  static bool TypesText(const QKeyEvent& event);
+
   TWinControl* Control() const { return FControl; }
   /// The control lets go: the widget disappears, at once or when nothing of it is on the stack any more.
   void Retire();
@@ -48,8 +51,8 @@ class TControlBody {
  protected:
   /// What QObject::event() of the widget does. `inherited` is the event() of the widget's base class.
   bool HandleEvent(QEvent* event, const TInherited& inherited);
-  /// Moves the focus by `move`, past the control that this one works for.
-  bool LeaveFocusOwner(const std::function<bool()>& move);
+  /// Moves the focus from the place of the control that this one works for; false when it works for itself.
+  bool MoveFocusPastOwner(bool next);
 
  private:
   bool Translate(QEvent* event);
@@ -85,9 +88,7 @@ class TBodyOf final : public W, public TControlBody {
   }
 
  protected:
-  bool focusNextPrevChild(bool next) override {
-    return LeaveFocusOwner([this, next] { return W::focusNextPrevChild(next); });
-  }
+  bool focusNextPrevChild(bool next) override { return MoveFocusPastOwner(next) || W::focusNextPrevChild(next); }
 };
 
 }  // namespace kt

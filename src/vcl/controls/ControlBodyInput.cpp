@@ -83,6 +83,11 @@ void TControlBody::Move(QMouseEvent* event) {
   SendMouse(WM_MOUSEMOVE, event);
 }
 
+bool TControlBody::TypesText(const QKeyEvent& event) {
+  const int key = event.key();
+  return !event.text().isEmpty() && key != Qt::Key_Delete && !(key >= Qt::Key_Home && key <= Qt::Key_PageDown);
+}
+
 bool TControlBody::PressKey(QKeyEvent* event) {
   if (event == Passing) return PassOn(event, FWidget), true;
   const quint16 key = VirtualKeyOf(*event);
@@ -103,7 +108,7 @@ bool TControlBody::Key(QKeyEvent* event) {
   event->accept();
   const qintptr shift = ShiftStateOf(event->modifiers(), QApplication::mouseButtons()).Bits();
   bool isTaken = FControl->SendKey(msg, VirtualKeyOf(*event), shift);
-  if (isDown) {
+  if (isDown && TypesText(*event)) {
     const QString text = event->text();
     for (QChar character : text) {
       if (FControl && FControl->SendKey(isSystem ? WM_SYSCHAR : WM_CHAR, character.unicode(), shift)) isTaken = true;
@@ -129,8 +134,8 @@ bool TControlBody::Input(QInputMethodEvent* event) { return FControl->InputText(
 
 void TControlBody::Focus(QFocusEvent* event) {
   if (event->gotFocus()) {
-    FControl->Perform(WM_SETFOCUS);
-    if (FControl) TFocus::Moved(FControl->FocusOwner());
+    TFocus::Moved(FControl->FocusOwner());
+    if (FControl && FWidget->hasFocus()) FControl->Perform(WM_SETFOCUS);
     return;
   }
   QWidget* const next = QApplication::focusWidget();

@@ -9,7 +9,7 @@ namespace kt {
 namespace {
 
 /// The anchors that a control gets together with an alignment.
-constexpr std::array<TAnchors, 7> AnchorAlign = {
+constexpr std::array<TAnchors, 7> kAnchorAlign = {
     TAnchors{akLeft, akTop},                     // alNone
     TAnchors{akLeft, akTop, akRight},            // alTop
     TAnchors{akLeft, akRight, akBottom},         // alBottom
@@ -79,7 +79,7 @@ void TControl::SetAlign(TAlign value) {
   if (FAlign == value) return;
   const TAlign previous = FAlign;
   FAlign = value;
-  if (!HasState(csLoading) && FAnchors == AnchorAlign[previous]) FAnchors = AnchorAlign[value];
+  if (!HasState(csLoading) && FAnchors == kAnchorAlign[previous]) FAnchors = kAnchorAlign[value];
   RememberAnchorBase();
   RequestAlign();
 }
@@ -90,7 +90,7 @@ void TControl::SetAnchors(TAnchors value) {
   RememberAnchorBase();
 }
 
-bool TControl::IsAnchorsStored() const { return FAnchors != AnchorAlign[FAlign]; }
+bool TControl::IsAnchorsStored() const { return FAnchors != kAnchorAlign[FAlign]; }
 
 void TControl::RequestAlign() {
   if (FParent) FParent->AlignControl(this);

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "kt/vcl/controls/WinControl.h"
+#include "kt/vcl/graphics/Canvas.h"
+
+#include <memory>
 
 namespace kt {
 
@@ -12,11 +15,22 @@ class TCustomControl : public TWinControl {
   static const TClassInfo* Class();
   const TClassInfo* ClassType() const override { return Class(); }
 
+  /// For drawing in Paint(), and for measuring texts at any time.
+  TCanvas& GetCanvas() { return *FCanvas; }
+
  protected:
   explicit TCustomControl(TComponent* owner = nullptr) : TWinControl(owner) {}
 
-  /// Draws the client area.
+  void Construct() override;
+  void PaintWindow(const QRect& clip) override;
+
+  /// Draws the client area on the canvas, whose clip is what is needed of it.
   virtual void Paint() {}
+  /// Draws what surrounds the client area.
+  virtual void PaintBorder(QPainter&) {}
+
+ private:
+  std::unique_ptr<TCanvas> FCanvas;
 };
 
 }  // namespace kt

@@ -10,6 +10,8 @@ namespace {
 
 struct TFocusState {
   TWinControl* Current = nullptr;
+  /// Where the focus is on its way to.
+  TWinControl* Target = nullptr;
   /// Who is still to be told; controls that die meanwhile are taken out.
   std::vector<TWinControl*> Pending;
 };
@@ -45,15 +47,21 @@ TWinControl* TFocus::Current() { return State().Current; }
 void TFocus::Moved(TWinControl* control) {
   TWinControl* const previous = State().Current;
   if (previous == control) return;
-  State().Current = control;
+  // Whoever leaves counts as focused while it is told, so that it can stay.
+  State().Target = control;
   if (previous) Tell(AncestorsUpTo(previous, control), CM_EXIT);
-  if (!control || State().Current != control) return;
-  std::vector<TWinControl*> entered = AncestorsUpTo(control, State().Current == previous ? nullptr : previous);
+  if (State().Current != previous && State().Current) return;
+  const bool isPreviousAlive = State().Current == previous;
+  control = State().Target;
+  State().Current = control;
+  if (!control) return;
+  std::vector<TWinControl*> entered = AncestorsUpTo(control, isPreviousAlive ? previous : nullptr);
   Tell({entered.rbegin(), entered.rend()}, CM_ENTER);
 }
 
 void TFocus::Forget(TWinControl* control) {
   if (State().Current == control) State().Current = nullptr;
+  if (State().Target == control) State().Target = nullptr;
   for (TWinControl*& pending : State().Pending) {
     if (pending == control) pending = nullptr;
   }

@@ -16,7 +16,7 @@ struct TKeyPair {
   quint16 Code;
 };
 
-constexpr TKeyPair Keys[] = {
+constexpr TKeyPair kKeys[] = {
     {Qt::Key_Backspace, VK_BACK},
     {Qt::Key_Tab, VK_TAB},
     {Qt::Key_Backtab, VK_TAB},
@@ -47,7 +47,7 @@ constexpr TKeyPair Keys[] = {
     {Qt::Key_ScrollLock, VK_SCROLL},
 };
 
-constexpr TKeyPair KeypadKeys[] = {
+constexpr TKeyPair kKeypadKeys[] = {
     {Qt::Key_Asterisk, VK_MULTIPLY}, {Qt::Key_Plus, VK_ADD},     {Qt::Key_Minus, VK_SUBTRACT},
     {Qt::Key_Period, VK_DECIMAL},    {Qt::Key_Slash, VK_DIVIDE},
 };
@@ -64,12 +64,12 @@ quint16 Find(const TKeyPair (&keys)[N], int key) {
 quint16 VirtualKeyOf(const QKeyEvent& event) {
   const int key = event.key();
   if (event.modifiers().testFlag(Qt::KeypadModifier)) {
-    if (const quint16 code = Find(KeypadKeys, key)) return code;
+    if (const quint16 code = Find(kKeypadKeys, key)) return code;
   }
   if ((key >= Qt::Key_0 && key <= Qt::Key_9) || (key >= Qt::Key_A && key <= Qt::Key_Z))
     return static_cast<quint16>(key);
   if (key >= Qt::Key_F1 && key <= Qt::Key_F24) return static_cast<quint16>(VK_F1 + (key - Qt::Key_F1));
-  return Find(Keys, key);
+  return Find(kKeys, key);
 }
 
 TShiftState ShiftStateOf(Qt::KeyboardModifiers modifiers, Qt::MouseButtons buttons) {

@@ -117,6 +117,8 @@ class TWinControl : public TControl {
   /// The top left of the client area in the window.
   QPoint GetClientOrigin() const;
   QWidget* Window() const { return FWindow; }
+  /// Shows a pointer other than Cursor for the time being.
+  void ShowCursor(TCursor cursor);
 
   // Keys and focus.
   virtual void KeyDown(quint16& key, TShiftState shift) { OnKeyDown(this, key, shift); }

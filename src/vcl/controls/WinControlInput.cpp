@@ -1,6 +1,7 @@
 // Keys, focus and the wheel of TWinControl.
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/vcl/controls/ControlBody.h"
+#include "kt/vcl/controls/CursorShapes.h"
 #include "kt/vcl/controls/Focus.h"
 #include "kt/vcl/controls/KeyCodes.h"
 #include "kt/vcl/controls/VirtualKeys.h"
@@ -133,6 +134,15 @@ void TWinControl::SetFocus() {
   GetHandle()->setFocus();
 }
 
-void TWinControl::CMCursorChanged(TMessage&) {}
+void TWinControl::CMCursorChanged(TMessage&) { ShowCursor(GetCursor()); }
+
+void TWinControl::ShowCursor(TCursor cursor) {
+  if (!HandleAllocated()) return;
+  if (cursor == crDefault) {
+    FWindow->unsetCursor();
+  } else {
+    FWindow->setCursor(CursorShapeOf(cursor));
+  }
+}
 
 }  // namespace kt
