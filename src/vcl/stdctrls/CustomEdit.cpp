@@ -1,0 +1,182 @@
+#include "kt/vcl/stdctrls/CustomEdit.h"
+
+#include "kt/rtl/objects/UnhandledExceptions.h"
+#include "kt/rtl/typeinfo/ClassBuilder.h"
+#include "kt/vcl/controls/ControlBody.h"
+#include "kt/vcl/controls/VirtualKeys.h"
+#include "kt/vcl/graphics/QtColor.h"
+#include "kt/vcl/graphics/RealFont.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include <algorithm>
+
+namespace kt {
+
+namespace {
+
+/// What Qt's line editor takes for "any number".
+constexpr int kAnyLength = 32767;
+/// The room that it always leaves around its text, besides its margins.
+constexpr int kInnerX = 2;
+constexpr int kInnerY = 1;
+
+int WindowLength(int maxLength) { return maxLength > 0 ? maxLength : kAnyLength; }
+
+}  // namespace
+
+const TClassInfo* TCustomEdit::Class() {
+  static const TClassInfo info = TClassBuilder<TCustomEdit>("TCustomEdit").Done();
+  return &info;
+}
+
+void TCustomEdit::Construct() {
+  TWinControl::Construct();
+  SetParentColor(false);
+  SetTabStop(true);
+  SetBounds(0, 0, 121, 25);
+}
+
+QWidget* TCustomEdit::CreateBody(QWidget* parent) {
+  auto* line = new TBodyOf<QLineEdit>(this, parent);
+  FLineEdit = line;
+  QObject::connect(line, &QLineEdit::textEdited, line,
+                   [this](const QString& text) { GuardedCall([&] { WindowTextChanged(text, true); }); });
+  QObject::connect(line, &QLineEdit::textChanged, line, [this](const QString& text) {
+    if (!FIsSettingText) GuardedCall([&] { WindowTextChanged(text, false); });
+  });
+  return line;
+}
+
+void TCustomEdit::CreateWnd() {
+  TWinControl::CreateWnd();
+  FLineEdit->setFrame(FBorderStyle == bsSingle);
+  FLineEdit->setMaxLength(WindowLength(FMaxLength));
+  FLineEdit->setReadOnly(FReadOnly);
+  FLineEdit->setContextMenuPolicy(Qt::DefaultContextMenu);
+  if (IsTabStop()) FLineEdit->setFocusPolicy(Qt::StrongFocus);
+  SetTextSilently(GetText());
+  FLineEdit->setModified(FModified);
+  SetSelStart(FSelStart);
+  SetSelLength(FSelLength);
+  UpdateColors();
+}
+
+void TCustomEdit::DestroyWnd() {
+  FSelStart = GetSelStart();
+  FSelLength = GetSelLength();
+  FLineEdit = nullptr;
+  TWinControl::DestroyWnd();
+}
+
+void TCustomEdit::UpdateColors() {
+  if (!FLineEdit || !HandleAllocated()) return;
+  FLineEdit->setFont(QtFont(GetFont()));
+  QPalette palette = FLineEdit->parentWidget() ? FLineEdit->parentWidget()->palette() : QPalette();
+  palette.setColor(QPalette::Base, QtColor(GetColor(), palette));
+  palette.setColor(QPalette::Text, QtColor(GetFont().GetColor(), palette));
+  FLineEdit->setPalette(palette);
+}
+
+void TCustomEdit::CMFontChanged(TMessage& message) {
+  TWinControl::CMFontChanged(message);
+  UpdateColors();
+}
+
+void TCustomEdit::CMColorChanged(TMessage& message) {
+  TWinControl::CMColorChanged(message);
+  UpdateColors();
+}
+
+void TCustomEdit::CMTextChanged(TMessage& message) {
+  TWinControl::CMTextChanged(message);
+  Change();
+}
+
+void TCustomEdit::SetText(const QString& value) {
+  if (GetText() == value) return;
+  SetTextSilently(value);
+  Perform(CM_TEXTCHANGED);
+}
+
+void TCustomEdit::SetTextSilently(const QString& value) {
+  StoreText(value);
+  FModified = false;
+  FSelStart = std::min<int>(FSelStart, static_cast<int>(value.size()));
+  FSelLength = 0;
+  if (!FLineEdit) return;
+  const bool outer = std::exchange(FIsSettingText, true);
+  FLineEdit->setText(value);
+  FIsSettingText = outer;
+}
+
+void TCustomEdit::WindowTextChanged(const QString& text, bool byUser) {
+  if (byUser) FModified = true;
+  // The editor says both that its text was changed, and that its user did it.
+  if (GetText() == text) return;
+  FModified = FModified || FLineEdit->isModified();
+  StoreText(text);
+  Perform(CM_TEXTCHANGED);
+}
+
+void TCustomEdit::SetModified(bool value) {
+  FModified = value;
+  if (FLineEdit) FLineEdit->setModified(value);
+}
+
+void TCustomEdit::SetReadOnly(bool value) {
+  FReadOnly = value;
+  if (FLineEdit && FLineEdit->isReadOnly() != value) FLineEdit->setReadOnly(value);
+}
+
+void TCustomEdit::SetMaxLength(int value) {
+  FMaxLength = std::max(value, 0);
+  if (FLineEdit) FLineEdit->setMaxLength(WindowLength(FMaxLength));
+}
+
+void TCustomEdit::SetBorderStyle(TBorderStyle value) {
+  FBorderStyle = value;
+  if (FLineEdit) FLineEdit->setFrame(value == bsSingle);
+}
+
+void TCustomEdit::SetFormatRect(const QRect& rect) {
+  if (!FLineEdit) return;
+  FLineEdit->setAlignment(Qt::AlignTop | (UseRightToLeftAlignment() ? Qt::AlignRight : Qt::AlignLeft));
+  FLineEdit->setTextMargins(rect.left() - kInnerX, rect.top() - kInnerY,
+                            GetWidth() - rect.left() - rect.width() - kInnerX, 0);
+}
+
+bool TCustomEdit::WantsKey(quint16 key) { return (key >= VK_LEFT && key <= VK_DOWN) || TWinControl::WantsKey(key); }
+
+void TCustomEdit::DefaultHandler(TMessage& message) {
+  TWinControl::DefaultHandler(message);
+  if (message.Msg == WM_SETTEXT) {
+    const bool isModified = FModified;
+    SetTextSilently(*MessagePointer<const QString>(message.LParam));
+    return SetModified(isModified);
+  }
+  const bool isCharacter = message.Msg == WM_CHAR;
+  if (!FLineEdit || (!isCharacter && message.Msg != WM_KEYDOWN && message.Msg != WM_SYSKEYDOWN)) return;
+  auto* body = TControlBody::Of(FLineEdit);
+  const QEvent* event = body->CurrentEvent();
+  const bool isKey = event && event->type() == QEvent::KeyPress;
+  const QString text = isKey ? static_cast<const QKeyEvent*>(event)->text() : QString();
+  // Keys that type do it with their character, which a handler may have changed.
+  if (!isCharacter && isKey && !TControlBody::TypesText(*static_cast<const QKeyEvent*>(event))) body->RunInherited();
+  if (!isCharacter) return;
+  const QChar character(static_cast<char16_t>(message.WParam));
+  if (isKey && text.contains(character)) {
+    body->RunInherited();
+  } else {
+    TypeCharacter(character);
+  }
+}
+
+void TCustomEdit::TypeCharacter(QChar character) {
+  if (FReadOnly) return;
+  if (character == u'\b') return FLineEdit->backspace();
+  if (character.isPrint() || character.isSurrogate()) FLineEdit->insert(QString(character));
+}
+
+}  // namespace kt

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "kt/vcl/controls/WinControl.h"
+
+class QLineEdit;
+
+namespace kt {
+
+/// A line of text that can be edited. Its window is Qt's line editor, which brings clipboard, undo and input methods.
+class TCustomEdit : public TWinControl {
+ public:
+  using Inherited = TWinControl;
+
+  static const TClassInfo* Class();
+  const TClassInfo* ClassType() const override { return Class(); }
+
+  const QString& GetText() const override { return TWinControl::GetText(); }
+  void SetText(const QString& value) override;
+  /// Whether the user has changed the text since it was set.
+  bool IsModified() const { return FModified; }
+  void SetModified(bool value);
+  bool IsReadOnly() const { return FReadOnly; }
+  void SetReadOnly(bool value);
+  /// The most characters; 0 for any number.
+  int GetMaxLength() const { return FMaxLength; }
+  void SetMaxLength(int value);
+  TBorderStyle GetBorderStyle() const { return FBorderStyle; }
+  void SetBorderStyle(TBorderStyle value);
+
+  // Selection, in characters from 0; positions outside the text are cut to it.
+  int GetSelStart() const;
+  /// Moves the caret and selects nothing.
+  void SetSelStart(int value);
+  int GetSelLength() const;
+  void SetSelLength(int value);
+  QString GetSelText() const;
+  /// Replaces the selection, and counts as the user's change.
+  void SetSelText(const QString& value);
+  void SelectAll();
+  /// Selects from one position to the other, the caret at the second.
+  void Select(int anchor, int caret);
+  /// The character before which the caret stands.
+  int GetCaretPos() const;
+
+  void Clear() { SetText({}); }
+  void ClearSelection() { SetSelText({}); }
+  bool CanUndo() const;
+  void Undo();
+
+  void DefaultHandler(TMessage& message) override;
+
+  /// After each change of the text, the user's and the program's.
+  TNotifyEvent OnChange;
+
+ protected:
+  explicit TCustomEdit(TComponent* owner = nullptr) : TWinControl(owner) {}
+
+  void Construct() override;
+  QWidget* CreateBody(QWidget* parent) override;
+  void CreateWnd() override;
+  void DestroyWnd() override;
+  bool InputText(const QString&) override { return false; }
+  void CMTextChanged(TMessage& message) override;
+  void CMFontChanged(TMessage& message) override;
+  void CMColorChanged(TMessage& message) override;
+  bool WantsKey(quint16 key) override;
+
+  /// Raises OnChange.
+  virtual void Change() { OnChange(this); }
+  /// The room for the text inside the window; the part beside it is free for a descendant to paint on.
+  void SetFormatRect(const QRect& rect);
+  /// Sets the text without telling anybody.
+  void SetTextSilently(const QString& value);
+  /// Null without a window.
+  QLineEdit* LineEdit() const { return FLineEdit; }
+
+ private:
+  void WindowTextChanged(const QString& text, bool byUser);
+  void UpdateColors();
+  void TypeCharacter(QChar character);
+
+  QLineEdit* FLineEdit = nullptr;
+  int FSelStart = 0;
+  int FSelLength = 0;
+  int FMaxLength = 0;
+  TBorderStyle FBorderStyle = bsSingle;
+  bool FModified = false;
+  bool FReadOnly = false;
+  bool FIsSettingText = false;
+};
+
+}  // namespace kt

@@ -1,0 +1,72 @@
+// Selection and undo of TCustomEdit.
+#include "kt/vcl/stdctrls/CustomEdit.h"
+
+#include <QLineEdit>
+
+#include <algorithm>
+
+namespace kt {
+
+int TCustomEdit::GetSelStart() const {
+  if (!FLineEdit) return FSelStart;
+  return FLineEdit->hasSelectedText() ? FLineEdit->selectionStart() : FLineEdit->cursorPosition();
+}
+
+void TCustomEdit::SetSelStart(int value) {
+  FSelStart = std::clamp<int>(value, 0, static_cast<int>(GetText().size()));
+  FSelLength = 0;
+  if (FLineEdit) FLineEdit->setCursorPosition(FSelStart);
+}
+
+int TCustomEdit::GetSelLength() const { return FLineEdit ? FLineEdit->selectionLength() : FSelLength; }
+
+void TCustomEdit::SetSelLength(int value) {
+  const int start = GetSelStart();
+  Select(start, start + value);
+}
+
+void TCustomEdit::Select(int anchor, int caret) {
+  const int length = static_cast<int>(GetText().size());
+  anchor = std::clamp(anchor, 0, length);
+  caret = std::clamp(caret, 0, length);
+  FSelStart = std::min(anchor, caret);
+  FSelLength = std::abs(caret - anchor);
+  if (!FLineEdit) return;
+  if (anchor == caret) {
+    FLineEdit->setCursorPosition(caret);
+  } else {
+    FLineEdit->setSelection(anchor, caret - anchor);
+  }
+}
+
+QString TCustomEdit::GetSelText() const { return GetText().mid(GetSelStart(), GetSelLength()); }
+
+void TCustomEdit::SetSelText(const QString& value) {
+  if (FLineEdit) {
+    // Typed, so that it can be undone.
+    FLineEdit->insert(value);
+    return;
+  }
+  QString text = GetText();
+  text.replace(FSelStart, FSelLength, value);
+  const int caret = FSelStart + static_cast<int>(value.size());
+  SetText(text);
+  FModified = true;
+  SetSelStart(caret);
+}
+
+void TCustomEdit::SelectAll() {
+  if (FLineEdit) return FLineEdit->selectAll();
+  FSelStart = 0;
+  FSelLength = static_cast<int>(GetText().size());
+}
+
+int TCustomEdit::GetCaretPos() const { return FLineEdit ? FLineEdit->cursorPosition() : FSelStart + FSelLength; }
+
+bool TCustomEdit::CanUndo() const { return FLineEdit && FLineEdit->isUndoAvailable(); }
+
+void TCustomEdit::Undo() {
+  if (FLineEdit) FLineEdit->undo();
+}
+
+}  // namespace kt
