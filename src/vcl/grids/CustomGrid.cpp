@@ -1,6 +1,10 @@
 #include "kt/vcl/grids/CustomGrid.h"
 
 #include "kt/rtl/typeinfo/ClassBuilder.h"
+#include "kt/vcl/grids/GridScrollBar.h"
+#include "kt/vcl/grids/InplaceEdit.h"
+
+#include <QTimer>
 
 namespace kt {
 
@@ -38,6 +42,8 @@ void TCustomGrid::SetOptions(TGridOptions value) {
   if (value.Has(goRowSelect)) value.Exclude(goAlwaysShowEditor);
   if (FOptions == value) return;
   FOptions = value;
+  UpdateTracking();
+  ScrollBarsNeedUpdate();
   if (!FEditorMode) {
     if (value.Has(goAlwaysShowEditor)) {
       ShowEditor();
@@ -66,6 +72,61 @@ void TCustomGrid::SetBorderStyle(TBorderStyle value) {
   FBorderStyle = value;
   ScrollBarsNeedUpdate();
   InvalidateGrid();
+}
+
+void TCustomGrid::DestroyWnd() {
+  FHorzBar = nullptr;
+  FVertBar = nullptr;
+  FScrollTimer.reset();
+  FGridState = gsNormal;
+  TCustomControl::DestroyWnd();
+}
+
+void TCustomGrid::DoExit() {
+  TCustomControl::DoExit();
+  if (!FOptions.Has(goAlwaysShowEditor)) HideEditor();
+}
+
+void TCustomGrid::WMSetFocus(TMessage& message) {
+  TCustomControl::WMSetFocus(message);
+  InvalidateCells(GetSelection());
+  UpdateEdit();
+  if (FInplaceEdit && FInplaceEdit->Visible()) FInplaceEdit->SetFocus();
+}
+
+void TCustomGrid::WMKillFocus(TMessage& message) {
+  TCustomControl::WMKillFocus(message);
+  InvalidateCells(GetSelection());
+}
+
+void TCustomGrid::CMShowingChanged(TMessage& message) {
+  TCustomControl::CMShowingChanged(message);
+  if (!IsShowing()) return;
+  ScrollBarsNeedUpdate();
+  UpdateEdit();
+}
+
+void TCustomGrid::CMBiDiModeChanged(TMessage& message) {
+  TCustomControl::CMBiDiModeChanged(message);
+  ScrollBarsNeedUpdate();
+  MoveEditor();
+}
+
+void TCustomGrid::CMCancelMode(TMessage& message) {
+  TCustomControl::CMCancelMode(message);
+  if (FInplaceEdit) FInplaceEdit->WndProc(message);
+  CancelMouse();
+}
+
+void TCustomGrid::WMCancelMode(TMessage& message) {
+  TCustomControl::WMCancelMode(message);
+  CancelMouse();
+}
+
+bool TCustomGrid::InputText(const QString& text) {
+  // What an input method composes goes where it is typed.
+  if (FOptions.Has(goEditing) && !FInplaceEdit) ShowEditor();
+  return TCustomControl::InputText(text);
 }
 
 void TCustomGrid::SizeChanged(int, int) {}

@@ -4,11 +4,16 @@
 #include "kt/vcl/grids/GridAxis.h"
 #include "kt/vcl/grids/GridTypes.h"
 
+#include <QPoint>
+#include <QPointer>
+
 #include <memory>
+
+class QTimer;
 
 namespace kt {
 
-class TGridWindow;
+class TGridScrollBar;
 class TInplaceEdit;
 
 /// A control of cells in columns and rows, of which the first ones may be fixed: it scrolls the others, moves a current
@@ -102,14 +107,37 @@ class TCustomGrid : public TCustomControl {
   QRect CellRect(int col, int row) const;
 
  protected:
-  friend class TGridWindow;
   friend class TInplaceEdit;
 
   explicit TCustomGrid(TComponent* owner = nullptr);
   ~TCustomGrid() override;
 
   void Construct() override;
+  void Notification(TComponent* component, TOperation operation) override;
+  void Dispatch(TMessage& message) override;
+  void DefaultHandler(TMessage& message) override;
   QMargins GetClientMargins() const override;
+  void Resize() override;
+  void CreateWnd() override;
+  void DestroyWnd() override;
+  void Paint() override;
+  void PaintBorder(QPainter& painter) override;
+  void DoExit() override;
+  void KeyDown(quint16& key, TShiftState shift) override;
+  void KeyPress(QChar& key) override;
+  void MouseDown(TMouseButton button, TShiftState shift, int x, int y) override;
+  void MouseMove(TShiftState shift, int x, int y) override;
+  void MouseUp(TMouseButton button, TShiftState shift, int x, int y) override;
+  bool DoMouseWheel(TShiftState shift, int delta, bool isHorizontal, QPoint position) override;
+  bool WantsKey(quint16 key) override;
+  bool InputText(const QString& text) override;
+  void CMBiDiModeChanged(TMessage& message) override;
+  void CMCancelMode(TMessage& message) override;
+  void CMShowingChanged(TMessage& message) override;
+  void CMWantSpecialKey(TMessage& message) override;
+  void WMCancelMode(TMessage& message) override;
+  void WMKillFocus(TMessage& message) override;
+  void WMSetFocus(TMessage& message) override;
 
   // Overridable operations in the framework's order.
   virtual TInplaceEdit* CreateEditor();
@@ -167,6 +195,10 @@ class TCustomGrid : public TCustomControl {
   /// The test of CalcSizingState() in one direction; true when `position` is on an edge.
   bool CalcAxisSizing(const TGridAxisDrawInfo& info, int position, bool isMirrored, int& index, int& sizingPos,
                       int& sizingOfs) const;
+  /// The selection's other end moves to `cell`.
+  void MoveAnchor(TGridCoord cell);
+  /// What the mouse is doing.
+  TGridState GetGridState() const { return FGridState; }
   /// Whether the grid has the focus, itself or by its editor.
   bool IsActiveControl() const;
   /// The sum of all column widths, without lines. Takes time for the columns of unusual width only.
@@ -175,21 +207,67 @@ class TCustomGrid : public TCustomControl {
   TGridOptions FDesignOptionsBoost = {goColSizing, goRowSizing};
 
  private:
+  class TPainting;
+  struct TKeyMove;
+  /// What is being sized or moved: the column or row, the place it has come to, and how far from there it was pressed.
+  struct TMouseWork {
+    int Index = -1;
+    int Position = 0;
+    int Offset = 0;
+  };
+
+  // Counts, sizes, selection.
   void Initialize();
   void ChangeSize(int newColCount, int newRowCount);
   void KeepCurrentInside();
   void SetSize(TGridAxis& axis, int index, int value);
-  void MoveTopLeft(int leftCol, int topRow);
   void SelectionMoved(const TGridRect& oldSelection);
   void CheckIndex(const TGridAxis& axis, int index) const;
   int LineWidth(TGridOption fixedLine, TGridOption line) const;
   void InvalidateCells(const TGridRect& cells);
   QRect CellsRect(const TGridDrawInfo& info, const TGridRect& cells) const;
+
+  // The editor.
   void UpdateEdit();
   void UpdateEditor();
+  void UpdateText();
   void HideEdit();
   void MoveEditor();
+  bool IsUnderEditor(int col, int row) const;
+
+  // Scrolling.
+  void MoveTopLeft(int leftCol, int topRow);
+  void ScrollCells(const TGridDrawInfo& before, int oldLeft, int oldTop);
+  void ScrolledTo(int leftCol, int topRow);
+  void UpdateTracking();
   void ScrollBarsNeedUpdate();
+  void ShowScrollBars();
+  void PlaceScrollBars();
+  bool HasScrollBar(TScrollStyle style) const;
+  static bool IsScrollBarShown(const TGridScrollBar* bar);
+  static bool NeedsScrolling(const TGridAxis& axis, int lineWidth, int extent);
+
+  // Keys.
+  bool MoveByKey(quint16 key, TShiftState shift, TKeyMove& move);
+  bool MoveByCtrlKey(quint16 key, TKeyMove& move, const TGridDrawInfo& info);
+  void MoveByTab(bool isBack, TGridCoord& cell) const;
+
+  // The mouse.
+  void PressCell(TShiftState shift, int x, int y);
+  void PressInnerCell(TShiftState shift, TGridCoord hit);
+  void BeginMoving(TGridState state, int index);
+  void DragEdge(int x, int y);
+  void DragTo(int x, int y);
+  void EndSizing(TGridState state);
+  void CancelMouse();
+  void UpdateCursorAt(int x, int y);
+  void StartScrollTimer();
+  void ScrollByTimer();
+  TGridCoord NearestCell(int x, int y) const;
+  int FromStart(int x) const;
+  QRect MouseLineRect() const;
+  void InvalidateMouseLine();
+  void PaintMouseLine();
 
   TGridAxis FCols{5, 1, 64};
   TGridAxis FRows{5, 1, 24};
@@ -207,6 +285,18 @@ class TCustomGrid : public TCustomControl {
   TInplaceEdit* FInplaceEdit = nullptr;
   /// The cell that the editor edits; {-1, -1} for none.
   TGridCoord FInplaceCell{-1, -1};
+
+  QPointer<TGridScrollBar> FHorzBar;
+  QPointer<TGridScrollBar> FVertBar;
+  int FBarWidth = 0;
+  bool FIsUpdatingBars = false;
+  QPoint FWheelRest;
+
+  TGridState FGridState = gsNormal;
+  TMouseWork FMouse;
+  QPoint FMousePoint;
+  std::unique_ptr<QTimer> FScrollTimer;
+  bool FIsKeyUsed = false;
 };
 
 }  // namespace kt

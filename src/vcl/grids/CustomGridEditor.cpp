@@ -1,8 +1,12 @@
 // What TCustomGrid has to do with its in-place editor.
+#include "kt/rtl/objects/Make.h"
 #include "kt/vcl/controls/Focus.h"
 #include "kt/vcl/grids/CustomGrid.h"
+#include "kt/vcl/grids/InplaceEdit.h"
 
 namespace kt {
+
+TInplaceEdit* TCustomGrid::CreateEditor() { return New<TInplaceEdit>(this); }
 
 bool TCustomGrid::CanEditAcceptKey(QChar) { return true; }
 
@@ -16,6 +20,8 @@ QString TCustomGrid::GetEditMask(int, int) { return {}; }
 
 TEditStyle TCustomGrid::GetEditStyle(int, int) { return esSimple; }
 
+bool TCustomGrid::IsActiveControl() const { return TFocus::Current() == this; }
+
 bool TCustomGrid::CanEditShow() {
   if (!FOptions.Has(goEditing) || FOptions.Has(goRowSelect) || !FEditorMode) return false;
   if (HasState(csDesigning) || !HandleAllocated()) return false;
@@ -25,6 +31,7 @@ bool TCustomGrid::CanEditShow() {
 void TCustomGrid::SetEditorMode(bool value) {
   if (!value) return HideEditor();
   ShowEditor();
+  if (FInplaceEdit) FInplaceEdit->Deselect();
 }
 
 void TCustomGrid::ShowEditor() {
@@ -32,18 +39,70 @@ void TCustomGrid::ShowEditor() {
   UpdateEdit();
 }
 
+void TCustomGrid::ShowEditorChar(QChar character) {
+  ShowEditor();
+  if (FInplaceEdit && FInplaceEdit->Visible()) FInplaceEdit->Perform(WM_CHAR, character.unicode());
+}
+
 void TCustomGrid::HideEditor() {
   FEditorMode = false;
   HideEdit();
 }
 
-bool TCustomGrid::IsActiveControl() const { return TFocus::Current() == this; }
+void TCustomGrid::InvalidateEditor() {
+  FInplaceCell = {-1, -1};
+  UpdateEdit();
+}
 
-void TCustomGrid::UpdateEdit() {}
-void TCustomGrid::HideEdit() {}
-void TCustomGrid::MoveEditor() {}
-void TCustomGrid::InvalidateEditor() {}
-void TCustomGrid::ShowEditorChar(QChar) { ShowEditor(); }
-TInplaceEdit* TCustomGrid::CreateEditor() { return nullptr; }
+void TCustomGrid::UpdateEdit() {
+  if (!CanEditShow()) return;
+  if (!FInplaceEdit) {
+    FInplaceEdit = CreateEditor();
+    if (!FInplaceEdit) return;
+    FInplaceEdit->SetGrid(this);
+    FInplaceEdit->SetParent(this);
+    UpdateEditor();
+  } else if (FInplaceCell != FCurrent) {
+    HideEdit();
+    UpdateEditor();
+  }
+  // The texts come from handlers, which may have changed anything.
+  if (FInplaceEdit && CanEditShow()) FInplaceEdit->Move(CellRect(FCurrent.X, FCurrent.Y));
+}
+
+void TCustomGrid::UpdateEditor() {
+  if (!FInplaceEdit) return;
+  FInplaceCell = FCurrent;
+  FInplaceEdit->UpdateContents();
+  FCanEditModify = true;
+}
+
+void TCustomGrid::UpdateText() {
+  if (FInplaceCell.X < 0 || FInplaceCell.Y < 0 || !FInplaceEdit) return;
+  SetEditText(FInplaceCell.X, FInplaceCell.Y, FInplaceEdit->GetText());
+}
+
+void TCustomGrid::HideEdit() {
+  if (!FInplaceEdit) return;
+  struct TGone {
+    TCustomGrid& Grid;
+    ~TGone() {
+      Grid.FInplaceCell = {-1, -1};
+      if (Grid.FInplaceEdit) Grid.FInplaceEdit->Hide();
+    }
+  } gone{*this};
+  UpdateText();
+}
+
+void TCustomGrid::MoveEditor() {
+  if (!FInplaceEdit || FInplaceCell.X < 0 || !HandleAllocated() || !CanEditShow()) return;
+  const QRect cell = CellRect(FInplaceCell.X, FInplaceCell.Y);
+  if (!FInplaceEdit->Visible() || !FInplaceEdit->PosEqual(cell)) FInplaceEdit->UpdateLoc(cell);
+}
+
+void TCustomGrid::Notification(TComponent* component, TOperation operation) {
+  TCustomControl::Notification(component, operation);
+  if (operation == opRemove && component == FInplaceEdit) FInplaceEdit = nullptr;
+}
 
 }  // namespace kt

@@ -9,7 +9,7 @@ namespace kt {
 namespace {
 
 /// Around the end of a cell, a press within so many pixels sizes it.
-constexpr int SizingBand = 7;
+constexpr int kSizingBand = 7;
 
 }  // namespace
 
@@ -30,11 +30,6 @@ TGridDrawInfo TCustomGrid::CalcDrawInfo() const {
 int TCustomGrid::GetGridWidth() const { return CalcDrawInfo().Horz.GridBoundary; }
 
 int TCustomGrid::GetGridHeight() const { return CalcDrawInfo().Vert.GridBoundary; }
-
-QMargins TCustomGrid::GetClientMargins() const {
-  const int border = FBorderStyle == bsSingle ? 2 : 0;
-  return {border, border, border, border};
-}
 
 TGridCoord TCustomGrid::MouseCoord(int x, int y) const {
   const TGridDrawInfo info = CalcDrawInfo();
@@ -86,7 +81,7 @@ void TCustomGrid::CalcSizingState(int x, int y, TGridState& state, int& index, i
 bool TCustomGrid::CalcAxisSizing(const TGridAxisDrawInfo& info, int position, bool isMirrored, int& index,
                                  int& sizingPos, int& sizingOfs) const {
   if (isMirrored) position = info.GridExtent - 1 - position;
-  const int band = std::max(info.EffectiveLineWidth, SizingBand);
+  const int band = std::max(info.EffectiveLineWidth, kSizingBand);
   const int before = (band - info.EffectiveLineWidth) / 2;
   // The band starts before the line that ends the cell.
   const auto isHit = [&](int line) { return position >= line - before && position < line - before + band; };

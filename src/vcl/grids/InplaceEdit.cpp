@@ -1,0 +1,184 @@
+#include "kt/vcl/grids/InplaceEdit.h"
+
+#include "kt/rtl/typeinfo/ClassBuilder.h"
+#include "kt/vcl/controls/VirtualKeys.h"
+#include "kt/vcl/grids/CustomGrid.h"
+
+namespace kt {
+
+const TClassInfo* TInplaceEditBase::Class() {
+  static const TClassInfo info = TClassBuilder<TInplaceEditBase>("TInplaceEditBase").Done();
+  return &info;
+}
+
+void TInplaceEditBase::SetText(const QString& value) {
+  FOldText = value;
+  TCustomEdit::SetText(value);
+}
+
+void TInplaceEditBase::Reset() {
+  SetText(QString(FOldText));
+  SetModified(false);
+}
+
+const TClassInfo* TInplaceEdit::Class() {
+  static const TClassInfo info = TClassBuilder<TInplaceEdit>("TInplaceEdit").Done();
+  return &info;
+}
+
+void TInplaceEdit::Construct() {
+  TInplaceEditBase::Construct();
+  SetTabStop(false);
+  SetBorderStyle(bsNone);
+  SetVisible(false);
+  SetParentColor(true);
+}
+
+TWinControl* TInplaceEdit::FocusOwner() { return FGrid ? static_cast<TWinControl*>(FGrid) : this; }
+
+void TInplaceEdit::Deselect() { Select(GetCaretPos(), GetCaretPos()); }
+
+void TInplaceEdit::Hide() {
+  if (!IsVisible()) return;
+  const bool isFocused = Focused();
+  // Invisible by itself before the grid gets the keyboard, so that the grid does not hand it back.
+  SetVisibleFlag(false);
+  if (isFocused && FGrid && FGrid->HandleAllocated()) FGrid->GetHandle()->setFocus();
+  Perform(CM_VISIBLECHANGED);
+}
+
+void TInplaceEdit::Move(const QRect& rect) {
+  UpdateLoc(rect);
+  if (IsVisible()) Invalidate();
+}
+
+void TInplaceEdit::UpdateLoc(const QRect& rect) {
+  if (rect.isEmpty()) return Hide();
+  SetBounds(rect.x(), rect.y(), rect.width(), rect.height());
+  BoundsChanged();
+  SetVisible(true);
+  if (FGrid && FGrid->Focused()) GetHandle()->setFocus();
+}
+
+void TInplaceEdit::SetFocus() {
+  if (IsVisible() && CanFocus()) GetHandle()->setFocus();
+}
+
+void TInplaceEdit::BoundsChanged() { SetFormatRect({2, 2, GetWidth() - 4, GetHeight() - 2}); }
+
+void TInplaceEdit::UpdateContents() {
+  FIsUpdating = true;
+  struct TDone {
+    bool& Flag;
+    ~TDone() { Flag = false; }
+  } done{FIsUpdating};
+  SetText({});
+  SetEditMask(FGrid->GetEditMask(FGrid->GetCol(), FGrid->GetRow()));
+  SetMaxLength(FGrid->GetEditLimit());
+  SetText(FGrid->GetEditText(FGrid->GetCol(), FGrid->GetRow()));
+  SetModified(false);
+  SetReadOnly(!FGrid->CanEditModify());
+  SelectAll();
+}
+
+bool TInplaceEdit::EditCanModify() { return FGrid->CanEditModify(); }
+
+void TInplaceEdit::Change() {
+  TInplaceEditBase::Change();
+  if (!FIsUpdating && FGrid) FGrid->UpdateText();
+}
+
+void TInplaceEdit::DblClick() { FGrid->DblClick(); }
+
+bool TInplaceEdit::WantsKey(quint16 key) { return FGrid && (TInplaceEditBase::WantsKey(key) || FGrid->WantsKey(key)); }
+
+bool TInplaceEdit::DoMouseWheel(TShiftState shift, int delta, bool isHorizontal, QPoint position) {
+  return FGrid->DoMouseWheel(shift, delta, isHorizontal, position + GetBoundsRect().topLeft());
+}
+
+void TInplaceEdit::SendToGrid(quint16& key, TShiftState shift) {
+  FGrid->KeyDown(key, shift);
+  key = 0;
+}
+
+void TInplaceEdit::RaiseGridEvent(quint16& key, TShiftState shift) { FGrid->OnKeyDown(FGrid, key, shift); }
+
+bool TInplaceEdit::IsLeftSide() const {
+  const int length = GetSelLength();
+  return GetSelStart() == 0 && (length == 0 || length == static_cast<int>(GetText().size()));
+}
+
+bool TInplaceEdit::IsRightSide() const {
+  const int size = static_cast<int>(GetText().size());
+  const int start = GetSelStart();
+  return (start == 0 || GetSelLength() == 0) && start + GetSelLength() == size;
+}
+
+void TInplaceEdit::HandleGridKey(quint16& key, TShiftState shift) {
+  const bool isCtrl = shift.Has(ssCtrl);
+  const bool isMoving = FGrid->GetOptions().Has(goAlwaysShowEditor);
+  switch (key) {
+    case VK_UP:
+    case VK_DOWN:
+    case VK_PRIOR:
+    case VK_NEXT:
+    case VK_ESCAPE:
+      return SendToGrid(key, shift);
+    case VK_INSERT:
+      if (shift.IsEmpty()) return SendToGrid(key, shift);
+      if (shift == TShiftState{ssShift} && !EditCanModify()) key = 0;
+      return;
+    case VK_LEFT:
+      if (isMoving && (isCtrl || IsLeftSide())) SendToGrid(key, shift);
+      return;
+    case VK_RIGHT:
+      if (isMoving && (isCtrl || IsRightSide())) SendToGrid(key, shift);
+      return;
+    case VK_HOME:
+      if (isMoving && (isCtrl || IsLeftSide())) SendToGrid(key, shift);
+      return;
+    case VK_END:
+      if (isMoving && (isCtrl || IsRightSide())) SendToGrid(key, shift);
+      return;
+    case VK_TAB:
+      if (!shift.Has(ssAlt)) SendToGrid(key, shift);
+      return;
+    case VK_DELETE:
+      if (isCtrl) {
+        SendToGrid(key, shift);
+      } else if (!EditCanModify()) {
+        key = 0;
+      }
+      return;
+    default:
+      return;
+  }
+}
+
+void TInplaceEdit::KeyDown(quint16& key, TShiftState shift) {
+  SetReadOnly(!EditCanModify());
+  if (key == VK_F2) {
+    RaiseGridEvent(key, shift);
+    if (key != VK_F2) return;
+    Deselect();
+    key = 0;
+    return;
+  }
+  HandleGridKey(key, shift);
+  if (key == 0) return;
+  RaiseGridEvent(key, shift);
+  if (key != 0) TInplaceEditBase::KeyDown(key, shift);
+}
+
+void TInplaceEdit::KeyPress(QChar& key) {
+  FGrid->KeyPress(key);
+  if (key.unicode() >= 32 && !FGrid->CanEditAcceptKey(key)) key = u'\0';
+  if (key == u'\t' || key == u'\x1b') key = u'\0';
+  const bool isChange = key == u'\b' || key == u'\x16' || key == u'\x18' || key.unicode() >= 32;
+  if (isChange && !EditCanModify()) key = u'\0';
+  if (!key.isNull()) TInplaceEditBase::KeyPress(key);
+}
+
+void TInplaceEdit::KeyUp(quint16& key, TShiftState shift) { FGrid->KeyUp(key, shift); }
+
+}  // namespace kt
