@@ -21,6 +21,12 @@ const TClassInfo* TControl::Class() {
   return &info;
 }
 
+const TTypeInfo* BorderStyleTypeInfo() {
+  static const TEnumTypeInfo info(QStringLiteral("TBorderStyle"),
+                                  {QStringLiteral("bsNone"), QStringLiteral("bsSingle")});
+  return &info;
+}
+
 TControl::TControl(TComponent* owner) : TComponent(owner) {}
 
 TControl::~TControl() = default;

@@ -59,7 +59,10 @@ enum TControlStateItem {
 };
 using TControlState = TSet<TControlStateItem>;
 
-enum TBorderStyle { bsNone, bsSingle };
+/// The border of a form.
+enum TFormBorderStyle { bsNone, bsSingle, bsSizeable, bsDialog, bsToolWindow, bsSizeToolWin };
+/// The border of a control: bsNone or bsSingle. Published with BorderStyleTypeInfo().
+using TBorderStyle = TFormBorderStyle;
 
 /// `key` is a virtual key code; a handler that sets it to 0 has consumed it.
 struct TKeyEvent : TEvent<TObject*, quint16&, TShiftState> {
@@ -109,9 +112,12 @@ struct TEnumNames<TDragKind> {
   static constexpr const char* Values[] = {"dkDrag", "dkDock"};
 };
 template <>
-struct TEnumNames<TBorderStyle> {
-  static constexpr char Name[] = "TBorderStyle";
-  static constexpr const char* Values[] = {"bsNone", "bsSingle"};
+struct TEnumNames<TFormBorderStyle> {
+  static constexpr char Name[] = "TFormBorderStyle";
+  static constexpr const char* Values[] = {"bsNone",   "bsSingle",     "bsSizeable",
+                                           "bsDialog", "bsToolWindow", "bsSizeToolWin"};
 };
+/// "TBorderStyle", the two border styles that controls have.
+const TTypeInfo* BorderStyleTypeInfo();
 
 }  // namespace kt

@@ -56,6 +56,7 @@ void TFocus::Moved(TWinControl* control) {
   State().Current = control;
   if (!control) return;
   std::vector<TWinControl*> entered = AncestorsUpTo(control, isPreviousAlive ? previous : nullptr);
+  for (TWinControl* parent = control; parent; parent = parent->GetParent()) parent->ControlFocused(control);
   Tell({entered.rbegin(), entered.rend()}, CM_ENTER);
 }
 

@@ -63,8 +63,8 @@ void ParentColor(TClassBuilder<T>& builder, bool value = true) {
   builder.template Property<&TControl::IsParentColor, &TControl::SetParentColor>("ParentColor").Default(value);
 }
 template <class T>
-void ParentFont(TClassBuilder<T>& builder) {
-  builder.template Property<&TControl::IsParentFont, &TControl::SetParentFont>("ParentFont").Default(true);
+void ParentFont(TClassBuilder<T>& builder, bool value = true) {
+  builder.template Property<&TControl::IsParentFont, &TControl::SetParentFont>("ParentFont").Default(value);
 }
 template <class T>
 void ParentShowHint(TClassBuilder<T>& builder) {

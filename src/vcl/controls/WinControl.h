@@ -128,6 +128,10 @@ class TWinControl : public TControl {
   virtual void DoExit() { OnExit(this); }
   /// The control that counts as focused when this window has the keyboard: itself, or whom it works for.
   virtual TWinControl* FocusOwner() { return this; }
+  /// A control in here has got the focus.
+  virtual void ControlFocused(TWinControl*) {}
+  /// Lets a parent see a key message before its control; true when the parent took it.
+  virtual bool PreviewKey(TMessage&) { return false; }
   /// Whether a key that would otherwise move the focus is wanted here.
   virtual bool WantsKey(quint16 key);
   /// Text from an input method; false leaves it to the widget.

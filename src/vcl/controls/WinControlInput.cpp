@@ -42,6 +42,9 @@ void TWinControl::Dispatch(TMessage& message) {
     case CM_CHILDKEY:
       if (GetParent()) GetParent()->WndProc(message);
       return;
+    case CM_DIALOGKEY:
+      for (int i = 0; i < GetControlCount() && message.Result == 0; ++i) GetControls(i)->WndProc(message);
+      return;
     case CM_RECREATEWND:
       return RecreateWnd();
     default:
@@ -50,6 +53,9 @@ void TWinControl::Dispatch(TMessage& message) {
 }
 
 void TWinControl::DispatchKey(TMessage& message) {
+  for (TWinControl* parent = GetParent(); parent; parent = parent->GetParent()) {
+    if (parent->PreviewKey(message)) return;
+  }
   const auto shift = TShiftState::FromBits(static_cast<quint32>(message.LParam));
   if (message.Msg == WM_CHAR) {
     QChar character(static_cast<char16_t>(message.WParam));

@@ -2,6 +2,7 @@
 #include "kt/vcl/controls/ControlBody.h"
 #include "kt/vcl/controls/Focus.h"
 #include "kt/vcl/controls/WinControl.h"
+#include "kt/vcl/forms/Application.h"
 
 #include <QCoreApplication>
 
@@ -29,6 +30,8 @@ QWidget* TWinControl::GetHandle() {
 QWidget* TWinControl::CreateBody(QWidget* parent) { return new TBodyOf<QWidget>(this, parent); }
 
 void TWinControl::CreateWnd() {
+  // From now on exceptions come from handlers that Qt calls.
+  Application();
   FWindow = CreateBody(GetParent() ? GetParent()->FWindow : nullptr);
   FBody = TControlBody::Of(FWindow);
   Q_ASSERT(FBody);

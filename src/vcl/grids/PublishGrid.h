@@ -7,7 +7,9 @@ namespace kt::Publish {
 
 template <class T>
 void GridBorderStyle(TClassBuilder<T>& builder) {
-  builder.template Property<&TCustomGrid::GetBorderStyle, &TCustomGrid::SetBorderStyle>("BorderStyle")
+  builder
+      .template Property<&TCustomGrid::GetBorderStyle, &TCustomGrid::SetBorderStyle>("BorderStyle",
+                                                                                     &BorderStyleTypeInfo)
       .Default(bsSingle);
 }
 template <class T>

@@ -268,10 +268,10 @@ TEST(WinControlTest, MousePositionsAreThoseOfTheClientArea) {
 }
 
 TEST(WinControlTest, AHandlerThatThrowsDoesNotReachQt) {
-  int errors = 0;
-  const TExceptionHandler outer = SetExceptionHandler([&](std::exception_ptr) { ++errors; });
   auto control = Make<TSpy>();
   TWindowProbe window(*control);
+  int errors = 0;
+  const TExceptionHandler outer = SetExceptionHandler([&](std::exception_ptr) { ++errors; });
   control->OnMouseDown = [](TObject*, TMouseButton, TShiftState, int, int) { throw Exception(QStringLiteral("no")); };
   window.Click({5, 5});
   SetExceptionHandler(outer);

@@ -1,0 +1,133 @@
+#include "kt/vcl/forms/Form.h"
+
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/UnhandledExceptions.h"
+#include "kt/rtl/streams/FormConversion.h"
+#include "kt/rtl/streams/Reader.h"
+#include "kt/vcl/controls/KeyCodes.h"
+#include "kt/vcl/forms/Application.h"
+#include "kt/vcl/forms/Screen.h"
+
+#include <QBuffer>
+#include <QLatin1StringView>
+
+namespace kt {
+
+void TCustomForm::Construct() {
+  TCustomControl::Construct();
+  FControlStyle = {csAcceptsControls, csCaptureMouse, csClickEvents, csSetCaption, csDoubleClicks};
+  SetVisibleFlag(false);
+  SetParentColor(false);
+  SetParentFont(false);
+  SetColor(clBtnFace);
+  SetBounds(0, 0, 320, 240);
+  Screen().AddForm(this);
+}
+
+void TCustomForm::AfterConstruction() {
+  TCustomControl::AfterConstruction();
+  OnCreate(this);
+}
+
+void TCustomForm::BeforeDestruction() {
+  TCustomControl::BeforeDestruction();
+  GuardedCall([this] { OnDestroy(this); });
+}
+
+void TCustomForm::Destruct() {
+  Screen().RemoveForm(this);
+  TCustomControl::Destruct();
+}
+
+void TCustomForm::Notification(TComponent* component, TOperation operation) {
+  TCustomControl::Notification(component, operation);
+  if (operation == opRemove && component == FActiveControl) FActiveControl = nullptr;
+}
+
+void TCustomForm::GetChildren(const TGetChildProc& proc, TComponent* root) {
+  TCustomControl::GetChildren(proc, root);
+  if (root != this) return;
+  for (int i = 0; i < GetComponentCount(); ++i) {
+    // Controls have been written with their parents.
+    TComponent* component = GetComponents(i);
+    if (!component->HasParent()) proc(component);
+  }
+}
+
+void TCustomForm::Dispatch(TMessage& message) {
+  if (message.Msg == CM_RELEASE) {
+    delete this;
+    return;
+  }
+  TCustomControl::Dispatch(message);
+}
+
+void TCustomForm::SetActiveControl(TWinControl* value) {
+  if (FActiveControl == value) return;
+  if (value && (value == this || !ContainsControl(value))) {
+    throw EInvalidOperation(QStringLiteral("Cannot focus a disabled or invisible window"));
+  }
+  FActiveControl = value;
+  if (value) value->FreeNotification(this);
+  if (IsShowing()) FocusActiveControl();
+}
+
+void TCustomForm::FocusActiveControl() {
+  if (FActiveControl && FActiveControl->CanFocus()) FActiveControl->SetFocus();
+}
+
+void TCustomForm::ControlFocused(TWinControl* control) {
+  TCustomControl::ControlFocused(control);
+  if (control == this) return;
+  FActiveControl = control;
+  control->FreeNotification(this);
+}
+
+bool TCustomForm::PreviewKey(TMessage& message) {
+  if (!FKeyPreview) return false;
+  const auto shift = TShiftState::FromBits(static_cast<quint32>(message.LParam));
+  if (message.Msg == WM_CHAR) {
+    QChar character(static_cast<char16_t>(message.WParam));
+    KeyPress(character);
+    message.WParam = character.unicode();
+    return message.WParam == 0;
+  }
+  auto key = static_cast<quint16>(message.WParam);
+  const bool isDown = message.Msg == WM_KEYDOWN || message.Msg == WM_SYSKEYDOWN;
+  isDown ? KeyDown(key, shift) : KeyUp(key, shift);
+  message.WParam = key;
+  return key == 0;
+}
+
+bool TCustomForm::CloseQuery() {
+  bool canClose = true;
+  OnCloseQuery(this, canClose);
+  return canClose;
+}
+
+void TCustomForm::Close() {
+  if (FModalLoop) return SetModalResult(mrCancel);
+  if (!CloseQuery()) return;
+  const bool isMain = Application().GetMainForm() == this;
+  TCloseAction action = caHide;
+  DoClose(action);
+  if (action == caNone) return;
+  if (isMain) return Application().Terminate();
+  if (action == caHide) Hide();
+  if (action == caFree) Release();
+  if (action == caMinimize) SetWindowState(wsMinimized);
+}
+
+TCustomForm* GetParentForm(TControl* control) {
+  while (control && !dynamic_cast<TCustomForm*>(control)) control = control->GetParent();
+  return static_cast<TCustomForm*>(control);
+}
+
+void ReadFormText(TCustomForm& form, const QByteArray& text) {
+  QByteArray binary;
+  ObjectTextToBinary(text, binary);
+  TReader reader(binary);
+  reader.ReadRootComponent(&form);
+}
+
+}  // namespace kt

@@ -1,0 +1,56 @@
+// What forms publish.
+#include "kt/vcl/controls/Publish.h"
+#include "kt/vcl/forms/Form.h"
+
+namespace kt {
+
+const TClassInfo* TCustomForm::Class() {
+  static const TClassInfo info = TClassBuilder<TCustomForm>("TCustomForm").Done();
+  return &info;
+}
+
+const TClassInfo* TForm::Class() {
+  static const TClassInfo info = [] {
+    TClassBuilder<TForm> builder("TForm");
+    builder.Property<&TForm::GetActiveControl, &TForm::SetActiveControl>("ActiveControl");
+    Publish::Align(builder);
+    Publish::Anchors(builder);
+    Publish::BiDiMode(builder);
+    builder.Property<&TForm::GetBorderIcons, &TForm::SetBorderIcons>("BorderIcons")
+        .Default(TBorderIcons{biSystemMenu, biMinimize, biMaximize});
+    builder.Property<&TForm::GetBorderStyle, &TForm::SetBorderStyle>("BorderStyle").Default(bsSizeable);
+    builder.Property<&TForm::GetCaption, &TForm::SetCaption>("Caption");
+    builder.Property<&TControl::GetClientHeight, &TControl::SetClientHeight>("ClientHeight");
+    builder.Property<&TControl::GetClientWidth, &TControl::SetClientWidth>("ClientWidth");
+    Publish::Color(builder);
+    Publish::Constraints(builder);
+    Publish::Enabled(builder);
+    Publish::Font(builder);
+    builder.Property<&TForm::IsKeyPreview, &TForm::SetKeyPreview>("KeyPreview").Default(false);
+    builder.Property<&TForm::IsOldCreateOrder, &TForm::SetOldCreateOrder>("OldCreateOrder");
+    Publish::ParentBiDiMode(builder);
+    Publish::ParentFont(builder, false);
+    builder.Property<&TForm::GetPixelsPerInch, &TForm::SetPixelsPerInch>("PixelsPerInch");
+    builder.Property<&TForm::GetPosition, &TForm::SetPosition>("Position").Default(poDefaultPosOnly);
+    Publish::ShowHint(builder);
+    builder.Property<&TForm::GetTextHeight, &TForm::SetTextHeight>("TextHeight");
+    builder.Property<&TControl::IsVisible, &TControl::SetVisible>("Visible").Default(false);
+    builder.Property<&TForm::GetWindowState, &TForm::SetWindowState>("WindowState").Default(wsNormal);
+    builder.Property<&TForm::OnActivate>("OnActivate");
+    Publish::MouseEvents(builder);
+    builder.Property<&TForm::OnClose>("OnClose");
+    builder.Property<&TForm::OnCloseQuery>("OnCloseQuery");
+    builder.Property<&TForm::OnCreate>("OnCreate");
+    builder.Property<&TForm::OnDeactivate>("OnDeactivate");
+    builder.Property<&TForm::OnDestroy>("OnDestroy");
+    builder.Property<&TForm::OnHide>("OnHide");
+    Publish::KeyEvents(builder);
+    builder.Property<&TForm::OnPaint>("OnPaint");
+    builder.Property<&TControl::OnResize>("OnResize");
+    builder.Property<&TForm::OnShow>("OnShow");
+    return builder.Creatable().Done();
+  }();
+  return &info;
+}
+
+}  // namespace kt

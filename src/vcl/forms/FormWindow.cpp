@@ -1,0 +1,171 @@
+// The window of TCustomForm.
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/vcl/controls/ControlBody.h"
+#include "kt/vcl/forms/Application.h"
+#include "kt/vcl/forms/Form.h"
+#include "kt/vcl/forms/Screen.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QScreen>
+
+namespace kt {
+
+QWidget* TCustomForm::CreateBody(QWidget* parent) {
+  QWidget* body = TCustomControl::CreateBody(parent);
+  if (!parent) body->setWindowFlags(WindowFlags());
+  return body;
+}
+
+Qt::WindowFlags TCustomForm::WindowFlags() const {
+  if (FBorderStyle == bsNone) return Qt::Window | Qt::FramelessWindowHint;
+  const bool isTool = FBorderStyle == bsToolWindow || FBorderStyle == bsSizeToolWin;
+  Qt::WindowFlags flags = isTool ? Qt::Tool : FBorderStyle == bsDialog ? Qt::Dialog : Qt::Window;
+  flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+  flags.setFlag(Qt::WindowSystemMenuHint, FBorderIcons.Has(biSystemMenu));
+  flags.setFlag(Qt::WindowCloseButtonHint, FBorderIcons.Has(biSystemMenu));
+  const bool hasButtons = FBorderStyle == bsSingle || FBorderStyle == bsSizeable;
+  flags.setFlag(Qt::WindowMinimizeButtonHint, hasButtons && FBorderIcons.Has(biMinimize));
+  flags.setFlag(Qt::WindowMaximizeButtonHint, hasButtons && FBorderIcons.Has(biMaximize));
+  flags.setFlag(Qt::WindowContextHelpButtonHint, FBorderIcons.Has(biHelp));
+  return flags;
+}
+
+void TCustomForm::CreateWnd() {
+  TCustomControl::CreateWnd();
+  Window()->setWindowTitle(GetText());
+}
+
+void TCustomForm::SetBorderStyle(TFormBorderStyle value) {
+  if (FBorderStyle == value) return;
+  FBorderStyle = value;
+  if (HandleAllocated() && !IsShowing()) Window()->setWindowFlags(WindowFlags());
+}
+
+void TCustomForm::SetBorderIcons(TBorderIcons value) {
+  if (FBorderIcons == value) return;
+  FBorderIcons = value;
+  if (HandleAllocated() && !IsShowing()) Window()->setWindowFlags(WindowFlags());
+}
+
+void TCustomForm::SetWindowState(TWindowState value) {
+  FWindowState = value;
+  if (!HandleAllocated()) return;
+  Window()->setWindowState(value == wsMaximized   ? Qt::WindowMaximized
+                           : value == wsMinimized ? Qt::WindowMinimized
+                                                  : Qt::WindowNoState);
+}
+
+void TCustomForm::CMTextChanged(TMessage& message) {
+  TCustomControl::CMTextChanged(message);
+  if (HandleAllocated()) Window()->setWindowTitle(GetText());
+}
+
+void TCustomForm::CMVisibleChanged(TMessage& message) {
+  if (HasState(csLoading)) return;
+  if (IsVisible() && !IsShowing()) {
+    GetHandle();
+    PlaceWindow();
+    OnShow(this);
+    SetWindowState(FWindowState);
+  }
+  TCustomControl::CMVisibleChanged(message);
+}
+
+void TCustomForm::Loaded() {
+  TCustomControl::Loaded();
+  // What the file says of Visible waits until all is read.
+  if (IsVisible()) Perform(CM_VISIBLECHANGED, 1);
+}
+
+void TCustomForm::PlaceWindow() {
+  if (GetParent()) return;
+  const bool isCentered = FPosition == poScreenCenter || FPosition == poDesktopCenter ||
+                          FPosition == poMainFormCenter || FPosition == poOwnerFormCenter;
+  if (FPosition == poDesigned) Window()->move(GetLeft(), GetTop());
+  if (!isCentered) return;
+  QRect around = Window()->screen()->availableGeometry();
+  auto* const owner = FPosition == poOwnerFormCenter ? dynamic_cast<TCustomForm*>(GetOwnerComponent()) : nullptr;
+  TCustomForm* const other = FPosition == poMainFormCenter ? Application().GetMainForm() : owner;
+  if (other && other != this && other->IsShowing()) around = other->Window()->geometry();
+  QRect place = Window()->geometry();
+  place.moveCenter(around.center());
+  Window()->move(place.topLeft());
+}
+
+/// The windows are visited in the order of the controls' TabOrder.
+void TCustomForm::OrderTabs(TWinControl& parent, QWidget*& last) {
+  for (TWinControl* control : parent.GetTabList()) {
+    if (!control->HandleAllocated()) continue;
+    QWidget* const window = control->GetHandle();
+    if (last) QWidget::setTabOrder(last, window);
+    last = window;
+    OrderTabs(*control, last);
+  }
+}
+
+void TCustomForm::CMShowingChanged(TMessage& message) {
+  TCustomControl::CMShowingChanged(message);
+  if (!IsShowing()) return OnHide(this);
+  QWidget* last = nullptr;
+  OrderTabs(*this, last);
+  FocusActiveControl();
+}
+
+bool TCustomForm::WindowEvent(QEvent& event) {
+  switch (event.type()) {
+    case QEvent::Close:
+      // The window itself never closes: it is hidden when all agree.
+      event.ignore();
+      Close();
+      return true;
+    case QEvent::WindowActivate:
+      Screen().SetActiveForm(this);
+      OnActivate(this);
+      return false;
+    case QEvent::WindowDeactivate:
+      if (Screen().GetActiveForm() == this) Screen().SetActiveForm(nullptr);
+      OnDeactivate(this);
+      return false;
+    default:
+      return TCustomControl::WindowEvent(event);
+  }
+}
+
+bool TCustomForm::IsActive() const { return Screen().GetActiveForm() == this; }
+
+TModalResult TCustomForm::ShowModal() {
+  if (IsVisible() || FModalLoop) throw EInvalidOperation(QStringLiteral("Cannot make a visible window modal"));
+  QEventLoop loop;
+  FModalResult = mrNone;
+  GetHandle()->setWindowModality(Qt::ApplicationModal);
+  FModalLoop = &loop;
+  // A handler of OnShow may have answered already, or raise.
+  struct TDone {
+    TCustomForm& Form;
+    ~TDone() {
+      Form.FModalLoop = nullptr;
+      if (Form.HandleAllocated()) Form.Window()->setWindowModality(Qt::NonModal);
+    }
+  } done{*this};
+  Show();
+  if (FModalResult == mrNone) loop.exec();
+  Hide();
+  return FModalResult;
+}
+
+void TCustomForm::SetModalResult(TModalResult value) {
+  FModalResult = value;
+  if (value == mrNone || !FModalLoop) return;
+  TCloseAction action = caHide;
+  const bool canClose = CloseQuery();
+  if (canClose) DoClose(action);
+  if (!canClose || action == caNone) {
+    FModalResult = mrNone;
+    return;
+  }
+  FModalLoop->quit();
+}
+
+}  // namespace kt
