@@ -70,17 +70,19 @@ void TControlBody::Press(QMouseEvent* event) {
   event->accept();
   const bool isDouble = event->type() == QEvent::MouseButtonDblClick;
   SendMouse(isDouble ? messages.DoubleClick : messages.Down, event);
+  // Whatever the widget thinks of it: its parents have nothing to do with it.
+  event->accept();
 }
 
 void TControlBody::Release(QMouseEvent* event) {
   if (event->buttons() == Qt::NoButton) FIsPressed = false;
-  event->accept();
   SendMouse(MessagesOf(event->button()).Up, event);
+  event->accept();
 }
 
 void TControlBody::Move(QMouseEvent* event) {
-  event->accept();
   SendMouse(WM_MOUSEMOVE, event);
+  event->accept();
 }
 
 bool TControlBody::TypesText(const QKeyEvent& event) {

@@ -1,5 +1,6 @@
 // How messages reach the handlers of TControl.
 #include "kt/vcl/controls/Control.h"
+#include "kt/vcl/controls/Focus.h"
 #include "kt/vcl/controls/WinControl.h"
 
 namespace kt {
@@ -48,6 +49,13 @@ void TControl::Dispatch(TMessage& message) {
 }
 
 bool TControl::DispatchMouse(TMessage& message) {
+  if (message.Msg < WM_MOUSEMOVE || message.Msg > WM_MBUTTONDBLCLK) return false;
+  // What is open elsewhere closes, then the window has its way with the mouse before the handlers do.
+  TWinControl* const focused = TFocus::Current();
+  const bool isPress = message.Msg != WM_MOUSEMOVE && message.Msg != WM_LBUTTONUP && message.Msg != WM_RBUTTONUP &&
+                       message.Msg != WM_MBUTTONUP;
+  if (isPress && focused) focused->Perform(CM_CANCELMODE, 0, PointerMessage(this));
+  DefaultHandler(message);
   switch (message.Msg) {
     case WM_MOUSEMOVE: {
       const QPoint point = PointOfMessage(message.LParam);

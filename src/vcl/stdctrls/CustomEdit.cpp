@@ -1,5 +1,6 @@
 #include "kt/vcl/stdctrls/CustomEdit.h"
 
+#include "kt/rtl/objects/Make.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/controls/ControlBody.h"
@@ -9,6 +10,7 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPainter>
 
 #include <algorithm>
 
@@ -55,7 +57,7 @@ void TCustomEdit::CreateWnd() {
   FLineEdit->setMaxLength(WindowLength(FMaxLength));
   FLineEdit->setReadOnly(FReadOnly);
   FLineEdit->setContextMenuPolicy(Qt::DefaultContextMenu);
-  if (IsTabStop()) FLineEdit->setFocusPolicy(Qt::StrongFocus);
+  FLineEdit->setFocusPolicy(IsTabStop() ? Qt::StrongFocus : Qt::ClickFocus);
   SetTextSilently(GetText());
   FLineEdit->setModified(FModified);
   SetSelStart(FSelStart);
@@ -68,6 +70,21 @@ void TCustomEdit::DestroyWnd() {
   FSelLength = GetSelLength();
   FLineEdit = nullptr;
   TWinControl::DestroyWnd();
+}
+
+void TCustomEdit::PaintWindow(const QRect& clip) {
+  TWinControl::PaintWindow(clip);
+  if (!HasOverlay()) return;
+  if (!FCanvas) FCanvas = Make<TCanvas>();
+  QPainter painter(Window());
+  FCanvas->SetPalette(Window()->palette());
+  FCanvas->Begin(painter, clip);
+  struct TEnd {
+    TCanvas& Canvas;
+    ~TEnd() { Canvas.End(); }
+  } end{*FCanvas};
+  FCanvas->SetFont(&GetFont());
+  PaintOver(*FCanvas);
 }
 
 void TCustomEdit::UpdateColors() {
@@ -155,6 +172,9 @@ void TCustomEdit::DefaultHandler(TMessage& message) {
     const bool isModified = FModified;
     SetTextSilently(*MessagePointer<const QString>(message.LParam));
     return SetModified(isModified);
+  }
+  if (FLineEdit && message.Msg >= WM_MOUSEMOVE && message.Msg <= WM_MBUTTONDBLCLK) {
+    return TControlBody::Of(FLineEdit)->RunInherited();
   }
   const bool isCharacter = message.Msg == WM_CHAR;
   if (!FLineEdit || (!isCharacter && message.Msg != WM_KEYDOWN && message.Msg != WM_SYSKEYDOWN)) return;

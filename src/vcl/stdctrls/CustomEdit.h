@@ -1,6 +1,9 @@
 #pragma once
 
 #include "kt/vcl/controls/WinControl.h"
+#include "kt/vcl/graphics/Canvas.h"
+
+#include <memory>
 
 class QLineEdit;
 
@@ -59,6 +62,7 @@ class TCustomEdit : public TWinControl {
   QWidget* CreateBody(QWidget* parent) override;
   void CreateWnd() override;
   void DestroyWnd() override;
+  void PaintWindow(const QRect& clip) override;
   bool InputText(const QString&) override { return false; }
   void CMTextChanged(TMessage& message) override;
   void CMFontChanged(TMessage& message) override;
@@ -67,6 +71,10 @@ class TCustomEdit : public TWinControl {
 
   /// Raises OnChange.
   virtual void Change() { OnChange(this); }
+  /// Whether PaintOver() has something to draw.
+  virtual bool HasOverlay() { return false; }
+  /// Draws on top of the text, a button beside it for example.
+  virtual void PaintOver(TCanvas&) {}
   /// The room for the text inside the window; the part beside it is free for a descendant to paint on.
   void SetFormatRect(const QRect& rect);
   /// Sets the text without telling anybody.
@@ -80,6 +88,8 @@ class TCustomEdit : public TWinControl {
   void TypeCharacter(QChar character);
 
   QLineEdit* FLineEdit = nullptr;
+  /// From the first overlay on.
+  std::unique_ptr<TCanvas> FCanvas;
   int FSelStart = 0;
   int FSelLength = 0;
   int FMaxLength = 0;

@@ -216,6 +216,25 @@ TEST_F(InplaceEditTest, DiesWithTheGrid) {
   EXPECT_EQ(FWindow->Window()->layout()->count(), 0);
 }
 
+TEST_F(InplaceEditTest, APressInTheTextMovesTheCaret) {
+  EditAlways();
+  ASSERT_EQ(Editor().GetSelLength(), 3);
+  QTest::mousePress(Editor().GetHandle(), Qt::LeftButton, Qt::NoModifier, {Editor().GetWidth() - 4, 8});
+  QTest::mouseRelease(Editor().GetHandle(), Qt::LeftButton, Qt::NoModifier, {Editor().GetWidth() - 4, 8});
+  EXPECT_EQ(Editor().GetSelLength(), 0);
+  EXPECT_EQ(Editor().GetCaretPos(), 3);
+}
+
+TEST_F(InplaceEditTest, AClickIntoThePermanentEditorFocusesIt) {
+  auto* button = new QPushButton(FWindow->Window());
+  button->show();
+  EditAlways();
+  button->setFocus();
+  const QPoint point = Editor().GetHandle()->mapTo(FWindow->Window(), QPoint(5, 5));
+  QTest::mouseClick(FWindow->Window()->windowHandle(), Qt::LeftButton, Qt::NoModifier, point);
+  EXPECT_TRUE(Editor().Focused());
+}
+
 TEST_F(InplaceEditTest, UndoAndClipboardAreThoseOfTheLineEditor) {
   TWindowProbe::Key(Qt::Key_F2);
   Editor().SelectAll();
