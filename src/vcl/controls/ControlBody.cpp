@@ -1,9 +1,11 @@
 #include "kt/vcl/controls/ControlBody.h"
 
 #include "kt/rtl/objects/UnhandledExceptions.h"
+#include "kt/vcl/controls/Hints.h"
 #include "kt/vcl/controls/KeyCodes.h"
 #include "kt/vcl/controls/WinControl.h"
 
+#include <QHelpEvent>
 #include <QPaintEvent>
 
 namespace kt {
@@ -106,11 +108,18 @@ bool TControlBody::Translate(QEvent* event) {
       if (FControl) FControl->WindowShown(event->type() == QEvent::Show);
       return true;
     case QEvent::Enter:
-      FControl->Perform(CM_MOUSEENTER);
+      HintControlChanged(FControl);
+      if (FControl) FControl->Perform(CM_MOUSEENTER);
       return false;
     case QEvent::Leave:
-      FControl->Perform(CM_MOUSELEAVE);
+      HintControlChanged(FControl->GetParent());
+      if (FControl) FControl->Perform(CM_MOUSELEAVE);
       return false;
+    case QEvent::ToolTip: {
+      const auto* help = static_cast<QHelpEvent*>(event);
+      ShowControlHint(*FControl, help->pos() - FControl->GetClientOrigin(), help->globalPos());
+      return true;
+    }
     default:
       return FControl->WindowEvent(*event);
   }

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QPoint>
+#include <QRect>
+#include <QString>
+
+namespace kt {
+
+class TControl;
+class TWinControl;
+
+/// A hint that is about to be shown; the control that it is for may change it when it gets CM_HINTSHOW.
+struct THintInfo {
+  TControl* HintControl = nullptr;
+  QString HintStr;
+  /// Where the hint appears, on the screen.
+  QPoint HintPos;
+  /// Where the mouse is, and where the hint stays while it moves: in the client area of HintControl.
+  QPoint CursorPos;
+  QRect CursorRect;
+};
+
+/// The share of a hint that is shown beside the control: what stands before the first "|", or all of it.
+QString GetShortHint(const QString& hint);
+/// The share that a status bar shows: what stands behind the first "|", or all of it.
+QString GetLongHint(const QString& hint);
+
+/// The mouse rests over a window: shows the hint of its control, or of the first parent that has one, unless hints are
+/// off there or the control does not want it.
+void ShowControlHint(TWinControl& control, QPoint clientPos, QPoint screenPos);
+/// The mouse has come to a control, or left all of them: tells the application the long hint.
+void HintControlChanged(TWinControl* control);
+
+}  // namespace kt
