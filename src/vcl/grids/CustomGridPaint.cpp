@@ -2,6 +2,7 @@
 #include "kt/vcl/controls/Focus.h"
 #include "kt/vcl/graphics/QtColor.h"
 #include "kt/vcl/grids/CustomGrid.h"
+#include "kt/vcl/grids/GridScrollBar.h"
 #include "kt/vcl/grids/InplaceEdit.h"
 
 #include <QPainter>
@@ -170,9 +171,13 @@ bool TCustomGrid::IsUnderEditor(int col, int row) const {
 }
 
 void TCustomGrid::PaintBorder(QPainter& painter) {
+  const QPalette& palette = Window()->palette();
+  // The corner between the scroll bars belongs to neither.
+  if (IsScrollBarShown(FHorzBar) && IsScrollBarShown(FVertBar)) {
+    painter.fillRect(QRect(FVertBar->x(), FHorzBar->y(), FBarWidth, FBarWidth), palette.window());
+  }
   if (FBorderStyle != bsSingle) return;
   const QRect whole = Window()->rect();
-  const QPalette& palette = Window()->palette();
   painter.fillRect(whole.adjusted(0, 0, 0, -whole.height() + 2), palette.mid());
   painter.fillRect(whole.adjusted(0, whole.height() - 2, 0, 0), palette.mid());
   painter.fillRect(whole.adjusted(0, 0, -whole.width() + 2, 0), palette.mid());

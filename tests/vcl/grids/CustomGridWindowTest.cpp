@@ -285,6 +285,12 @@ TEST_F(CustomGridWindowTest, FromRightToLeftAScrollStepPaintsTheNewRowOnly) {
   EXPECT_EQ(Drawn(), "0,7 1,7 2,7 3,7 4,7 5,7");
 }
 
+TEST_F(CustomGridWindowTest, TheCornerBetweenTheScrollBarsIsPainted) {
+  const QImage image = Grid.GetHandle()->grab().toImage();
+  EXPECT_EQ(image.pixelColor(242 + BarWidth() / 2, 142 + BarWidth() / 2),
+            Grid.GetHandle()->palette().color(QPalette::Window));
+}
+
 TEST_F(CustomGridWindowTest, AHandlerMayTakeRowsAwayWhileItPaints) {
   Grid.OnDrawCell = [this](TObject*, int, int, const QRect&, TGridDrawState) {
     if (Grid.GetRowCount() > 3) Grid.SetRowCount(3);
