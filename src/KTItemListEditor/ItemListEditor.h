@@ -239,6 +239,7 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   void TitleCaptionsChange(TObject*);
   TKTItemProps& LevelOf(const TKTItemProp& item) const;
   void MoveTo(TKTItemProp& item, TKTItemProp* category);
+  void MoveFurther(TKTItemProp& item, const QString& categoryName);
   void CopyTo(TKTItemProp& item, TKTItemProp* category);
   void PlaceCopy(TKTItemProp& item, TKTItemProp& category);
   void PlaceFurtherCopy(TKTItemProp& item, const QString& categoryName);

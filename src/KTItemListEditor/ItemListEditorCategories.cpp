@@ -37,6 +37,14 @@ void TKTCustomItemListEditor::MoveTo(TKTItemProp& item, TKTItemProp* category) {
   item.SetCollection(&category->GetItems());
 }
 
+void TKTCustomItemListEditor::MoveFurther(TKTItemProp& item, const QString& categoryName) {
+  if (!item.GetCollection()) return;
+  const TItemWatch watched(&item);
+  // Deliberately inside the category before: the item is in that by now.
+  TKTItemProp* category = Categorize(*item.GetCollection(), categoryName);
+  if (watched && category) MoveTo(item, category);
+}
+
 void TKTCustomItemListEditor::CopyTo(TKTItemProp& item, TKTItemProp* category) {
   const TItemWatch original(&item);
   const TItemWatch target(category);
@@ -47,11 +55,11 @@ void TKTCustomItemListEditor::CopyTo(TKTItemProp& item, TKTItemProp* category) {
 
 void TKTCustomItemListEditor::Categorize(TKTItemProp* item, TStrings& categoryMap, bool multipleCategories) {
   const TItemWatch watched(item);
-  const bool copies = multipleCategories && !HasState(csLoading);
   const int line = IndexOfName(categoryMap, 0, item->GetName());
   TKTItemProp* category = Categorize(item, item->GetName(), categoryMap);
-  if (!category) return;
-  if (copies) {
+  // While loading, what is there stays where it is.
+  if (!category || !watched || HasState(csLoading)) return;
+  if (multipleCategories) {
     PlaceCopy(*item, *category);
   } else {
     MoveTo(*item, category);
@@ -60,11 +68,10 @@ void TKTCustomItemListEditor::Categorize(TKTItemProp* item, TStrings& categoryMa
     next = IndexOfName(categoryMap, next + 1, item->GetName());
     if (next < 0) return;
     const QString name = categoryMap.GetStrings(next).mid(item->GetName().size() + 1);
-    if (copies) {
+    if (multipleCategories) {
       PlaceFurtherCopy(*item, name);
     } else {
-      // Deliberately inside the category before: the item is in that by now.
-      MoveTo(*item, Categorize(*item->GetCollection(), name));
+      MoveFurther(*item, name);
     }
   }
 }
@@ -97,7 +104,7 @@ void TKTCustomItemListEditor::Categorize(TStrings& categoryMap, bool) {
     TKTItemProp* item = snapshot[i];
     if (!item || item->GetCategory()) continue;
     TKTItemProp* category = Categorize(item, item->GetName(), categoryMap);
-    if (category) MoveTo(*item, category);
+    if (snapshot[i] && category) MoveTo(*item, category);
   }
 }
 

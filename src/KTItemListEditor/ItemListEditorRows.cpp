@@ -6,6 +6,18 @@
 
 namespace kt {
 
+namespace {
+
+/// The lock of an editor, for a bracket: taken and given back also when what is between throws.
+struct TEditUpdateLock {
+  TKTCustomItemListEditor& Editor;
+
+  void BeginUpdate() { Editor.DisableEditUpdate(); }
+  void EndUpdate() { Editor.EnableEditUpdate(); }
+};
+
+}  // namespace
+
 TKTItemProp* TKTCustomItemListEditor::GetItem(int index) const { return TItemRows::FindEntry(*FItems, index); }
 
 int TKTCustomItemListEditor::GetItemCount() const { return FItems ? FItems->GetSpan().Items : 0; }
@@ -29,9 +41,9 @@ void TKTCustomItemListEditor::UpdatingItemProp(TKTItemProp*) {
 void TKTCustomItemListEditor::UpdateItemProp(TKTItemProp* item) {
   if (IsUpdating()) return;
   if (!item && !IsEditUpdateLocked()) {
-    DisableEditUpdate();
+    TEditUpdateLock lock{*this};
+    const TUpdateBracket bracket(lock);
     ShowRows();
-    EnableEditUpdate();
   } else if (!item) {
     TItemRows::Recount(*FItems);
   }

@@ -34,13 +34,14 @@ void TKTItemProp::AssignFlags(TKTItemProp& source) {
 }
 
 void TKTItemProp::AssignRare(TKTItemProp& source) {
-  if (!FRare && !source.FRare) return;
-  const TItemWatch self(this);
+  // A style for picking without anything to pick does not survive the copying of the list.
+  const bool hasStyleOfList = GetEditStyle() == esPickList;
+  if (!FRare && !source.FRare && !hasStyleOfList) return;
   Rare().Hint = source.GetHint();
   Rare().EditMask = source.GetEditMask();
   Rare().ItemObject = source.GetItemObject();
   Rare().Tag = source.GetTag();
-  if (!HasPickList() && !source.HasPickList()) return;
+  if (!HasPickList() && !source.HasPickList() && !hasStyleOfList) return;
   GetPickList().Assign(&source.GetPickList());
 }
 

@@ -70,7 +70,7 @@ void TKTItemProp::SetName(const QString& value) {
   if (self) MoveProp(name);
   if (!self) return;
   FName = name;
-  if (TKTCustomItemListEditor* editor = GetEditor(); editor && IsVisible()) editor->InvalidateEditor();
+  if (TKTCustomItemListEditor* editor = GetEditor(); editor && IsVisible()) editor->Invalidate();
   if (self) Changed(false);
 }
 

@@ -75,6 +75,8 @@ TKTItemProp* TKTItemProps::AddFullPath(const QString& path, const QString& value
   const TPathHead head = SplitPath(path);
   TItemWatch item(head.HasRest || !allowDuplicate ? GetItemByName(head.Name) : nullptr);
   if (!item) {
+    // Nothing is added that would have to stay without its name.
+    IsValid(head.Name, true);
     item = AddNewItem();
     item->SetName(head.Name);
   }

@@ -72,6 +72,50 @@ std::string Entries(const TKTCustomItemListEditor& editor) {
   return text;
 }
 
+namespace {
+
+struct TWalk {
+  const TKTCustomItemListEditor& Editor;
+  std::string Entries;
+  std::string Rows;
+
+  void Visit(TKTItemProps& items, bool isShown) {
+    for (int i = 0; i < items.GetCount(); ++i) {
+      TKTItemProp* item = items.GetItem(i);
+      const std::string name = item->GetName().toStdString();
+      Entries += (Entries.empty() ? "" : " ") + name;
+      const bool hasRow = isShown && item->IsVisibleItem();
+      if (hasRow) Rows += (Rows.empty() ? "" : " | ") + std::string(item == Editor.GetSelected() ? ">" : "") + name;
+      if (item->HasItems()) Visit(item->GetItems(), hasRow && item->IsExpanded());
+    }
+  }
+};
+
+TWalk Walked(const TKTCustomItemListEditor& editor) {
+  TWalk walk{editor, {}, {}};
+  walk.Visit(editor.GetItems(), true);
+  return walk;
+}
+
+}  // namespace
+
+std::string WalkedRows(const TKTCustomItemListEditor& editor) { return Walked(editor).Rows; }
+
+std::string WalkedEntries(const TKTCustomItemListEditor& editor) { return Walked(editor).Entries; }
+
+int OpenBrackets(TKTItemProps& items) {
+  int count = items.GetUpdateCount();
+  for (int i = 0; i < items.GetCount(); ++i) {
+    if (items.GetItem(i)->HasItems()) count += OpenBrackets(items.GetItem(i)->GetItems());
+  }
+  return count;
+}
+
+std::string TItemListTest::SelectedText() {
+  const TKTItemProp* item = FEditor->GetSelected();
+  return item ? item->GetName().toStdString() : "-";
+}
+
 void TItemListTest::Fill(const std::string& tree) {
   std::istringstream text(tree);
   tests::Fill(text, Items());

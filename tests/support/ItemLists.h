@@ -15,6 +15,12 @@ std::string Rows(const TKTCustomItemListEditor& editor);
 /// The names of all items in the order of the editor's list.
 std::string Entries(const TKTCustomItemListEditor& editor);
 
+/// The same two texts by a plain walk through the tree: what the editor's lists have to be.
+std::string WalkedRows(const TKTCustomItemListEditor& editor);
+std::string WalkedEntries(const TKTCustomItemListEditor& editor);
+/// The update counts of all collections, added up.
+int OpenBrackets(TKTItemProps& items);
+
 /// An editor with no window, for tests of the item model.
 class TItemListTest : public testing::Test {
  protected:
@@ -26,6 +32,9 @@ class TItemListTest : public testing::Test {
   std::string TreeText() { return Tree(Items()); }
   std::string RowsText() { return Rows(*FEditor); }
   std::string EntriesText() { return Entries(*FEditor); }
+
+  /// The name of the item under the cursor, or "-".
+  std::string SelectedText();
 
   std::unique_ptr<TKTItemListEditor> FEditor = Make<TKTItemListEditor>();
 };

@@ -1,0 +1,109 @@
+#include "kt/KTItemListEditor/ItemProp.h"
+#include "support/ItemLists.h"
+#include "support/ItemProbe.h"
+
+namespace kt::tests {
+namespace {
+
+class ItemPropRowsTest : public TItemListTest {
+ protected:
+  ItemPropRowsTest() { FEditor = Make<TProbeEditor>(); }
+};
+
+// Expansion.
+
+TEST_F(ItemPropRowsTest, ExpandingTellsRowsOnce) {
+  Fill("a [b]");
+  EXPECT_EQ(
+      "editor.Refresh editor.AdjustGridCount editor.Invalidate editor.SizeChanged editor.Invalidate "
+      "[].VisibleChanged(a) "
+      "a.VisibleChanged",
+      Heard([&] { Item("a").Expand(); }));
+  EXPECT_EQ("", Heard([&] { Item("a").Expand(); }));
+}
+
+TEST_F(ItemPropRowsTest, ExpandingAnItemWithoutARowTellsNobody) {
+  Fill("a [b [c]]");
+  EXPECT_EQ("", Heard([&] { Item("a.b").Expand(); }));
+  EXPECT_TRUE(Item("a.b").IsExpanded());
+  EXPECT_EQ("", Heard([&] { Item("a.b").Collapse(); }));
+}
+
+TEST_F(ItemPropRowsTest, SettingExpandedExpandsAndCollapses) {
+  Fill("a [b]");
+  Item("a").SetExpanded(true);
+  EXPECT_EQ(">a | b", RowsText());
+  Item("a").SetExpanded(false);
+  EXPECT_EQ(">a", RowsText());
+}
+
+TEST_F(ItemPropRowsTest, FullExpandAndFullCollapseGoThroughTheSubtree) {
+  Fill("a [b [c [d]]] e [f]");
+  Item("a").FullExpand();
+  EXPECT_EQ(">a | b | c | d | e", RowsText());
+  Item("a").FullCollapse();
+  EXPECT_EQ(">a | e", RowsText());
+  EXPECT_FALSE(Item("a.b.c").IsExpanded());
+}
+
+TEST_F(ItemPropRowsTest, HasVisibleChildrenLooksAtDirectChildrenOnly) {
+  Fill("a [b [c]]");
+  EXPECT_TRUE(Item("a").HasVisibleChildren());
+  Item("a.b").SetVisible(false);
+  EXPECT_FALSE(Item("a").HasVisibleChildren());
+  EXPECT_TRUE(Item("a.b").HasVisibleChildren());
+}
+
+TEST_F(ItemPropRowsTest, TheVisibleChildCountIsThatOfRowsBelow) {
+  Fill("a [b [c d] e f]");
+  EXPECT_EQ(0, Item("a").GetVisibleChildCount());
+  Item("a").Expand();
+  EXPECT_EQ(3, Item("a").GetVisibleChildCount());
+  Item("a.b").Expand();
+  EXPECT_EQ(5, Item("a").GetVisibleChildCount());
+  Item("a.e").SetVisible(false);
+  EXPECT_EQ(4, Item("a").GetVisibleChildCount());
+  Item("a").SetVisible(false);
+  EXPECT_EQ(0, Item("a").GetVisibleChildCount());
+}
+
+TEST_F(ItemPropRowsTest, TheVisibleChildCountIsRightInAnUpdateBracketToo) {
+  Fill("a [b]");
+  Item("a").Expand();
+  Items().BeginUpdate();
+  Item("a").GetItems().Add();
+  EXPECT_EQ(2, Item("a").GetVisibleChildCount());
+  Items().EndUpdate();
+}
+
+// Rows of read-only items.
+
+TEST_F(ItemPropRowsTest, WithoutShowReadOnlyAReadOnlyItemLosesItsRowAndAReadOnlyCategoryKeepsIt) {
+  Fill("a b c");
+  Item("a").SetReadOnly(true);
+  Item("b").SetCategory(true);
+  Item("b").SetReadOnly(true);
+  FEditor->SetDisplayOptions({doColumnTitles});
+  EXPECT_EQ(">b | c", RowsText());
+  FEditor->SetDisplayOptions({doColumnTitles, doShowReadOnly});
+  EXPECT_EQ(">a | b | c", RowsText());
+}
+
+TEST_F(ItemPropRowsTest, WithoutShowReadOnlyRowsComeAndGoWithReadOnlyEnabledAndCategory) {
+  Fill("a b");
+  FEditor->SetDisplayOptions({doColumnTitles});
+  Item("a").SetReadOnly(true);
+  EXPECT_EQ(">b", RowsText());
+  Item("a").SetCategory(true);
+  EXPECT_EQ("a | >b", RowsText());
+  Item("a").SetCategory(false);
+  EXPECT_EQ(">b", RowsText());
+  Item("a").SetReadOnly(false);
+  Item("a").SetEnabled(false);
+  EXPECT_EQ(">b", RowsText());
+  Item("a").SetEnabled(true);
+  EXPECT_EQ("a | >b", RowsText());
+}
+
+}  // namespace
+}  // namespace kt::tests

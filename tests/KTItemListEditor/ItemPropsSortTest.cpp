@@ -1,0 +1,185 @@
+#include "kt/KTItemListEditor/ItemProps.h"
+#include "kt/rtl/strings/StringList.h"
+#include "support/Expect.h"
+#include "support/ItemLists.h"
+#include "support/ItemProbe.h"
+
+namespace kt::tests {
+namespace {
+
+class ItemPropsSortTest : public TItemListTest {
+ protected:
+  int FindIndex(const char* name) {
+    int index = -2;
+    FFound = Items().Find(name, index);
+    return index;
+  }
+
+  bool FFound = false;
+};
+
+int Backwards(TKTItemProps& items, int first, int second) {
+  return items.CompareStrings(items.GetItem(second)->GetName(), items.GetItem(first)->GetName());
+}
+
+TEST_F(ItemPropsSortTest, SortOrdersByNameOnAllLevels) {
+  Fill("c b [z x] a");
+  Items().Sort(false);
+  EXPECT_EQ("a b [x z] c", TreeText());
+  EXPECT_EQ("a b x z c", EntriesText());
+}
+
+TEST_F(ItemPropsSortTest, SortOfThisLevelOnlyLeavesTheOthers) {
+  Fill("c b [z x] a");
+  Items().Sort(true);
+  EXPECT_EQ("a b [z x] c", TreeText());
+}
+
+TEST_F(ItemPropsSortTest, CategoriesAreOrderedAmongTheItemsByName) {
+  Fill("c a");
+  Items().AddCategory("b", false);
+  Items().Sort(true);
+  EXPECT_EQ("a b c", TreeText());
+}
+
+TEST_F(ItemPropsSortTest, SortComparesAsTheEditorDoes) {
+  Fill("b A a B");
+  FEditor->SetCaseSensitive(true);
+  Items().Sort(true);
+  EXPECT_EQ("A B a b", TreeText());
+  FEditor->SetCaseSensitive(false);
+  Items().Sort(true);
+  EXPECT_LT(1, Items().IndexOf("b"));
+}
+
+TEST_F(ItemPropsSortTest, CustomSortGoesByItsComparison) {
+  Fill("a c b [x z y]");
+  Items().CustomSort(&Backwards, false);
+  EXPECT_EQ("c b [z y x] a", TreeText());
+}
+
+TEST_F(ItemPropsSortTest, SortingASortedCollectionHasNoEffect) {
+  Fill("a b c");
+  FEditor->SetSorted(true);
+  Items().GetItem(0)->SetIndex(2);
+  Items().Sort(false);
+  EXPECT_EQ("b c a", TreeText());
+  Items().CustomSort(&Backwards, true);
+  EXPECT_EQ("b c a", TreeText());
+}
+
+TEST_F(ItemPropsSortTest, EqualNamesComeInTheOrderOfTheFrameworksQuicksort) {
+  // The outer two change places and the inner two, then the two of each half.
+  Items().Add("a", "1");
+  Items().Add("a", "2");
+  Items().Add("a", "3");
+  Items().Add("a", "4");
+  Items().Sort(true);
+  QString values;
+  for (int i = 0; i < 4; ++i) values += Items().GetItem(i)->GetValuesText().trimmed();
+  EXPECT_EQ("3412", values);
+}
+
+TEST_F(ItemPropsSortTest, SortRunsInOneBracketAndTheRowsFollow) {
+  Fill("c b a [x]");
+  Item("a").Expand();
+  FEditor->SetSelected(&Item("b"));
+  Items().Sort(true);
+  EXPECT_EQ("a | >x | b | c", RowsText());
+  EXPECT_EQ(0, Items().GetUpdateCount());
+}
+
+// Sorted.
+
+TEST_F(ItemPropsSortTest, SwitchingSortedOnSortsAllLevelsAndTheCategoryMaps) {
+  Fill("c b [z x] a");
+  Items().GetCategories().SetCommaText("z=1,a=2");
+  FEditor->SetSorted(true);
+  EXPECT_EQ("a b [x z] c", TreeText());
+  EXPECT_TRUE(Item("b").GetItems().GetSorted());
+  EXPECT_TRUE(Item("b.x").GetItems().GetSorted());
+  EXPECT_EQ("a=2,z=1", Items().GetCategories().GetCommaText());
+  EXPECT_TRUE(FEditor->IsSorted());
+}
+
+TEST_F(ItemPropsSortTest, SwitchingSortedOffKeepsTheOrder) {
+  Fill("b a [y x]");
+  FEditor->SetSorted(true);
+  FEditor->SetSorted(false);
+  EXPECT_EQ("a [x y] b", TreeText());
+  EXPECT_FALSE(Item("a").GetItems().GetSorted());
+  EXPECT_FALSE(Items().GetCategories().GetSorted());
+  Items().Add("0", {});
+  EXPECT_EQ("a [x y] b 0", TreeText());
+}
+
+TEST_F(ItemPropsSortTest, NamedItemsGoToTheirPlaceOnASortedLevel) {
+  FEditor->SetSorted(true);
+  Fill("c a b");
+  EXPECT_EQ("a b c", TreeText());
+}
+
+TEST_F(ItemPropsSortTest, AnItemWithoutANameStaysAtTheEndOfASortedLevelDeliberately) {
+  FEditor->SetSorted(true);
+  Fill("a b");
+  Items().Add();
+  EXPECT_EQ("a b ", TreeText());
+}
+
+TEST_F(ItemPropsSortTest, AMovedItemStaysAtTheEndOfASortedLevelDeliberately) {
+  Fill("a b [x z]");
+  FEditor->SetSorted(true);
+  Item("a").SetCollection(&Item("b").GetItems());
+  EXPECT_EQ("b [x z a]", TreeText());
+}
+
+TEST_F(ItemPropsSortTest, ChangingCaseSensitivityOfASortedListHasNoEffectOnItsOrder) {
+  Fill("a B c");
+  FEditor->SetSorted(true);
+  FEditor->SetCaseSensitive(true);
+  EXPECT_EQ("a B c", TreeText());
+}
+
+TEST_F(ItemPropsSortTest, SwitchingSortedOnRefreshesTheGridAfterTheSort) {
+  FEditor = Make<TProbeEditor>();
+  Fill("b a");
+  EXPECT_EQ(
+      "[].Changing [].Changing editor.AdjustGridCount [].Update(nil) editor.Refresh editor.AdjustGridCount "
+      "editor.Invalidate",
+      Heard([&] { FEditor->SetSorted(true); }));
+  EXPECT_EQ("", Heard([&] { FEditor->SetSorted(true); }));
+  EXPECT_EQ("", Heard([&] { FEditor->SetSorted(false); }));
+}
+
+// Find.
+
+TEST_F(ItemPropsSortTest, FindAnswersTheFirstOfEqualNames) {
+  Fill("a b b b c");
+  FEditor->SetSorted(true);
+  EXPECT_EQ(1, FindIndex("B"));
+  EXPECT_TRUE(FFound);
+}
+
+TEST_F(ItemPropsSortTest, FindAnswersThePlaceForANameThatIsNotThere) {
+  Fill("b d");
+  FEditor->SetSorted(true);
+  EXPECT_EQ(0, FindIndex("a"));
+  EXPECT_EQ(1, FindIndex("c"));
+  EXPECT_EQ(2, FindIndex("e"));
+  EXPECT_FALSE(FFound);
+}
+
+TEST_F(ItemPropsSortTest, FindInAnEmptyCollectionAnswersItsBeginning) {
+  EXPECT_EQ(0, FindIndex("a"));
+  EXPECT_FALSE(FFound);
+}
+
+TEST_F(ItemPropsSortTest, WithoutAnEditorNamesAreSortedWithoutRegardToCase) {
+  const auto item = Make<TKTItemProp>(nullptr);
+  for (const char* name : {"b", "C", "A"}) item->GetItems().Add(name, {});
+  item->GetItems().Sort(true);
+  EXPECT_EQ("A b C", Tree(item->GetItems()));
+}
+
+}  // namespace
+}  // namespace kt::tests
