@@ -70,6 +70,7 @@ void TKTItemProp::Construct() {
 }
 
 void TKTItemProp::Destruct() {
+  FIsDying = true;
   TItemWatcher::TellDeath(this);
   FItems.reset();
   TCollectionItem::Destruct();
@@ -84,6 +85,17 @@ TKTItemProp::TRare& TKTItemProp::Rare() {
 
 TKTItemProps* TKTItemProp::GetCollection() const {
   return static_cast<TKTItemProps*>(TCollectionItem::GetCollection());
+}
+
+void TKTItemProp::SetCollection(TCollection* value) {
+  const TItemWatch self(this);
+  try {
+    TCollectionItem::SetCollection(value);
+  } catch (...) {
+    // The dying go all the same.
+    if (self && !FIsDying && GetCollection()) TItemRows::EnterAgain(*this);
+    throw;
+  }
 }
 
 TKTItemProp* TKTItemProp::GetParent() const {

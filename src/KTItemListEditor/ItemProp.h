@@ -38,6 +38,9 @@ class TKTItemProp : public TCollectionItem {
   // Where the item stands.
 
   TKTItemProps* GetCollection() const;
+  /// When somebody who is told of it throws, the item counts where it is then: in the collection that does not let it
+  /// go, or in the new one.
+  void SetCollection(TCollection* value) override;
   /// The item that this one is a child of; null at the top level and outside any collection.
   TKTItemProp* GetParent() const;
   /// The editor at the root, or null.
@@ -271,6 +274,7 @@ class TKTItemProp : public TCollectionItem {
   bool FSortsItems : 1 = false;
   /// Counts in its collection's sums.
   bool FIsCounted : 1 = false;
+  bool FIsDying : 1 = false;
   unsigned FEditStyle : 2 = esSimple;
 };
 

@@ -67,10 +67,15 @@ void TKTItemProp::Collapse() { SetExpandedFlag(false); }
 
 template <void (TKTItemProp::*Change)()>
 void TKTItemProp::ChangeFully(bool isExpanded) {
-  FExpanded = isExpanded;
-  if (!FItems) return VisibleChanged();
+  if (!FItems) {
+    FExpanded = isExpanded;
+    return VisibleChanged();
+  }
   const TItemWatch self(this);
   const TUpdateBracket bracket(*FItems);
+  FExpanded = isExpanded;
+  // At once, so that the end of the bracket counts right also when one of the children throws.
+  TItemRows::MarkStale(*this);
   for (int i = 0; self && i < FItems->GetCount(); ++i) (FItems->GetItem(i)->*Change)();
   if (self) VisibleChanged();
 }

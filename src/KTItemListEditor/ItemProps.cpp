@@ -31,6 +31,9 @@ TKTItemProps::TKTItemProps(TPersistent* owner, const TClassInfo* itemClass)
 TKTItemProps::~TKTItemProps() = default;
 
 void TKTItemProps::Destruct() {
+  // Without asking anybody: whatever an override throws, no item outlives its collection.
+  TOwnedCollection::BeginUpdate();
+  while (GetCount() > 0) delete GetItem(GetCount() - 1);
   TOwnedCollection::Destruct();
   ObserveItems(nullptr);
 }

@@ -35,6 +35,11 @@ void TItemRows::Leave(TKTItemProp& item) {
   if (items->FStale == &item) items->FStale = nullptr;
 }
 
+void TItemRows::EnterAgain(TKTItemProp& item) {
+  if (!item.FIsCounted) Enter(item);
+  Settle(item);
+}
+
 void TItemRows::MarkStale(TKTItemProp& item) {
   for (TKTItemProp* child = &item; child;) {
     TKTItemProps* items = child->GetCollection();

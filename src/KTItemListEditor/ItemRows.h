@@ -22,6 +22,8 @@ class TItemRows {
   /// `item` has become, or is about to be no longer, part of its collection.
   static void Enter(TKTItemProp& item);
   static void Leave(TKTItemProp& item);
+  /// An exception has kept `item` in its collection, whether it was about to leave or had just entered.
+  static void EnterAgain(TKTItemProp& item);
   /// `item` may take another number of rows than before.
   static void MarkStale(TKTItemProp& item);
   /// All items at any level may.

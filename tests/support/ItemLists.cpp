@@ -78,21 +78,23 @@ struct TWalk {
   const TKTCustomItemListEditor& Editor;
   std::string Entries;
   std::string Rows;
+  int EntryCount = 0;
+  int RowCount = 0;
 
   void Visit(TKTItemProps& items, bool isShown) {
     for (int i = 0; i < items.GetCount(); ++i) {
       TKTItemProp* item = items.GetItem(i);
       const std::string name = item->GetName().toStdString();
-      Entries += (Entries.empty() ? "" : " ") + name;
+      Entries += (EntryCount++ > 0 ? " " : "") + name;
       const bool hasRow = isShown && item->IsVisibleItem();
-      if (hasRow) Rows += (Rows.empty() ? "" : " | ") + std::string(item == Editor.GetSelected() ? ">" : "") + name;
+      if (hasRow) Rows += (RowCount++ > 0 ? " | " : "") + std::string(item == Editor.GetSelected() ? ">" : "") + name;
       if (item->HasItems()) Visit(item->GetItems(), hasRow && item->IsExpanded());
     }
   }
 };
 
 TWalk Walked(const TKTCustomItemListEditor& editor) {
-  TWalk walk{editor, {}, {}};
+  TWalk walk{.Editor = editor, .Entries = {}, .Rows = {}};
   walk.Visit(editor.GetItems(), true);
   return walk;
 }
