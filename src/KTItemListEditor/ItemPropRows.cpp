@@ -7,6 +7,20 @@
 
 namespace kt {
 
+namespace {
+
+/// The children of an item, for a bracket: whoever frees the item meanwhile ends that too.
+struct TChildren {
+  TItemWatch Parent;
+
+  void BeginUpdate() { Parent->GetItems().BeginUpdate(); }
+  void EndUpdate() {
+    if (Parent) Parent->GetItems().EndUpdate();
+  }
+};
+
+}  // namespace
+
 bool TKTItemProp::IsVisibleItem() {
   if (!GetVisible()) return false;
   if (FCategory || !IsReadOnly()) return true;
@@ -72,7 +86,8 @@ void TKTItemProp::ChangeFully(bool isExpanded) {
     return VisibleChanged();
   }
   const TItemWatch self(this);
-  const TUpdateBracket bracket(*FItems);
+  TChildren children{TItemWatch(this)};
+  const TUpdateBracket bracket(children);
   FExpanded = isExpanded;
   // At once, so that the end of the bracket counts right also when one of the children throws.
   TItemRows::MarkStale(*this);

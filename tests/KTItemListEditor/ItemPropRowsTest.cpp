@@ -46,6 +46,21 @@ TEST_F(ItemPropRowsTest, FullExpandAndFullCollapseGoThroughTheSubtree) {
   EXPECT_FALSE(Item("a.b.c").IsExpanded());
 }
 
+TEST_F(ItemPropRowsTest, AHandlerMayFreeTheItemThatIsBeingCollapsedFully) {
+  FEditor = Make<TKTItemListEditor>();
+  Fill("z a [b [c d e]]");
+  FEditor->FullExpand();
+  FEditor->SetSelected(&Item("a.b.e"));
+  FEditor->OnSelectCell = [this](TObject*, int, int, bool&) {
+    FEditor->OnSelectCell = nullptr;
+    delete &Item("a");
+  };
+  Item("a").FullCollapse();
+  EXPECT_EQ("z", TreeText());
+  EXPECT_EQ(WalkedRows(*FEditor), RowsText());
+  EXPECT_EQ(2, FEditor->GetRowCount());
+}
+
 TEST_F(ItemPropRowsTest, HasVisibleChildrenLooksAtDirectChildrenOnly) {
   Fill("a [b [c]]");
   EXPECT_TRUE(Item("a").HasVisibleChildren());
