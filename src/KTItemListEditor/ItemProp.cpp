@@ -92,8 +92,9 @@ void TKTItemProp::SetCollection(TCollection* value) {
   try {
     TCollectionItem::SetCollection(value);
   } catch (...) {
+    if (!self || !GetCollection()) throw;
     // The dying go all the same.
-    if (self && !FIsDying && GetCollection()) TItemRows::EnterAgain(*this);
+    FIsDying ? TItemRows::Leave(*this) : TItemRows::EnterAgain(*this);
     throw;
   }
 }

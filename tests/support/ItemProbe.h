@@ -144,6 +144,7 @@ class TProbeItems : public TKTItemProps {
     Hear(QStringLiteral("VisibleChanged(%1)").arg(NameOf(item)));
   }
   void Notify(TCollectionItem* item, TCollectionNotification action) override {
+    if (action == cnExtracting) Hear(QStringLiteral("Leaving"));
     TKTItemProps::Notify(item, action);
     Hear(QStringLiteral("Notify(%1,%2)").arg(NameOf(static_cast<TKTItemProp*>(item)), NameOf(action)));
   }
