@@ -14,6 +14,9 @@ namespace kt {
 
 /// A published property: its name, type, road to the value, declared default and stored rule.
 /// Immutable but for the lazily asked type (a class may publish a property of a class that is not described yet).
+///
+/// That the type is what its kind says and the road belongs to the family of that kind is checked once, when the type
+/// is asked for first: EPropertyError "Invalid property type: %s" with the name of the type.
 class TPropInfo {
  public:
   using TTypeGetter = std::function<const TTypeInfo*()>;
@@ -32,7 +35,8 @@ class TPropInfo {
     TStoredRule Stored = {};
   };
 
-  explicit TPropInfo(TDefinition definition) : FDefinition(std::move(definition)) {}
+  /// Raises EPropertyError "Invalid property" for a definition without a type or a road to the value.
+  explicit TPropInfo(TDefinition definition);
   TPropInfo(const TPropInfo&) = delete;
   TPropInfo& operator=(const TPropInfo&) = delete;
 

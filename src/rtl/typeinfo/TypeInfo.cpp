@@ -1,5 +1,8 @@
 #include "kt/rtl/typeinfo/TypeInfo.h"
 
+#include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/typeinfo/TypeOf.h"
 
 #include <algorithm>
@@ -20,17 +23,27 @@ qint64 LargestOf(TOrdType storage) {
   return largest.at(storage);
 }
 
+[[noreturn]] void RaiseInvalidType(const QString& name) { throw EPropertyError(Format(SInvalidPropertyType, {name})); }
+
 /// A set takes the smallest ordinal that has a bit for each member.
-TOrdType StorageForMembers(const TTypeInfo* component) {
+TOrdType StorageForMembers(const QString& name, const TTypeInfo* component) {
   const TOrdTypeInfo* members = OrdTypeOf(component);
-  const qint64 highest = members ? members->MaxValue() : 31;
-  if (highest < 8) return otUByte;
-  return highest < 16 ? otUWord : otULong;
+  if (!members) RaiseInvalidType(name);
+  if (members->MaxValue() < 8) return otUByte;
+  return members->MaxValue() < 16 ? otUWord : otULong;
+}
+
+/// Types made at run time need not be what their kind says.
+template <class T>
+const T* Checked(const TTypeInfo* type) {
+  const auto* checked = dynamic_cast<const T*>(type);
+  if (!checked) RaiseInvalidType(type->Name());
+  return checked;
 }
 
 template <class T>
 const T* OfKind(const TTypeInfo* type, TTypeKinds kinds) {
-  return type && kinds.Has(type->Kind()) ? static_cast<const T*>(type) : nullptr;
+  return type && kinds.Has(type->Kind()) ? Checked<T>(type) : nullptr;
 }
 
 }  // namespace
@@ -46,8 +59,36 @@ TEnumTypeInfo::TEnumTypeInfo(QString name, TOrdType storage, const TEnumTypeInfo
       FNames(booleanBase->Names()),
       FBase(booleanBase) {}
 
-TSetTypeInfo::TSetTypeInfo(QString name, const TTypeInfo* component)
-    : TOrdTypeInfo(tkSet, std::move(name), StorageForMembers(component), 0, 0), FComponent(component) {}
+TSetTypeInfo::TSetTypeInfo(const QString& name, const TTypeInfo* component)
+    : TOrdTypeInfo(tkSet, name, StorageForMembers(name, component), 0, 0), FComponent(component) {}
+
+void CheckTypeInfo(const TTypeInfo* type) {
+  switch (type->Kind()) {
+    case tkInteger:
+    case tkChar:
+    case tkWChar:
+      return void(Checked<TOrdTypeInfo>(type));
+    case tkEnumeration:
+      return void(Checked<TEnumTypeInfo>(type));
+    case tkSet:
+      return void(Checked<TSetTypeInfo>(type));
+    case tkFloat:
+      return void(Checked<TFloatTypeInfo>(type));
+    case tkString:
+      return void(Checked<TShortStringTypeInfo>(type));
+    case tkInt64:
+      return void(Checked<TInt64TypeInfo>(type));
+    case tkClass:
+      return void(Checked<TClassTypeInfo>(type));
+    case tkInterface:
+      return void(Checked<TInterfaceTypeInfo>(type));
+    case tkArray:
+    case tkDynArray:
+      return void(Checked<TArrayTypeInfo>(type));
+    default:
+      return;
+  }
+}
 
 const TOrdTypeInfo* OrdTypeOf(const TTypeInfo* type) {
   return OfKind<TOrdTypeInfo>(type, {tkInteger, tkChar, tkWChar, tkEnumeration, tkSet});

@@ -11,8 +11,9 @@ namespace kt {
 class TClassInfo;
 
 /// A type that published properties can have: its kind, its declared name and, in the descendants, what belongs to the
-/// kind. Immutable. Type infos of C++ types live as long as the process (TypeInfoOf()); those made at run time live as
-/// long as the class info that refers to them.
+/// kind. A type of a kind that has a descendant must be one: whoever needs what belongs to the kind raises
+/// EPropertyError "Invalid property type: %s" otherwise. Immutable. Type infos of C++ types live as long as the process
+/// (TypeInfoOf()); those made at run time live as long as the class info that refers to them.
 class TTypeInfo {
  public:
   TTypeInfo(TTypeKind kind, QString name) : FKind(kind), FName(std::move(name)) {}
@@ -64,7 +65,8 @@ class TEnumTypeInfo : public TOrdTypeInfo {
 /// tkSet: the type of the members.
 class TSetTypeInfo : public TOrdTypeInfo {
  public:
-  TSetTypeInfo(QString name, const TTypeInfo* component);
+  /// Raises EPropertyError when `component` has no ordinals.
+  TSetTypeInfo(const QString& name, const TTypeInfo* component);
 
   /// An enumeration, or an integer or character range.
   const TTypeInfo* CompType() const { return FComponent; }
@@ -139,6 +141,8 @@ class TArrayTypeInfo : public TTypeInfo {
   const TTypeInfo* FElement;
 };
 
+/// Raises EPropertyError when the type is not made of the class that its kind says.
+void CheckTypeInfo(const TTypeInfo* type);
 /// The ordinal data of a type, or null for types that are not ordinal.
 const TOrdTypeInfo* OrdTypeOf(const TTypeInfo* type);
 const TEnumTypeInfo* EnumTypeOf(const TTypeInfo* type);

@@ -14,7 +14,9 @@ TEST(PropInfoThreadsTest, SeveralThreadsMayBeTheFirstToAskForAType) {
   constexpr int threads = 4, turns = 200;
   std::atomic<int> good = 0;
   for (int i = 0; i < turns; ++i) {
-    const TPropInfo property({QStringLiteral("Width"), [] { return TypeInfoOf<int>(); }, nullptr});
+    auto road =
+        std::make_unique<TFunctionAccess<qint64>>([](TObject&) { return 0; }, TFunctionAccess<qint64>::TSetter());
+    const TPropInfo property({QStringLiteral("Width"), [] { return TypeInfoOf<int>(); }, std::move(road)});
     tests::InThreads(threads, [&](int) { good += property.PropType() == TypeInfoOf<int>(); });
   }
   EXPECT_EQ(threads * turns, good);

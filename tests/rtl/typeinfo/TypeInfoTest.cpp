@@ -1,0 +1,44 @@
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/typeinfo/EnumNames.h"
+#include "kt/rtl/typeinfo/TypeOf.h"
+#include "support/Expect.h"
+
+#include <gtest/gtest.h>
+
+namespace kt {
+namespace {
+
+using tests::MessageOf;
+
+TEST(TypeInfoTest, ATypeOfAKindThatSaysNothingMoreIsFine) {
+  const TTypeInfo text(tkLString, QStringLiteral("TText"));
+  EXPECT_NO_THROW(CheckTypeInfo(&text));
+}
+
+TEST(TypeInfoTest, AnEnumerationWithoutNamesIsRefusedWhereTheyAreNeeded) {
+  const TOrdTypeInfo bare(tkEnumeration, QStringLiteral("TBare"), otUByte, 0, 3);
+  EXPECT_EQ(QStringLiteral("Invalid property type: TBare"), MessageOf<EPropertyError>([&] { GetEnumName(&bare, 1); }));
+}
+
+TEST(TypeInfoTest, ASetOfWhatHasNoOrdinalsIsRefused) {
+  const TTypeInfo text(tkLString, QStringLiteral("string"));
+  EXPECT_EQ(QStringLiteral("Invalid property type: TTexts"),
+            MessageOf<EPropertyError>([&] { TSetTypeInfo(QStringLiteral("TTexts"), &text); }));
+  EXPECT_EQ(QStringLiteral("Invalid property type: TNothings"),
+            MessageOf<EPropertyError>([] { TSetTypeInfo(QStringLiteral("TNothings"), nullptr); }));
+}
+
+/// Kinds that need more than a name.
+class TypeInfoKindTest : public ::testing::TestWithParam<TTypeKind> {};
+
+TEST_P(TypeInfoKindTest, ATypeThatIsNotWhatItsKindSaysIsRefused) {
+  const TTypeInfo bare(GetParam(), QStringLiteral("TBare"));
+  EXPECT_EQ(QStringLiteral("Invalid property type: TBare"), MessageOf<EPropertyError>([&] { CheckTypeInfo(&bare); }));
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, TypeInfoKindTest,
+                         ::testing::Values(tkInteger, tkChar, tkWChar, tkEnumeration, tkSet, tkFloat, tkString, tkInt64,
+                                           tkClass, tkInterface, tkArray, tkDynArray));
+
+}  // namespace
+}  // namespace kt
