@@ -110,6 +110,7 @@ class TComponent : public TPersistent, public IInterfaceComponentReference {
   virtual bool HasParent() { return false; }
 
  protected:
+  friend class TFixupList;
   friend class TLoad;
   friend class TOwnedComponents;
   friend class TReader;

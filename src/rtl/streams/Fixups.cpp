@@ -13,12 +13,14 @@
 #include "kt/rtl/typeinfo/ClassInfo.h"
 #include "kt/rtl/typeinfo/PropValues.h"
 
+#include <QHash>
 #include <QScopeGuard>
 
 #include <algorithm>
 #include <atomic>
 #include <map>
 #include <mutex>
+#include <optional>
 
 namespace kt {
 namespace {
@@ -28,7 +30,7 @@ namespace {
 struct TWaitingList {
   std::atomic<size_t> Count = 0;
   std::mutex Mutex;
-  std::vector<TFixups::TFixup> List;
+  TFixupList List;
 };
 
 TWaitingList& Waiting() {
@@ -37,19 +39,30 @@ TWaitingList& Waiting() {
   return *waiting;
 }
 
-void Wait(const TFixups::TFixup& fixup) {
+/// Works on the list, and remembers how long it is.
+template <class F>
+void ChangeWaiting(F change) {
   const std::lock_guard lock(Waiting().Mutex);
-  Waiting().List.push_back(fixup);
-  Waiting().Count = Waiting().List.size();
+  const auto done = qScopeGuard([] { Waiting().Count = Waiting().List.Count(); });
+  change(Waiting().List);
 }
 
-std::vector<TFixups::TFixup> TakeWaiting() {
+void Wait(const TFixup& fixup) {
+  ChangeWaiting([&](TFixupList& list) { list.Add(fixup); });
+}
+
+/// The first waiting reference from `number` on, which is set to its number.
+std::optional<TFixup> WaitingFrom(TFixupList::TNumber& number) {
   const std::lock_guard lock(Waiting().Mutex);
-  // Those that go on waiting shall find room.
-  std::vector<TFixups::TFixup> room;
-  room.reserve(Waiting().List.size());
-  Waiting().Count = 0;
-  return std::exchange(Waiting().List, std::move(room));
+  const auto* found = Waiting().List.From(number);
+  if (!found) return std::nullopt;
+  number = found->first;
+  return found->second;
+}
+
+TFixupList::TNumber EndOfWaiting() {
+  const std::lock_guard lock(Waiting().Mutex);
+  return Waiting().List.NextNumber();
 }
 
 std::map<int, TFindGlobalComponent>& Finders() {
@@ -57,16 +70,36 @@ std::map<int, TFindGlobalComponent>& Finders() {
   return finders;
 }
 
-TComponent* Target(const TFixups::TFixup& fixup) {
+TComponent* TargetInScope(const TFixup& fixup) {
   for (TComponent* scope = fixup.Root; scope; scope = scope->GetOwnerComponent()) {
     if (TComponent* found = FindNestedComponent(scope, fixup.Name)) return found;
   }
+  return nullptr;
+}
+
+QString GlobalName(const TFixup& fixup) { return fixup.Name.section(u'.', 0, 0); }
+
+TComponent* Target(const TFixup& fixup) {
+  if (TComponent* found = TargetInScope(fixup)) return found;
   const qsizetype dot = fixup.Name.indexOf(u'.');
-  TComponent* root = FindGlobalComponent(dot < 0 ? fixup.Name : fixup.Name.left(dot));
+  TComponent* root = FindGlobalComponent(GlobalName(fixup));
   return root && dot >= 0 ? FindNestedComponent(root, QStringView(fixup.Name).sliced(dot + 1)) : root;
 }
 
-void SetReference(const TFixups::TFixup& fixup, TComponent* target) {
+/// Forms that are known to be missing, so that many references to one of them ask for it once.
+class TMissingForms {
+ public:
+  bool Has(const TFixup& fixup) {
+    const QString name = GlobalName(fixup);
+    const auto known = FKnown.constFind(name);
+    return known != FKnown.constEnd() ? *known : *FKnown.insert(name, !FindGlobalComponent(name));
+  }
+
+ private:
+  QHash<QString, bool> FKnown;
+};
+
+void SetReference(const TFixup& fixup, TComponent* target) {
   if (fixup.Property->Kind() == tkInterface) {
     SetInterfaceProp(fixup.Instance, fixup.Property, static_cast<IInterfaceComponentReference*>(target));
   } else {
@@ -84,7 +117,7 @@ QByteArray StoredIdent(const QString& name) {
 }
 
 /// False while the component is missing.
-bool Apply(const TFixups::TFixup& fixup) {
+bool Apply(const TFixup& fixup) {
   TComponent* target = Target(fixup);
   if (!target || !fixup.Instance) return false;
   if (fixup.IsKept && dynamic_cast<TUnknownComponent*>(target)) {
@@ -100,18 +133,14 @@ bool Apply(const TFixups::TFixup& fixup) {
   return true;
 }
 
-bool Concerns(const TFixups::TFixup& fixup, const TPersistent* object) {
+bool Concerns(const TFixup& fixup, const TPersistent* object) {
   return fixup.Instance == object || fixup.PathStart == object || static_cast<const TPersistent*>(fixup.Root) == object;
-}
-
-void RemoveFrom(std::vector<TFixups::TFixup>& list, const TPersistent* object) {
-  std::erase_if(list, [object](const TFixups::TFixup& fixup) { return Concerns(fixup, object); });
 }
 
 }  // namespace
 
 void TFixups::Remove(const TPersistent* object) {
-  RemoveFrom(FList, object);
+  std::erase_if(FList, [object](const TFixup& fixup) { return Concerns(fixup, object); });
   if (FCurrent && Concerns(*FCurrent, object)) FCurrent->Instance = nullptr;
 }
 
@@ -169,35 +198,42 @@ TComponent* FindNestedComponent(TComponent* root, QStringView path) {
 
 void GlobalFixupReferences() {
   if (Waiting().Count == 0) return;
-  // While they are being resolved they belong to a load, so that objects destroyed meanwhile disappear.
+  // While they are being set they belong to a load, so that objects destroyed meanwhile disappear.
   TLoad load;
-  load.Fixups().Take(TakeWaiting());
+  TMissingForms missing;
+  const TFixupList::TNumber end = EndOfWaiting();
+  TFixupList::TNumber number = 0;
+  for (auto fixup = WaitingFrom(number); fixup && number < end; fixup = WaitingFrom(++number)) {
+    const bool isFound = TargetInScope(*fixup) || (!missing.Has(*fixup) && Target(*fixup));
+    if (!isFound) continue;
+    load.Fixups().Add(*fixup);
+    ChangeWaiting([number](TFixupList& list) { list.Remove(number); });
+  }
   load.Fixups().ResolveGuarded();
 }
 
 QStringList GetFixupReferenceNames(TComponent* root) {
   const std::lock_guard lock(Waiting().Mutex);
-  QStringList names;
-  for (const TFixups::TFixup& fixup : Waiting().List) {
-    if (fixup.Root == root) names.append(fixup.Name);
-  }
-  return names;
+  return Waiting().List.NamesOf(root);
 }
 
 QString FindWaitingReference(const TPersistent* instance, const TPropInfo* property) {
   if (Waiting().Count == 0) return {};
   const std::lock_guard lock(Waiting().Mutex);
-  for (const TFixups::TFixup& fixup : Waiting().List) {
-    if (fixup.Instance == instance && fixup.Property == property) return fixup.Name;
-  }
-  return {};
+  const TFixup* fixup = Waiting().List.Find(instance, property);
+  return fixup ? fixup->Name : QString();
+}
+
+QString FindKeptReference(const TPersistent* instance, const TPropInfo* property) {
+  if (Waiting().Count == 0) return {};
+  const std::lock_guard lock(Waiting().Mutex);
+  const TFixup* fixup = Waiting().List.Find(instance, property);
+  return fixup && fixup->IsKept ? fixup->Name : QString();
 }
 
 void RemoveFixups(TPersistent* object) {
   if (Waiting().Count == 0) return;
-  const std::lock_guard lock(Waiting().Mutex);
-  RemoveFrom(Waiting().List, object);
-  Waiting().Count = Waiting().List.size();
+  ChangeWaiting([object](TFixupList& list) { list.RemoveAllOf(object); });
 }
 
 }  // namespace kt

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kt/rtl/streams/FixupList.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -16,27 +18,10 @@ class TPropInfo;
 /// References to components that are known by name only until everything is loaded.
 class TFixups {
  public:
-  struct TFixup {
-    /// Null when one of the objects was destroyed while the reference was being set.
-    TPersistent* Instance;
-    const TPropInfo* Property;
-    /// The form, or nested form, that the name is relative to; the forms around it come next.
-    TComponent* Root;
-    /// "Button1", or "DataModule1.Table1" for a component of another form, or names joined by dots for nested ones.
-    QString Name;
-    /// Where the property was found, for messages and for keeping what cannot be set: an object and a path from there.
-    TPersistent* PathStart;
-    QString Path;
-    /// Keep the reference as unknown data when its target is a stand-in.
-    bool IsKept;
-  };
-
   void Add(TFixup fixup) { FList.push_back(std::move(fixup)); }
   /// Drops the references that `object` holds or that are relative to it.
   void Remove(const TPersistent* object);
   void Clear() { FList.clear(); }
-  /// Takes over references that have waited.
-  void Take(std::vector<TFixup> fixups) { FList = std::move(fixups); }
   /// Sets every reference whose component exists now and hands the others to the waiting list of the process.
   void Resolve();
   /// The same, but a reference that cannot be set is reported (HandleException()) and dropped, and the others go on.
@@ -66,6 +51,8 @@ TComponent* FindNestedComponent(TComponent* root, QStringView path);
 void GlobalFixupReferences();
 /// What a property of an object waits for; empty when it does not wait.
 QString FindWaitingReference(const TPersistent* instance, const TPropInfo* property);
+/// As FindWaitingReference(), but only for what was read with the policy to keep what is unknown: writers put it back.
+QString FindKeptReference(const TPersistent* instance, const TPropInfo* property);
 /// The waiting references of a root as names of what they wait for.
 QStringList GetFixupReferenceNames(TComponent* root);
 /// Forgets the waiting references that an object holds, or that are relative to it as their root. Every persistent

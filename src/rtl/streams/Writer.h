@@ -91,6 +91,7 @@ class TWriter : public TFiler {
   void WriteReference(const TPropInfo* property, const TComponent* inherited, TComponent* target);
   void WriteNested(const TPropInfo* property, TPersistent* object);
   void WriteCollectionProperty(const TPropInfo* property, TCollection* collection);
+  bool WriteWaitingReference(const TPersistent* instance, const TPropInfo* property);
   void WriteInterfaceProperty(TPersistent* instance, const TPropInfo* property);
   void WriteMethodProperty(TPersistent* instance, const TPropInfo* property);
 

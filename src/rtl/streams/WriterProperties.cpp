@@ -4,6 +4,7 @@
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/KeptData.h"
 #include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/streams/Fixups.h"
 #include "kt/rtl/streams/IntegerConsts.h"
 #include "kt/rtl/streams/Writer.h"
 #include "kt/rtl/typeinfo/ClassInfo.h"
@@ -156,6 +157,7 @@ IInterface* TWriter::AncestorInterface(const TPropInfo* property) {
 void TWriter::WriteClassProperty(TPersistent* instance, const TPropInfo* property) {
   TObject* value = GetObjectProp(instance, property);
   if (!value) {
+    if (WriteWaitingReference(instance, property)) return;
     if (!property->IsWritable() || !AncestorObject(property)) return;
     WritePropertyName(property->Name());
     return FOutput.WriteConstant(fcNil);
@@ -169,6 +171,17 @@ void TWriter::WriteClassProperty(TPersistent* instance, const TPropInfo* propert
   } else if (auto* object = dynamic_cast<TPersistent*>(value)) {
     WriteNested(property, object);
   }
+}
+
+/// A reference read with the policy to keep whose component has not come to exist; true when there is one.
+bool TWriter::WriteWaitingReference(const TPersistent* instance, const TPropInfo* property) {
+  const QString name = FindKeptReference(instance, property);
+  if (name.isEmpty()) return false;
+  const TPropInfo* inherited = FAncestor ? GetPropInfo(FAncestor, property->Name()) : nullptr;
+  if (inherited && FindKeptReference(FAncestor, inherited) == name) return true;
+  WritePropertyName(property->Name());
+  FOutput.WriteIdent(name);
+  return true;
 }
 
 void TWriter::WriteReference(const TPropInfo* property, const TComponent* inherited, TComponent* target) {
@@ -220,6 +233,7 @@ void TWriter::WriteCollectionProperty(const TPropInfo* property, TCollection* co
 void TWriter::WriteInterfaceProperty(TPersistent* instance, const TPropInfo* property) {
   IInterface* value = GetInterfaceProp(instance, property);
   IInterface* inherited = AncestorInterface(property);
+  if (!value && WriteWaitingReference(instance, property)) return;
   if (!value && inherited) {
     WritePropertyName(property->Name());
     return FOutput.WriteConstant(fcNil);

@@ -11,6 +11,7 @@ namespace kt {
 namespace {
 
 using tests::BinaryOf;
+using tests::TextOf;
 using tests::TSample;
 
 /// A form that refers to a component of another form.
@@ -67,6 +68,73 @@ TEST_F(FixupsTest, ADestroyedObjectNoLongerWaits) {
 TEST_F(FixupsTest, ADanglingReferenceStaysNil) {
   const auto form = Load("object Form1: TSample\n  Partner = NoSuchComponent\nend\n");
   EXPECT_EQ(nullptr, form->Partner);
+}
+
+TEST_F(FixupsTest, ADanglingReferenceIsWrittenBackUnderThePolicyToKeep) {
+  const char* const text =
+      "object Form1: TSample\n"
+      "  Small = 0\n"
+      "  Color = 0\n"
+      "  Partner = Data1.Table1\n"
+      "  Reference = Nowhere\n"
+      "end\n";
+  TReader reader(BinaryOf(text));
+  reader.UnknownClasses = upKeep;
+  EXPECT_EQ(text, TextOf(reader.ReadRoot<TSample>().get()));
+}
+
+TEST_F(FixupsTest, ADanglingReferenceIsNotWrittenUnderTheOtherPolicies) {
+  EXPECT_EQ(std::string::npos, TextOf(Load(Referring).get()).find("Partner"));
+}
+
+TEST_F(FixupsTest, AReferenceThatHasBeenSetIsWrittenAsItIsNow) {
+  TReader reader(BinaryOf(Referring));
+  reader.UnknownClasses = upKeep;
+  const auto form = reader.ReadRoot<TSample>();
+  form->Partner = form.get();
+  EXPECT_NE(std::string::npos, TextOf(form.get()).find("Partner = Owner"));
+}
+
+TEST_F(FixupsTest, AnInheritedDanglingReferenceIsLeftOut) {
+  TReader first(BinaryOf(Referring));
+  TReader second(BinaryOf(Referring));
+  first.UnknownClasses = second.UnknownClasses = upKeep;
+  const auto ancestor = first.ReadRoot<TSample>();
+  const auto descendant = second.ReadRoot<TSample>();
+  TWriter writer;
+  writer.WriteRootComponent(descendant.get(), ancestor.get());
+  EXPECT_EQ("inherited Form1: TSample\nend\n", TextOf(writer.Data()));
+}
+
+TEST_F(FixupsTest, AComponentWhoseReferenceWaitsSaysSo) {
+  const auto form = Load("object Form1: TSample\n  Reference = Data1\n  Partner = Nowhere\nend\n");
+  EXPECT_TRUE(form->HasState(csFixups));
+  MakeData();
+  GlobalFixupReferences();
+  EXPECT_TRUE(form->Reference && form->HasState(csFixups));
+}
+
+TEST_F(FixupsTest, AComponentWithoutWaitingReferencesNoLongerSaysSo) {
+  const auto form = Load(Referring);
+  EXPECT_TRUE(form->HasState(csFixups));
+  MakeData();
+  GlobalFixupReferences();
+  EXPECT_FALSE(form->HasState(csFixups));
+}
+
+TEST_F(FixupsTest, TheFormThatManyReferencesMissIsAskedForOnce) {
+  const auto form = Load(
+      "object Form1: TSample\n  Partner = Far.A\n  Reference = Far.B\n  object C: TSample\n    Partner = Far.C\n  end\n"
+      "end\n");
+  int asked = 0;
+  const int finder = RegisterFindGlobalComponentProc([&asked](const QString&) -> TComponent* {
+    ++asked;
+    return nullptr;
+  });
+  GlobalFixupReferences();
+  UnRegisterFindGlobalComponentProc(finder);
+  EXPECT_EQ(1, asked);
+  EXPECT_EQ(3, GetFixupReferenceNames(form.get()).size());
 }
 
 TEST_F(FixupsTest, TwoComponentsMayReferToEachOther) {
