@@ -1,5 +1,6 @@
 #include "kt/rtl/collections/Collection.h"
 
+#include "kt/rtl/collections/ItemsExchange.h"
 #include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Exceptions.h"
@@ -62,8 +63,13 @@ void TCollection::Assign(TPersistent* source) {
   if (!other) return TPersistent::Assign(source);
   if (other == this) return;
   const TUpdateBracket bracket(*this);
-  Clear();
-  for (int i = 0; i < other->GetCount(); ++i) Add()->Assign(other->GetItem(i));
+  TItemsExchange formerItems(*this);
+  try {
+    for (int i = 0; i < other->GetCount(); ++i) Add()->Assign(other->GetItem(i));
+  } catch (...) {
+    formerItems.PutBack();
+    throw;
+  }
 }
 
 void TCollection::EndUpdate() {

@@ -37,6 +37,7 @@ class TCollectionItem : public TPersistent {
 
  protected:
   friend class TCollection;
+  friend class TItemsExchange;
 
   /// `collection` may be null.
   explicit TCollectionItem(TCollection* collection) : FCollection(collection) {}
@@ -97,7 +98,8 @@ class TCollection : public TPersistent {
   /// The item with that id, or null. Time in proportion to the count.
   TCollectionItem* FindItemID(int id) const;
 
-  /// Replaces the items by copies of the source's items, within one update bracket.
+  /// Replaces the items by copies of the source's items, within one update bracket. When a copy fails, the former items
+  /// come back, the same objects with their ids.
   void Assign(TPersistent* source) override;
   /// Brackets nest. Virtual so that a descendant can act before the first change.
   virtual void BeginUpdate() { ++FUpdateCount; }
@@ -109,6 +111,7 @@ class TCollection : public TPersistent {
 
  protected:
   friend class TCollectionItem;
+  friend class TItemsExchange;
 
   explicit TCollection(const TClassInfo* itemClass) : FItemClass(itemClass) {}
 

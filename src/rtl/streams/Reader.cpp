@@ -1,6 +1,6 @@
 #include "kt/rtl/streams/Reader.h"
 
-#include "kt/rtl/collections/Collection.h"
+#include "kt/rtl/collections/ItemsExchange.h"
 #include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/conversions/Text.h"
@@ -81,11 +81,17 @@ void TReader::ReadComponents(TComponent* owner, TComponent* parent, const std::f
   }
 }
 
+void TReader::SetEncoding(TEightBitEncoding encoding) {
+  FEncoding = encoding;
+  FInput.SetEncoding(encoding);
+}
+
 void TReader::RaiseInvalidRoot() { throw EInvalidCast(SInvalidCast.toString()); }
 
 /// Runs over the whole input once, so that what is damaged is refused before an object is touched.
 void TReader::CheckStructure(const TParseProc& parse) {
   TBinaryReader reader(FData);
+  reader.SetEncoding(FEncoding);
   reader.Seek(FInput.Position());
   TIdleFormSink nowhere;
   TBinaryFormParser parser(reader, nowhere);
@@ -243,13 +249,18 @@ void TReader::ReadItems(TCollection& collection) {
   const TLoad::TUse use(*FLoad, &collection);
   TUpdateOfLiving target{collection, use};
   const TUpdateBracket bracket(target);
-  collection.Clear();
-  while (!FInput.EndOfList()) {
-    ReadItemBegin();
-    ReadProperties(*collection.Add());
+  TItemsExchange formerItems(collection);
+  try {
+    while (!FInput.EndOfList()) {
+      ReadItemBegin();
+      ReadProperties(*collection.Add());
+      FInput.ReadListEnd();
+    }
     FInput.ReadListEnd();
+  } catch (...) {
+    if (use.IsAlive()) formerItems.PutBack();
+    throw;
   }
-  FInput.ReadListEnd();
 }
 
 std::unique_ptr<TComponent> ReadComponentFromBinary(const QByteArray& data) {

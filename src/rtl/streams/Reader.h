@@ -113,6 +113,8 @@ class TReader : public TFiler {
   void ReadListEnd() { FInput.ReadListEnd(); }
   bool EndOfList() { return FInput.EndOfList(); }
   void SkipValue() { FInput.SkipValue(); }
+  /// How 8-bit strings with bytes from 128 up are read: in the encoding of the form's author; Windows-1252 unless set.
+  void SetEncoding(TEightBitEncoding encoding);
   void ReadCollectionBegin() { FInput.ReadCollectionBegin(); }
   /// Begins an item of a collection, whose end is a list end. Passes over the index that may stand before it: the order
   /// of the items already says it.
@@ -122,8 +124,9 @@ class TReader : public TFiler {
   /// Reads properties into `instance` up to the list end, which is not read. Outside a component's load, references are
   /// resolved before this returns, in the root first.
   void ReadProperties(TPersistent& instance);
-  /// Replaces the items of `collection` by those that follow; the type code vaCollection has been consumed. Outside a
-  /// component's load as ReadProperties().
+  /// Replaces the items of `collection` by those that follow; the type code vaCollection has been consumed. When an
+  /// item cannot be read, the former items come back, the same objects with their ids. Outside a component's load as
+  /// ReadProperties().
   void ReadCollection(TCollection& collection);
 
  private:
@@ -179,6 +182,7 @@ class TReader : public TFiler {
   /// All of the input: components and properties that nobody knows are taken out of it as they are.
   QByteArray FData;
   TBinaryReader FInput;
+  TEightBitEncoding FEncoding = eeWindows1252;
   TComponent* FOwner = nullptr;
   TComponent* FParent = nullptr;
   /// The name, as DefineProperties() has to match it, of the property being read; empty once somebody has taken it.

@@ -18,7 +18,7 @@ class FixupListTest : public ::testing::Test {
   }
 
   void Add(TSample* instance, const char* property, const char* name) {
-    FList.Add({instance, FindPropInfo(instance, QLatin1StringView(property)), FForm.get(), QString::fromLatin1(name),
+    FList.Add({instance, FindPropInfo(instance, QString::fromLatin1(property)), FForm.get(), QString::fromLatin1(name),
                instance, QString(), false});
   }
   QString Find(TSample* instance, QStringView property) const {

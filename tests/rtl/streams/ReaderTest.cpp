@@ -423,6 +423,23 @@ TEST_F(ReaderTest, AnIntegerTypeMayHaveNames) {
   UnRegisterIntegerConsts(tests::SampleColorTypeInfo());
 }
 
+TEST_F(ReaderTest, OldStringsAreReadInTheGivenEncoding) {
+  // The euro sign in Windows-1252, and two bytes that make up another character in UTF-8.
+  const QByteArray euro("TPF0\7TSample\1S\4Text\6\1\x80\0\0", 24);
+  const QByteArray twoBytes("TPF0\7TSample\1S\4Text\6\2\xC3\xA9\0\0", 25);
+  TReader byDefault(euro);
+  TReader utf8(twoBytes);
+  utf8.SetEncoding(eeUtf8);
+  EXPECT_EQ(QStringLiteral("\u20AC"), byDefault.ReadRoot<TSample>()->Text);
+  EXPECT_EQ(QStringLiteral("\u00E9"), utf8.ReadRoot<TSample>()->Text);
+}
+
+TEST_F(ReaderTest, OldStringsThatAreInvalidInTheEncodingAreRefusedBeforeAnObjectIsMade) {
+  TReader reader(QByteArray("TPF0\7TSample\1S\4Text\6\1\x80\0\0", 24));
+  reader.SetEncoding(eeUtf8);
+  EXPECT_THROW(reader.ReadRootComponent(nullptr), EReadError);
+}
+
 TEST_F(ReaderTest, ADeviceIsReadToItsEnd) {
   QByteArray data = BinaryOf("object S: TSample\n  Whole = 5\nend\n");
   QBuffer device(&data);
