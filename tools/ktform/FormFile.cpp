@@ -3,9 +3,9 @@
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/streams/FileSaving.h"
 
 #include <QFile>
-#include <QSaveFile>
 
 namespace ktform {
 namespace {
@@ -25,10 +25,6 @@ QByteArray LoadFile(const QString& fileName) {
   return content;
 }
 
-void SaveFile(const QString& fileName, const QByteArray& content) {
-  QSaveFile file(fileName);
-  const bool saved = file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
-  if (!saved) Fail<kt::EFCreateError>(kt::SFCreateError, file);
-}
+void SaveFile(const QString& fileName, const QByteArray& content) { kt::SaveBytesToFile(fileName, content); }
 
 }  // namespace ktform

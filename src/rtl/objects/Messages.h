@@ -40,6 +40,7 @@ inline constexpr QLatin1StringView SInvalidImage{"Invalid stream format"};
 inline constexpr QLatin1StringView SPropertyException{"Error reading %s%s%s: %s"};
 inline constexpr QLatin1StringView SAncestorNotFound{"Ancestor for '%s' not found"};
 inline constexpr QLatin1StringView SFCreateError{"Cannot create file \"%s\". %s"};
+inline constexpr QLatin1StringView SFWriteError{"Cannot write file \"%s\". %s"};
 inline constexpr QLatin1StringView SFOpenError{"Cannot open file \"%s\". %s"};
 inline constexpr QLatin1StringView SParseError{"%s on line %d"};
 inline constexpr QLatin1StringView SIdentifierExpected{"Identifier expected"};

@@ -1,12 +1,12 @@
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/streams/FileSaving.h"
 #include "kt/rtl/strings/Strings.h"
 #include "kt/rtl/strings/TextEncoding.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace kt {
 
@@ -40,13 +40,7 @@ void TStrings::LoadFromFile(const QString& fileName) {
 
 void TStrings::LoadFromStream(QIODevice& stream) { SetTextStr(DecodeText(ReadToEnd(stream))); }
 
-void TStrings::SaveToFile(const QString& fileName) {
-  QSaveFile file(fileName);
-  // Unbuffered: committing does not notice that its buffer could not be written in full.
-  if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) RaiseFileError<EFCreateError>(SFCreateError, file);
-  SaveToStream(file);
-  if (!file.commit()) throw EWriteError(SWriteError.toString());
-}
+void TStrings::SaveToFile(const QString& fileName) { SaveBytesToFile(fileName, EncodeText(GetTextStr())); }
 
 void TStrings::SaveToStream(QIODevice& stream) {
   const QByteArray bytes = EncodeText(GetTextStr());

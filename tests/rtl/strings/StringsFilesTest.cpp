@@ -157,7 +157,8 @@ TEST_F(StringsFilesTest, AFullDiskLeavesTheOldFile) {
   Write("out.txt", "kept");
   auto list = NewList({QString(100'000, u'x')});
   const TFileSizeLimit limit(1000);
-  EXPECT_EQ("Stream write error", RaisedBy<EWriteError>([&] { list->SaveToFile(Path("out.txt")); }));
+  EXPECT_EQ("Cannot write file \"" + Path("out.txt").toStdString() + "\". File too large",
+            RaisedBy<EWriteError>([&] { list->SaveToFile(Path("out.txt")); }));
   EXPECT_EQ("out.txt", Files());
   EXPECT_EQ("kept", Read("out.txt"));
 }
@@ -167,7 +168,8 @@ TEST_F(StringsFilesTest, ADiskThatIsFullInTheMiddleOfAShortFileLeavesTheOldFile)
   // Little enough for a buffer that would be written by the commit only.
   auto list = NewList({QString(2000, u'x')});
   const TFileSizeLimit limit(1000);
-  EXPECT_EQ("Stream write error", RaisedBy<EWriteError>([&] { list->SaveToFile(Path("out.txt")); }));
+  EXPECT_EQ("Cannot write file \"" + Path("out.txt").toStdString() + "\". File too large",
+            RaisedBy<EWriteError>([&] { list->SaveToFile(Path("out.txt")); }));
   EXPECT_EQ("out.txt", Files());
   EXPECT_EQ("kept", Read("out.txt"));
 }
