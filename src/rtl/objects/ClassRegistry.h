@@ -18,7 +18,7 @@ void RegisterClasses(std::initializer_list<const TClassInfo*> classInfos);
 /// Takes back a registration; its ancestors stay.
 void UnRegisterClass(const TClassInfo* classInfo);
 void UnRegisterClasses(std::initializer_list<const TClassInfo*> classInfos);
-/// The registered class of that name, without regard to ASCII case, or null.
+/// The registered class of that name, without regard to case, or null.
 const TClassInfo* GetClass(QStringView name);
 /// As GetClass(), but raises EClassNotFound "Class %s not found".
 const TClassInfo* FindClass(QStringView name);

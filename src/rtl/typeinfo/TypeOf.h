@@ -140,8 +140,13 @@ struct TTypeOf<E> {
   }
 };
 
+/// Whether sets of an enumeration have a bit for each of its names.
+template <class E>
+inline constexpr bool SetHoldsNames = std::size(TEnumNames<E>::Values) <= 8 * sizeof(typename TSet<E>::TBits);
+
 template <class E>
 struct TTypeOf<TSet<E>> {
+  static_assert(SetHoldsNames<E>, "specialise TSetStorage for an enumeration with more than 32 names");
   static const TTypeInfo* Info() {
     static const TSetTypeInfo info(QString::fromLatin1(TEnumNames<E>::SetName), TypeInfoOf<E>());
     return &info;

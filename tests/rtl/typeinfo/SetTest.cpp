@@ -1,10 +1,34 @@
 #include "kt/rtl/typeinfo/Set.h"
 #include "kt/rtl/typeinfo/TypeKind.h"
+#include "kt/rtl/typeinfo/TypeOf.h"
 
 #include <gtest/gtest.h>
 
 namespace kt {
+namespace tests {
+
+enum TManyNames { mnFirst };
+enum TManyNamesWide { mwFirst };
+
+}  // namespace tests
+
+template <>
+struct TEnumNames<tests::TManyNames> {
+  static constexpr const char* Values[33] = {};
+};
+template <>
+struct TEnumNames<tests::TManyNamesWide> : TEnumNames<tests::TManyNames> {};
+template <>
+struct TSetStorage<tests::TManyNamesWide> {
+  using Type = quint64;
+};
+
 namespace {
+
+TEST(SetTest, MoreThan32NamesNeedAWiderStorage) {
+  EXPECT_FALSE(SetHoldsNames<tests::TManyNames>);
+  EXPECT_TRUE(SetHoldsNames<tests::TManyNamesWide>);
+}
 
 TEST(SetTest, BitNStandsForOrdinalN) {
   EXPECT_EQ(0b10000010u, (TTypeKinds{tkInteger, tkClass}).Bits());
