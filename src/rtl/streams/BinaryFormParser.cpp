@@ -58,7 +58,7 @@ void TBinaryFormParser::Step() {
 
 void TBinaryFormParser::Push(TFrameKind kind) {
   if (FFrames.size() >= std::size_t(FNestingLimit)) {
-    const QString what = FillFormText(SNestingTooDeep, QString::number(FNestingLimit));
+    const QString what = MessageAbout(SNestingTooDeep, QString::number(FNestingLimit));
     throw EReadError(AtOffset(what, FReader.Position(), FReader.Path().ToString()));
   }
   FFrames.push_back({kind});

@@ -55,7 +55,7 @@ void TBinaryWriter::Count(TValueType type, qsizetype count) {
 }
 
 void TBinaryWriter::FailName(QLatin1StringView what, QStringView name) const {
-  throw EWriteError(AtOffset(FillFormText(what, ShownName(name)), Position(), FPath.ToString()));
+  throw EWriteError(AtOffset(MessageAbout(what, ShownName(name)), Position(), FPath.ToString()));
 }
 
 void TBinaryWriter::WriteResourceHeader(QStringView name, qint64 size) {

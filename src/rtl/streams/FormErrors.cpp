@@ -5,7 +5,7 @@
 
 namespace kt {
 
-QString FillFormText(QLatin1StringView pattern, QStringView argument) {
+QString MessageAbout(QLatin1StringView pattern, QStringView argument) {
   // A number arrives as text too, and Format() minds the difference.
   if (QString(pattern).contains(QLatin1StringView("%d"))) return Format(pattern, {argument.toLongLong()});
   return Format(pattern, {argument});

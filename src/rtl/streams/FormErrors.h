@@ -7,8 +7,8 @@
 /// How the errors of the form formats are worded: what is wrong, then where.
 namespace kt {
 
-/// `pattern` with its `%s` replaced, or its `%d` by the number that `argument` is.
-QString FillFormText(QLatin1StringView pattern, QStringView argument);
+/// The message `pattern` about `argument`: its `%s` is replaced, or its `%d` by the number that `argument` is.
+QString MessageAbout(QLatin1StringView pattern, QStringView argument);
 
 /// `name` fit to be shown on one line: what cannot be printed becomes a question mark.
 QString ShownName(QStringView name);

@@ -13,7 +13,7 @@ TTextParser::TTextParser(const QByteArray& text, IFormSink& sink, const TTextPar
     : FSink(sink), FLexer(DecodeFormText(text, options.Fallback)), FNestingLimit(options.NestingLimit) {}
 
 void TTextParser::Fail(QLatin1StringView what, QStringView argument) const {
-  FLexer.Fail(FillFormText(what, argument));
+  FLexer.Fail(MessageAbout(what, argument));
 }
 
 void TTextParser::Expect(char symbol) {

@@ -45,7 +45,7 @@ TTextWriter::TTextWriter(TByteSink& sink, const TTextWriterOptions& options) : F
 
 void TTextWriter::FailName(QStringView name) const {
   const QString path = FPath.ToString();
-  throw EWriteError(FillFormText(SNameNotText, ShownName(name)) +
+  throw EWriteError(MessageAbout(SNameNotText, ShownName(name)) +
                     (path.isEmpty() ? QString() : QStringLiteral(" (") + path + u')'));
 }
 

@@ -6,18 +6,18 @@
 namespace kt {
 namespace {
 
-TEST(FormErrorsTest, ATextIsFilledIn) { EXPECT_EQ(QStringLiteral("'[' expected"), FillFormText(SCharExpected, u"[")); }
+TEST(FormErrorsTest, ATextIsFilledIn) { EXPECT_EQ(QStringLiteral("'[' expected"), MessageAbout(SCharExpected, u"[")); }
 
 TEST(FormErrorsTest, ANumberIsFilledIn) {
-  EXPECT_EQ(QStringLiteral("Nesting deeper than 200 levels"), FillFormText(SNestingTooDeep, u"200"));
+  EXPECT_EQ(QStringLiteral("Nesting deeper than 200 levels"), MessageAbout(SNestingTooDeep, u"200"));
 }
 
 TEST(FormErrorsTest, AMessageWithoutAPlaceStaysAsItIs) {
-  EXPECT_EQ(SIdentifierExpected, FillFormText(SIdentifierExpected, u"x"));
+  EXPECT_EQ(SIdentifierExpected, MessageAbout(SIdentifierExpected, u"x"));
 }
 
 TEST(FormErrorsTest, WhatIsFilledInMayLookLikeAPlaceholder) {
-  EXPECT_EQ(QStringLiteral("%d%s%% expected"), FillFormText(SSymbolExpected, u"%d%s%%"));
+  EXPECT_EQ(QStringLiteral("%d%s%% expected"), MessageAbout(SSymbolExpected, u"%d%s%%"));
   EXPECT_EQ(QStringLiteral("%d%s%% on line 3, column 7"), OnLine(QStringLiteral("%d%s%%"), 3, 7));
 }
 
