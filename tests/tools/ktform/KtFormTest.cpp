@@ -59,8 +59,7 @@ TEST_F(KtFormTest, NothingIsLeftOfAFileThatCannotBeSaved) {
   Write("a.dfm", kText);
   const TRun run = Run({"to-binary", "a.dfm", "nowhere/a.bin"});
   EXPECT_EQ(1, run.Status);
-  EXPECT_TRUE(run.Errors.startsWith("a.dfm: error: Cannot create file \"nowhere/a.bin\". "))
-      << run.Errors.toStdString();
+  EXPECT_TRUE(run.Errors.contains("/nowhere/a.bin\". ")) << run.Errors.toStdString();
   EXPECT_EQ(QStringList{QStringLiteral("a.dfm")}, QDir(FFolder.path()).entryList(QDir::Files));
 }
 
@@ -68,8 +67,7 @@ TEST_F(KtFormTest, TheNameOfAFileMayLookLikeAPlaceholder) {
   Write("a.dfm", kText);
   const TRun run = Run({"to-binary", "a.dfm", "nowhere/%s%d%%.bin"});
   EXPECT_EQ(1, run.Status);
-  EXPECT_TRUE(run.Errors.startsWith("a.dfm: error: Cannot create file \"nowhere/%s%d%%.bin\". "))
-      << run.Errors.toStdString();
+  EXPECT_TRUE(run.Errors.contains("/nowhere/%s%d%%.bin\". ")) << run.Errors.toStdString();
 }
 
 TEST_F(KtFormTest, CheckPrintsOneLineAFile) {
