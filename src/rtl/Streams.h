@@ -1,6 +1,7 @@
 #pragma once
 
 /// Reading and writing components: the binary and the text object format.
+#include "kt/rtl/streams/FileSaving.h"
 #include "kt/rtl/streams/Filer.h"
 #include "kt/rtl/streams/Fixups.h"
 #include "kt/rtl/streams/FormConversion.h"

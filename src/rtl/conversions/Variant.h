@@ -81,8 +81,8 @@ static_assert(sizeof(Variant) == sizeof(QVariant));
 inline TVarType VarType(const Variant& v) { return v.VarType(); }
 inline bool VarIsEmpty(const Variant& v) { return v.IsEmpty(); }
 inline bool VarIsNull(const Variant& v) { return v.IsNull(); }
-/// Unassigned or Null.
-inline bool VarIsClear(const Variant& v) { return v.VarType() <= varNull; }
+/// Unassigned; Null is a value here.
+inline bool VarIsClear(const Variant& v) { return v.IsEmpty(); }
 inline bool VarIsType(const Variant& v, TVarType type) { return v.VarType() == type; }
 /// An integer or a Boolean.
 bool VarIsOrdinal(const Variant& v);

@@ -70,17 +70,19 @@ TVariantRelationship CompareValues(const Variant& a, const Variant& b) {
   return CompareNumbers(NumberOf(a, targetOfA), NumberOf(b, targetOfB));
 }
 
+bool HasNoValue(const Variant& v) { return v.VarType() <= varNull; }
+
 }  // namespace
 
 TVariantRelationship VarCompareValue(const Variant& a, const Variant& b) {
-  if (VarIsClear(a) || VarIsClear(b)) return a.VarType() == b.VarType() ? vrEqual : vrNotEqual;
+  if (HasNoValue(a) || HasNoValue(b)) return a.VarType() == b.VarType() ? vrEqual : vrNotEqual;
   return CompareValues(a, b);
 }
 
 bool VarSameValue(const Variant& a, const Variant& b) { return VarCompareValue(a, b) == vrEqual; }
 
 bool operator<(const Variant& a, const Variant& b) {
-  if (VarIsClear(a) || VarIsClear(b)) return std::min<int>(a.VarType(), 2) < std::min<int>(b.VarType(), 2);
+  if (HasNoValue(a) || HasNoValue(b)) return std::min<int>(a.VarType(), 2) < std::min<int>(b.VarType(), 2);
   return CompareValues(a, b) == vrLessThan;
 }
 

@@ -58,9 +58,6 @@ class EVariantTypeCastError : public EVariantError {
 class EVariantOverflowError : public EVariantError {
   using EVariantError::EVariantError;
 };
-class EVariantInvalidOpError : public EVariantError {
-  using EVariantError::EVariantError;
-};
 
 class EListError : public Exception {
   using Exception::Exception;
@@ -69,9 +66,6 @@ class EStringListError : public Exception {
   using Exception::Exception;
 };
 class EComponentError : public Exception {
-  using Exception::Exception;
-};
-class EResNotFound : public Exception {
   using Exception::Exception;
 };
 

@@ -76,6 +76,5 @@ inline constexpr QLatin1StringView SInvalidFormat{"Format '%s' invalid or incomp
 inline constexpr QLatin1StringView SVarTypeCouldNotConvert{"Could not convert variant of type (%s) into type (%s)"};
 inline constexpr QLatin1StringView SVarTypeConvertOverflow{
     "Overflow while converting variant of type (%s) into type (%s)"};
-inline constexpr QLatin1StringView SInvalidVarOp{"Invalid variant operation"};
 
 }  // namespace kt

@@ -217,13 +217,6 @@ QStringList GetFixupReferenceNames(TComponent* root) {
   return Waiting().List.NamesOf(root);
 }
 
-QString FindWaitingReference(const TPersistent* instance, const TPropInfo* property) {
-  if (Waiting().Count == 0) return {};
-  const std::lock_guard lock(Waiting().Mutex);
-  const TFixup* fixup = Waiting().List.Find(instance, property);
-  return fixup ? fixup->Name : QString();
-}
-
 QString FindKeptReference(const TPersistent* instance, const TPropInfo* property) {
   if (Waiting().Count == 0) return {};
   const std::lock_guard lock(Waiting().Mutex);

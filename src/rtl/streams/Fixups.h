@@ -49,9 +49,8 @@ TComponent* FindNestedComponent(TComponent* root, QStringView path);
 
 /// Sets all waiting references whose component exists now. To be called when a root component has come to exist.
 void GlobalFixupReferences();
-/// What a property of an object waits for; empty when it does not wait.
-QString FindWaitingReference(const TPersistent* instance, const TPropInfo* property);
-/// As FindWaitingReference(), but only for what was read with the policy to keep what is unknown: writers put it back.
+/// What a property of an object waits for, if it was read with the policy to keep what is unknown: writers put it back.
+/// Empty otherwise.
 QString FindKeptReference(const TPersistent* instance, const TPropInfo* property);
 /// The waiting references of a root as names of what they wait for.
 QStringList GetFixupReferenceNames(TComponent* root);

@@ -88,7 +88,11 @@ QByteArray MakeResource(const QByteArray& text, const TFormOptions& options) {
   return WithResourceHeader(MakeBinary(text, options));
 }
 
-QByteArray ReadAll(QIODevice& device) { return device.readAll(); }
+QByteArray ReadAll(QIODevice& device) {
+  QByteArray data = device.readAll();
+  if (device.isReadable() && device.atEnd()) return data;
+  throw EReadError(SReadError.toString() + u' ' + device.errorString());
+}
 
 void WriteAll(QIODevice& device, const QByteArray& data) {
   TByteSink sink(device);

@@ -249,6 +249,8 @@ void TReader::ReadItems(TCollection& collection) {
   const TLoad::TUse use(*FLoad, &collection);
   TUpdateOfLiving target{collection, use};
   const TUpdateBracket bracket(target);
+  // Deliberately, an empty list takes nothing away: items that the constructor made stay.
+  if (FInput.EndOfList()) return FInput.ReadListEnd();
   TItemsExchange formerItems(collection);
   try {
     while (!FInput.EndOfList()) {

@@ -16,6 +16,8 @@
 
 namespace kt {
 
+class Exception;
+
 class TBinaryFormParser;
 class TClassInfo;
 class TCollection;
@@ -42,8 +44,9 @@ enum TUnknownPolicy {
 /// designer (csDesigning) what the instance holds is marked csAncestor then, and every inherited component is told
 /// Updating() before its properties are read and Updated() when all references are set, before Loaded().
 ///
-/// Every failure is one exception: EReadError with the path of the object and property ("Error reading Form1.Color:
-/// ..."), EClassNotFound, EMethodNotFound, or the exception of the binary format with its byte offset.
+/// Every failure is one exception: EReadError with the object, the property and the place ("Error reading
+/// Button1.Color: Invalid property value at offset 85 (Form1.Button1.Color)"), EClassNotFound, EComponentError, or the
+/// exception of the binary format; each with its byte offset.
 class TReader : public TFiler {
  public:
   using TFindMethodEvent = std::function<TMethod(const QString& name)>;
@@ -165,8 +168,14 @@ class TReader : public TFiler {
   void ReadState(TComponent* component);
 
   void ReadProperty(TPersistent* instance);
+  /// The property being read, as the stream names it, the object that the path starts at, and the offset of its value.
+  struct TPropPath {
+    TPersistent* Instance = nullptr;
+    QString Path;
+    qint64 Start = 0;
+  };
   /// Raises the error of a property with its place, unless OnError passes over it.
-  void HandlePropertyError(TPersistent* instance, const QString& path, const QString& what);
+  void HandlePropertyError(const TPropPath& place, const Exception& error);
   void ReadPropertyPath(TPersistent* instance, const QString& path);
   void ReadDefinedProperty(TPersistent* instance, const QString& name);
   bool TakeUnknownProperty();
@@ -178,6 +187,7 @@ class TReader : public TFiler {
   void ReadMethodValue(TPersistent* instance, const TPropInfo* property);
   void ReadReference(TPersistent* instance, const TPropInfo* property);
   QString PathOf(TPersistent* instance) const;
+  QString FullPathOf(TPersistent* instance) const;
 
   /// All of the input: components and properties that nobody knows are taken out of it as they are.
   QByteArray FData;
@@ -187,11 +197,6 @@ class TReader : public TFiler {
   TComponent* FParent = nullptr;
   /// The name, as DefineProperties() has to match it, of the property being read; empty once somebody has taken it.
   QString FDefinedName;
-  /// The property being read, as the stream names it, and the object that the path starts at.
-  struct TPropPath {
-    TPersistent* Instance = nullptr;
-    QString Path;
-  };
   TPropPath FPropPath;
   /// What the stream calls the component being read; errors show it when that is gone.
   QString FPlace;

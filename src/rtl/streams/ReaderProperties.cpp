@@ -4,6 +4,7 @@
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/KeptData.h"
 #include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/streams/FormErrors.h"
 #include "kt/rtl/streams/IntegerConsts.h"
 #include "kt/rtl/streams/Reader.h"
 #include "kt/rtl/streams/UnknownComponent.h"
@@ -17,6 +18,11 @@
 namespace kt {
 namespace {
 
+/// An error that tells its place already.
+class EPlacedError : public EReadError {
+  using EReadError::EReadError;
+};
+
 /// Colours and the like are stored with or without their sign: 32 bits fit every 32-bit type.
 bool FitsType(const TOrdTypeInfo* type, qint64 value) {
   const bool isFullWidth = type->OrdType() == otSLong || type->OrdType() == otULong;
@@ -28,9 +34,9 @@ bool FitsType(const TOrdTypeInfo* type, qint64 value) {
 }  // namespace
 
 void TReader::ReadProperty(TPersistent* instance) {
-  const TPropPath outer = std::exchange(FPropPath, {instance, FInput.ReadShortString()});
-  const QString path = FPropPath.Path;
-  const qint64 start = FInput.Position();
+  const QString path = FInput.ReadShortString();
+  const TPropPath place{instance, path, FInput.Position()};
+  const TPropPath outer = std::exchange(FPropPath, place);
   try {
     if (dynamic_cast<TUnknownComponent*>(instance)) {
       KeepProperty();
@@ -41,21 +47,26 @@ void TReader::ReadProperty(TPersistent* instance) {
   } catch (const EAbort&) {
     throw;
   } catch (const Exception& error) {
-    HandlePropertyError(instance, path, error.Message());
-    FInput.Seek(start);
+    HandlePropertyError(place, error);
+    FInput.Seek(place.Start);
     FInput.SkipValue();
   }
   FPropPath = outer;
 }
 
-void TReader::HandlePropertyError(TPersistent* instance, const QString& path, const QString& what) {
+void TReader::HandlePropertyError(const TPropPath& place, const Exception& error) {
   const bool isLost = FLoad->HasLostObject();
-  const QString object = isLost ? FPlace : PathOf(instance);
+  const QString object = isLost ? FPlace : PathOf(place.Instance);
   const QString dot = object.isEmpty() ? QString() : QStringLiteral(".");
-  const QString message = Format(SPropertyException, {object, dot, path, what});
-  if (isLost || !OnError || !OnError(message)) throw EReadError(message);
+  const QString message = Format(SPropertyException, {object, dot, place.Path, error.Message()});
+  if (isLost || !OnError || !OnError(message)) {
+    // Around the property of an item stands that of its collection; the inner one has the place.
+    if (dynamic_cast<const EPlacedError*>(&error)) throw EPlacedError(message);
+    const QString where = isLost ? object : FullPathOf(place.Instance);
+    throw EPlacedError(AtOffset(message, place.Start, where + dot + place.Path));
+  }
   // The event itself may have freed it.
-  if (FLoad->HasLostObject()) HandlePropertyError(nullptr, path, SObjectFreed.toString());
+  if (FLoad->HasLostObject()) HandlePropertyError(place, EReadError(SObjectFreed.toString()));
 }
 
 void TReader::ReadPropertyPath(TPersistent* instance, const QString& path) {
@@ -204,6 +215,17 @@ void TReader::ReadMethodValue(TPersistent* instance, const TPropInfo* property) 
   // A handler that the application does not have is as unknown as a property.
   FInput.Seek(start);
   if (!TakeUnknownProperty()) throw EReadError(SInvalidPropertyValue.toString());
+}
+
+/// With the names of the owners before it, up to the root's.
+QString TReader::FullPathOf(TPersistent* instance) const {
+  QString path = PathOf(instance);
+  auto* component = dynamic_cast<TComponent*>(instance);
+  while (component && component != FRoot) {
+    component = component->GetOwnerComponent();
+    if (component && !component->GetName().isEmpty()) path = component->GetName() + u'.' + path;
+  }
+  return path;
 }
 
 QString TReader::PathOf(TPersistent* instance) const {

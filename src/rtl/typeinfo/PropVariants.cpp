@@ -5,6 +5,8 @@
 #include "kt/rtl/typeinfo/MemberAccess.h"
 #include "kt/rtl/typeinfo/PropValues.h"
 
+#include <cmath>
+
 namespace kt {
 namespace {
 
@@ -12,8 +14,16 @@ namespace {
   throw EPropertyConvertError(Format(SInvalidPropertyType, {property->PropType()->Name()}));
 }
 
+/// Deliberately cuts decimals off where a variant itself would round.
+qint64 Truncated(const Variant& value) {
+  if (VarIsOrdinal(value)) return value.ToInt64();
+  constexpr double exactUpTo = 9007199254740992.0;
+  const double number = value.ToDouble();
+  return std::fabs(number) < exactUpTo ? static_cast<qint64>(number) : value.ToInt64();
+}
+
 qint64 Ranged(const Variant& value, qint64 min, qint64 max) {
-  const qint64 number = value.ToInt64();
+  const qint64 number = Truncated(value);
   if (number < min || number > max) throw ERangeError(SRangeError.toString());
   return number;
 }

@@ -23,7 +23,7 @@ TEST(VariantTest, ANewVariantIsUnassigned) {
 TEST(VariantTest, NullIsNotUnassigned) {
   const Variant v = Variant::Null();
   EXPECT_TRUE(VarIsNull(v));
-  EXPECT_TRUE(VarIsClear(v));
+  EXPECT_FALSE(VarIsClear(v));
   EXPECT_FALSE(VarIsEmpty(v));
   EXPECT_EQ(varNull, VarType(v));
 }

@@ -113,7 +113,7 @@ TEST_F(ObjectTest, DeleteThroughTheRootClassRunsTheWholeDestruction) {
 }
 
 TEST_F(ObjectTest, AThrowingConstructDestroysWithoutBeforeDestruction) {
-  EXPECT_THROW(Make<TDerived>("construct"), EInvalidOperation);
+  EXPECT_THROW(static_cast<void>(Make<TDerived>("construct")), EInvalidOperation);
   EXPECT_EQ(
       "TBase.Construct TDerived.Hook TDerived.Construct TDerived.Destruct TDerived.Hook TBase.Destruct ~TDerived "
       "~TBase ",
@@ -121,12 +121,12 @@ TEST_F(ObjectTest, AThrowingConstructDestroysWithoutBeforeDestruction) {
 }
 
 TEST_F(ObjectTest, AThrowingAfterConstructionDestroysTheObject) {
-  EXPECT_THROW(Make<TDerived>("after"), EInvalidOperation);
+  EXPECT_THROW(static_cast<void>(Make<TDerived>("after")), EInvalidOperation);
   EXPECT_TRUE(FLog.ends_with("TDerived.Destruct TDerived.Hook TBase.Destruct ~TDerived ~TBase "));
 }
 
 TEST_F(ObjectTest, AThrowingCppConstructorPassesTheExceptionOn) {
-  EXPECT_THROW(Make<TThrowingConstructor>(), EInvalidOperation);
+  EXPECT_THROW(static_cast<void>(Make<TThrowingConstructor>()), EInvalidOperation);
 }
 
 TEST_F(ObjectTest, AnExceptionWhileDestroyingIsReportedAndTheDestructionGoesOn) {

@@ -180,7 +180,7 @@ QString Outcome(TComponent* root) {
     reader.ReadRootComponent(root);
     return QStringLiteral("loaded");
   } catch (const Exception& error) {
-    return QString(error.Message())
+    return tests::WithoutPlace(error.Message())
         .replace(QRegularExpression(QStringLiteral("offset \\d+")), QStringLiteral("offset N"));
   }
 }

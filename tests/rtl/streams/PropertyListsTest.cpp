@@ -19,6 +19,7 @@ using tests::TextOf;
 using tests::TSample;
 using tests::TSampleItem;
 using tests::TSamplePart;
+using tests::WithoutPlace;
 
 class TShape : public TCollectionItem {
  public:
@@ -208,11 +209,11 @@ TEST_F(PropertyListsTest, AnIndexBeforeAnItemIsPassedOver) {
 TEST_F(PropertyListsTest, AnErrorInAnItemNamesItsPropertyAndTheOneAroundIt) {
   EXPECT_EQ(
       QStringLiteral("Error reading D.Shapes: Error reading TCollection[0].Nonsense: Property Nonsense does not exist"),
-      MessageOf<EReadError>([] {
+      WithoutPlace(MessageOf<EReadError>([] {
         Load(
             "object D: TDrawing\n  Shapes = <\n    item\n      ItemClass = 'TCircle'\n      Nonsense = 1\n"
             "    end>\nend\n");
-      }));
+      })));
 }
 
 TEST_F(PropertyListsTest, TheItemsOfADescendantAreNotComparedWithItsAncestor) {
@@ -273,7 +274,7 @@ TEST_F(PropertyListsTest, AMethodReadWithoutARootIsNone) {
   const auto sample = Make<TSample>();
   TReader reader(QByteArray("\10OnAction\7\14HandleAction\0", 24));
   EXPECT_EQ(QStringLiteral("Error reading TSample.OnAction: Invalid property value"),
-            MessageOf<EReadError>([&] { reader.ReadProperties(*sample); }));
+            WithoutPlace(MessageOf<EReadError>([&] { reader.ReadProperties(*sample); })));
 }
 
 TEST_F(PropertyListsTest, ADamagedListIsRefusedBeforeTheObjectIsTouched) {

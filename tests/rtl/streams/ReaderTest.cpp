@@ -20,6 +20,7 @@ using tests::BinaryOf;
 using tests::MessageOf;
 using tests::TextOf;
 using tests::TSample;
+using tests::WithoutPlace;
 
 /// Logs when it is loaded and can act then.
 class TLoadWatcher : public TComponent {
@@ -72,9 +73,24 @@ class ReaderTest : public ::testing::Test {
   static std::unique_ptr<TComponent> Load(const char* text) { return ReadComponentFromBinary(BinaryOf(text)); }
   template <class E>
   static QString ErrorOf(const char* text) {
-    return MessageOf<E>([text] { Load(text); });
+    return WithoutPlace(MessageOf<E>([text] { Load(text); }));
   }
 };
+
+TEST_F(ReaderTest, AnEmptyListDeliberatelyTakesNoItemsAway) {
+  const auto root = Make<TSample>();
+  root->GetItems().AddItem(QStringLiteral("one"));
+  TReader(BinaryOf("object S: TSample\n  Items = <>\nend\n")).ReadRootComponent(root.get());
+  EXPECT_EQ(1, root->GetItems().GetCount());
+}
+
+TEST_F(ReaderTest, AnErrorInAPropertyTellsTheOffsetOfTheValueAndTheWholePath) {
+  EXPECT_EQ(QStringLiteral("Error reading S.Whole: Invalid property value at offset 20 (S.Whole)"),
+            MessageOf<EReadError>([] { Load("object S: TSample\n  Whole = 4294967296\nend\n"); }));
+  EXPECT_EQ(
+      QStringLiteral("Error reading X.Align: Invalid property value at offset 31 (S.X.Align)"),
+      MessageOf<EReadError>([] { Load("object S: TSample\n  object X: TSample\n    Align = saLeft\n  end\nend\n"); }));
+}
 
 TEST_F(ReaderTest, AnUnknownPropertyRaisesWithThePathOfTheObject) {
   EXPECT_EQ(QStringLiteral("Error reading S.Nonsense: Property Nonsense does not exist"),

@@ -11,7 +11,6 @@ using tests::TSample;
 
 struct TCountEvent : TEvent<int, int&> {
   using TEvent::TEvent;
-  static constexpr char TypeName[] = "TCountEvent";
 };
 
 TEST(EventTest, AnEventIsOnePointerWide) { EXPECT_EQ(sizeof(void*), sizeof(TNotifyEvent)); }

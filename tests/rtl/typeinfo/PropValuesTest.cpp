@@ -140,7 +140,6 @@ TEST_F(PropValuesTest, EventsAreReadAndWritten) {
 
 struct TOtherEvent : TEvent<int> {
   using TEvent::TEvent;
-  static constexpr char TypeName[] = "TOtherEvent";
 };
 
 TEST_F(PropValuesTest, AMethodOfAnotherSignatureIsRefused) {
@@ -194,6 +193,18 @@ TEST_F(PropValuesTest, AVariantIsConvertedToThePropertysKind) {
   EXPECT_TRUE(Sample->Wide);
   EXPECT_EQ(tests::TSampleStyles({tests::ssBold}), Sample->Styles);
   EXPECT_EQ(QStringLiteral("7"), Sample->Text);
+}
+
+TEST_F(PropValuesTest, DecimalsAreDeliberatelyCutOffForAnInteger) {
+  SetPropValue(Sample.get(), u"Whole", Variant(QStringLiteral("2.7")));
+  EXPECT_EQ(2, Sample->Whole);
+  SetPropValue(Sample.get(), u"Whole", Variant(-2.7));
+  EXPECT_EQ(-2, Sample->Whole);
+}
+
+TEST_F(PropValuesTest, ALargeIntegerAsATextKeepsEveryBit) {
+  SetPropValue(Sample.get(), u"Big", Variant(QStringLiteral("9223372036854775807")));
+  EXPECT_EQ(std::numeric_limits<qint64>::max(), Sample->Big);
 }
 
 TEST_F(PropValuesTest, AnOrdinalOutsideTheTypeRaises) {

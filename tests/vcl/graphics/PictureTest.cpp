@@ -263,12 +263,12 @@ TEST_F(PictureTest, DataWithoutAClassIsAnEmptyPicture) {
 
 TEST_F(PictureTest, DataThatEndsInTheNameOfItsClassIsAnError) {
   EXPECT_EQ(QStringLiteral("Error reading TPictureHolder.Picture.Data: Invalid stream format"),
-            MessageOf<EReadError>([&] { Loaded(QByteArray("\7TBit")); }));
+            tests::WithoutPlace(MessageOf<EReadError>([&] { Loaded(QByteArray("\7TBit")); })));
 }
 
 TEST_F(PictureTest, ABrokenBitmapIsAnErrorThatNamesTheProperty) {
   EXPECT_EQ(QStringLiteral("Error reading TPictureHolder.Picture.Data: Bitmap image is not valid"),
-            MessageOf<EReadError>([&] { Loaded(QByteArray("\7TBitmap\3\0\0\0xyz", 15)); }));
+            tests::WithoutPlace(MessageOf<EReadError>([&] { Loaded(QByteArray("\7TBitmap\3\0\0\0xyz", 15)); })));
 }
 
 }  // namespace
