@@ -29,6 +29,8 @@ int TKTCustomItemListEditor::GetVisibleItemCount() const { return FItems ? FItem
 // What the items tell.
 
 void TKTCustomItemListEditor::ItemNotify(TKTItemProp* item, TCollectionNotification action) {
+  // An editor that dies tells nobody about cells any more.
+  if (HasState(csDestroying)) return;
   if (action == cnAdded) VisibleChanged(item);
   if (action == cnExtracting) UpdatingItemProp(item);
   Refresh();
@@ -39,6 +41,7 @@ void TKTCustomItemListEditor::UpdatingItemProp(TKTItemProp*) {
 }
 
 void TKTCustomItemListEditor::UpdateItemProp(TKTItemProp* item) {
+  if (HasState(csDestroying)) return;
   if (IsUpdating()) return;
   if (!item && !IsEditUpdateLocked()) {
     TEditUpdateLock lock{*this};
