@@ -3,6 +3,8 @@
 #include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 
+#include <exception>
+
 namespace kt {
 
 const TClassInfo* TCollectionItem::Class() {
@@ -25,8 +27,16 @@ void TCollectionItem::Destruct() {
 void TCollectionItem::SetCollection(TCollection* value) {
   if (GetCollection() == value) return;
   if (value) value->CheckClass(this);
-  if (IsInCollection()) FCollection->RemoveItem(this);
+  std::exception_ptr error;
+  try {
+    if (IsInCollection()) FCollection->RemoveItem(this);
+  } catch (...) {
+    if (IsInCollection() || !value) throw;
+    // It has left, and somebody who heard of that raised: without a collection nobody would own it.
+    error = std::current_exception();
+  }
   if (value) value->InsertItem(this);
+  if (error) std::rethrow_exception(error);
 }
 
 int TCollectionItem::GetIndex() const { return IsInCollection() ? FCollection->FItems.IndexOf(this) : -1; }
