@@ -2,6 +2,7 @@
 #include "kt/rtl/streams/FormConversion.h"
 #include "kt/rtl/streams/FormEventLog.h"
 #include "ktform/Commands.h"
+#include "ktform/EncodingOption.h"
 #include "ktform/FormFile.h"
 #include "ktform/Output.h"
 
@@ -10,24 +11,24 @@
 namespace ktform {
 namespace {
 
-kt::TFormEventLog LogOf(const QByteArray& form) {
+kt::TFormEventLog LogOf(const QByteArray& form, const kt::TFormOptions& options = {}) {
   kt::TFormEventLog log;
-  kt::ReadForm(form, log);
+  kt::ReadForm(form, log, options);
   return log;
 }
 
 /// The binary form without its resource header, if it had one.
-QByteArray Converted(const QByteArray& form) {
+QByteArray Converted(const QByteArray& form, const kt::TFormOptions& options = {}) {
   QByteArray result;
   switch (kt::TestStreamFormat(form)) {
     case kt::sofBinary:
-      kt::ObjectBinaryToText(form, result);
+      kt::ObjectBinaryToText(form, result, options);
       break;
     case kt::sofResource:
-      kt::ObjectResourceToText(form, result);
+      kt::ObjectResourceToText(form, result, options);
       break;
     default:
-      kt::ObjectTextToBinary(form, result);
+      kt::ObjectTextToBinary(form, result, options);
       break;
   }
   return result;
@@ -49,18 +50,18 @@ void Compare(const kt::TFormEventLog& before, const QByteArray& after, const QSt
       QStringLiteral("not the same after the way %1: %2").arg(step, FirstDifference(before.Text(), log.Text())));
 }
 
-QString CheckedCounts(const QString& fileName) {
+QString CheckedCounts(const QString& fileName, const kt::TFormOptions& options) {
   const QByteArray form = LoadFile(fileName);
-  const kt::TFormEventLog log = LogOf(form);
-  const QByteArray other = Converted(form);
+  const kt::TFormEventLog log = LogOf(form, options);
+  const QByteArray other = Converted(form, options);
   Compare(log, other, QStringLiteral("there"));
   Compare(log, Converted(other), QStringLiteral("back"));
   return QStringLiteral("(%1 objects, %2 properties)").arg(log.ObjectCount()).arg(log.PropertyCount());
 }
 
-bool Check(const QString& fileName, TProgress& progress) {
+bool Check(const QString& fileName, const kt::TFormOptions& options, TProgress& progress) {
   try {
-    const QString counts = CheckedCounts(fileName);
+    const QString counts = CheckedCounts(fileName, options);
     progress.Hide();
     Print(fileName + QStringLiteral(": ok ") + counts);
     return true;
@@ -74,12 +75,15 @@ bool Check(const QString& fileName, TProgress& progress) {
 }  // namespace
 
 TExitStatus RunCheck(const QStringList& arguments) {
-  if (arguments.isEmpty() || !AreFileNames(arguments, arguments.size())) return esWrongUsage;
-  TProgress progress(arguments.size());
+  QStringList names = arguments;
+  kt::TFormOptions options;
+  options.Encoding = TakeEncoding(names);
+  if (names.isEmpty() || !AreFileNames(names, names.size())) return esWrongUsage;
+  TProgress progress(names.size());
   bool good = true;
-  for (qsizetype i = 0; i < arguments.size(); ++i) {
+  for (qsizetype i = 0; i < names.size(); ++i) {
     progress.Show(i);
-    good = Check(arguments[i], progress) && good;
+    good = Check(names[i], options, progress) && good;
   }
   return good ? esDone : esFailed;
 }

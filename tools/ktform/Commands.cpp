@@ -7,10 +7,10 @@ namespace ktform {
 namespace {
 
 constexpr std::array<TCommand, 4> kCommands{{
-    {"to-text", "[--crlf] [--utf8] IN OUT", "write a form as text", RunToText},
-    {"to-binary", "[--resource] IN OUT", "write a form as binary", RunToBinary},
-    {"set", "IN OUT Path=Value...", "change properties", RunSet},
-    {"check", "FILE...", "convert each form to the other format and back, and compare", RunCheck},
+    {"to-text", "[--crlf] [--utf8] [--encoding NAME] IN OUT", "write a form as text", RunToText},
+    {"to-binary", "[--resource] [--encoding NAME] IN OUT", "write a form as binary", RunToBinary},
+    {"set", "[--encoding NAME] IN OUT Path=Value...", "change properties", RunSet},
+    {"check", "[--encoding NAME] FILE...", "convert each form to the other format and back, and compare", RunCheck},
 }};
 
 }  // namespace

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kt/rtl/objects/Exceptions.h"
+
 #include <QStringList>
 
 #include <span>
@@ -8,6 +10,11 @@ namespace ktform {
 
 /// What the program answers to the shell.
 enum TExitStatus { esDone = 0, esFailed = 1, esWrongUsage = 2 };
+
+/// The program was called in a manner that it does not know; the message says what is wrong.
+class EUsageError : public kt::Exception {
+  using Exception::Exception;
+};
 
 /// One command. A new one is a file with its function and a line in the table.
 struct TCommand {

@@ -43,7 +43,7 @@ class TLayoutScan {
     else if (FLexer.IsWord("object") || FLexer.IsWord("inherited") || FLexer.IsWord("inline"))
       Object();
     else
-      Property(FLayout.Objects.size() - 1);  // An object's properties come before its children.
+      Property(FObject);  // An object's properties come before its children, but may follow items.
   }
 
   void Object() {
@@ -52,6 +52,7 @@ class TLayoutScan {
     object.To = Take();
     Names(object);
     if (FLexer.IsSymbol('[')) object.To = Index();
+    FObject = FLayout.Objects.size();
     FLayout.Objects.push_back(std::move(object));
   }
 
@@ -83,28 +84,33 @@ class TLayoutScan {
       path += FLexer.Kind() == kt::ttIdentifier ? FLexer.Text() : QStringView(u".");
       Take();
     }
+    property.Key = KeyOf(FLayout.Objects[owner], path.toLower());
     property.AfterSign = Take();
     property.ValueFrom = From();
     property.IsCollection = FLexer.IsSymbol('<');
-    property.To = property.IsCollection ? Collection() : Value();
-    Add(FLayout.Objects[owner], std::move(property), path.toLower());
+    property.To = property.IsCollection ? Collection(property.Key) : Value();
+    Add(FLayout.Objects[owner], std::move(property));
   }
 
-  void Add(TObjectPlace& object, TPropertyPlace property, const QString& path) {
-    property.Key = path + u'#' + QString::number(object.CountOfPath[path]++);
+  static QString KeyOf(TObjectPlace& object, const QString& path) {
+    return path + u'#' + QString::number(object.CountOfPath[path]++);
+  }
+
+  static void Add(TObjectPlace& object, TPropertyPlace property) {
     object.IndexOfKey.insert(property.Key, qsizetype(object.Properties.size()));
     object.Properties.push_back(std::move(property));
   }
 
-  qsizetype Collection() {
+  qsizetype Collection(const QString& key) {
     Take();
-    while (!FLexer.IsSymbol('>')) Item();
+    while (!FLexer.IsSymbol('>')) Item(key);
     return Take();
   }
 
-  void Item() {
+  void Item(const QString& collection) {
     const std::size_t index = FLayout.Objects.size();
     TObjectPlace item;
+    item.Name = collection;
     item.ClassName = QStringLiteral("item");
     item.From = From();
     item.To = Take();
@@ -138,6 +144,7 @@ class TLayoutScan {
   kt::TTextLexer FLexer;
   const char* FBase;
   TFormLayout FLayout;
+  std::size_t FObject = 0;  ///< Whose properties stand outside of collections.
 };
 
 }  // namespace

@@ -21,7 +21,7 @@ struct TPropertyPlace {
 
 /// Where one object stands, or one item of a collection.
 struct TObjectPlace {
-  QString Name;       ///< Of an item: empty.
+  QString Name;       ///< Of an item: the key of its collection.
   QString ClassName;  ///< Of an item: "item".
   qsizetype From;     ///< The header.
   qsizetype To;

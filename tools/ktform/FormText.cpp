@@ -1,6 +1,5 @@
 #include "ktform/FormText.h"
 
-#include "kt/rtl/conversions/EightBit.h"
 #include "kt/rtl/streams/TextEncoding.h"
 
 #include <QHash>
@@ -11,9 +10,6 @@
 
 namespace ktform {
 namespace {
-
-/// What old text is read with, and so written with.
-constexpr kt::TEightBitEncoding kEightBit = kt::eeWindows1252;
 
 TTextEncoding EncodingOf(const QByteArray& file) {
   if (file.startsWith("\xEF\xBB\xBF")) return teUtf8Marked;
@@ -30,18 +26,18 @@ QByteArray LineEndOf(const QByteArray& utf8) {
   return pairs >= returns ? "\r\n" : "\r";
 }
 
-QHash<QChar, char> MakeEightBitCodes() {
+QHash<QChar, char> EightBitCodes(kt::TEightBitEncoding encoding) {
   QByteArray bytes(256, Qt::Uninitialized);
   std::iota(bytes.begin(), bytes.end(), char(0));
   QString characters;
-  kt::DecodeEightBit(bytes, kEightBit, characters);
+  kt::DecodeEightBit(bytes, encoding, characters);
   QHash<QChar, char> codes;
   for (qsizetype i = 0; i < bytes.size(); ++i) codes.insert(characters[i], bytes[i]);
   return codes;
 }
 
-std::optional<QByteArray> EncodeEightBit(const QString& text) {
-  static const QHash<QChar, char> codes = MakeEightBitCodes();
+std::optional<QByteArray> EncodeEightBit(const QString& text, kt::TEightBitEncoding encoding) {
+  const QHash<QChar, char> codes = EightBitCodes(encoding);
   QByteArray bytes;
   bytes.reserve(text.size());
   for (const QChar c : text) {
@@ -59,13 +55,13 @@ QByteArray EncodeUtf16(const QString& text, QStringConverter::Encoding encoding)
 
 }  // namespace
 
-TFormText DecodeText(const QByteArray& file) {
-  const QByteArray utf8 = kt::DecodeFormText(file, kEightBit);
-  return {EncodingOf(file), LineEndOf(utf8), utf8};
+TFormText DecodeText(const QByteArray& file, kt::TEightBitEncoding eightBit) {
+  const QByteArray utf8 = kt::DecodeFormText(file, eightBit);
+  return {EncodingOf(file), eightBit, LineEndOf(utf8), utf8};
 }
 
-std::optional<QByteArray> EncodeText(const QByteArray& utf8, TTextEncoding encoding) {
-  switch (encoding) {
+std::optional<QByteArray> EncodeText(const QByteArray& utf8, const TFormText& manner) {
+  switch (manner.Encoding) {
     case teUtf8:
       return utf8;
     case teUtf8Marked:
@@ -75,7 +71,7 @@ std::optional<QByteArray> EncodeText(const QByteArray& utf8, TTextEncoding encod
     case teUtf16Big:
       return EncodeUtf16(QString::fromUtf8(utf8), QStringConverter::Utf16BE);
     case teEightBit:
-      return EncodeEightBit(QString::fromUtf8(utf8));
+      return EncodeEightBit(QString::fromUtf8(utf8), manner.EightBit);
   }
   return std::nullopt;
 }

@@ -194,13 +194,14 @@ bool WritesRawStrings(const TFormText& text, const TFormLayout& layout) {
 
 }  // namespace
 
-QByteArray EditFormText(const QByteArray& original, const QByteArray& before, const QByteArray& after) {
-  const TFormText text = DecodeText(original);
+QByteArray EditFormText(const QByteArray& original, const QByteArray& before, const QByteArray& after,
+                        kt::TEightBitEncoding encoding) {
+  const TFormText text = DecodeText(original, encoding);
   const TLaidOutText old = LaidOut(text.Utf8);
   const auto edited = [&](bool rawStrings) {
     const TLaidOutText from = LaidOutBinary(before, rawStrings);
     const TLaidOutText to = LaidOutBinary(after, rawStrings);
-    return EncodeText(TFormTextEdit(old, from, to, text.LineEnd).Run(), text.Encoding);
+    return EncodeText(TFormTextEdit(old, from, to, text.LineEnd).Run(), text);
   };
   std::optional<QByteArray> file = edited(WritesRawStrings(text, old.Layout));
   if (!file) file = edited(false);

@@ -4,8 +4,14 @@
 
 namespace ktform {
 
-/// One line on standard output.
+/// Opens the null device in place of standard input, output or error where the caller closed it, so that no form is
+/// opened under its number and written over by a message. Writing to a standard output that was closed still fails.
+void GuardStandardFiles();
+
+/// One line on standard output. What cannot be written is told by FinishOutput().
 void Print(const QString& line);
+/// Writes out what is left of standard output. The reason, when not all of it could be written; else nothing.
+QString FinishOutput();
 /// One line on standard error.
 void PrintError(const QString& line);
 

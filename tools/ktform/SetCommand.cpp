@@ -1,11 +1,11 @@
 #include "kt/rtl/objects/Exceptions.h"
-#include "kt/rtl/streams/BinaryFormWriter.h"
 #include "kt/rtl/streams/FormConversion.h"
 #include "kt/rtl/streams/Reader.h"
 #include "kt/rtl/streams/UnknownComponent.h"
 #include "kt/rtl/streams/Writer.h"
 #include "kt/rtl/typeinfo/PropPath.h"
 #include "ktform/Commands.h"
+#include "ktform/EncodingOption.h"
 #include "ktform/FormFile.h"
 #include "ktform/FormTextEdit.h"
 #include "ktform/KeptValue.h"
@@ -22,28 +22,11 @@ struct TFormProperty {
   QStringView Path;
 };
 
-std::unique_ptr<kt::TComponent> LoadForm(const QByteArray& form) {
-  QByteArray binary;
-  kt::TBinaryWriter output(binary);
-  kt::TBinaryFormWriter writer(output);
-  kt::ReadForm(form, writer);
-  output.Flush();
+std::unique_ptr<kt::TComponent> LoadForm(const QByteArray& binary) {
   kt::TReader reader(binary);
   reader.UnknownClasses = kt::upKeep;
   reader.UnknownProperties = kt::upKeep;
   return std::unique_ptr<kt::TComponent>(reader.ReadRootComponent(nullptr));
-}
-
-/// The changed form in the format and manner of the file it came from.
-QByteArray InFormatOf(const QByteArray& original, const QByteArray& before, const QByteArray& after) {
-  switch (kt::TestStreamFormat(original)) {
-    case kt::sofBinary:
-      return after;
-    case kt::sofResource:
-      return kt::WithResourceHeader(after);
-    default:
-      return EditFormText(original, before, after);
-  }
 }
 
 /// Names of components first, as many as there are; the rest is the path of a property.
@@ -78,15 +61,39 @@ void Assign(kt::TComponent* root, const QString& assignment) {
   }
 }
 
+/// The binary form `original` with the changes, and else as it was.
+QByteArray EditBinaryForm(const QByteArray& original, const QByteArray& before, const QByteArray& after) {
+  QByteArray text;
+  kt::ObjectBinaryToText(original, text);
+  QByteArray binary;
+  kt::ObjectTextToBinary(EditFormText(text, before, after), binary);
+  return binary;
+}
+
+/// Makes the changes in memory; the result has the format and manner of the file that `form` came from.
+QByteArray Changed(const QByteArray& form, const QStringList& assignments, kt::TEightBitEncoding encoding) {
+  const QByteArray binary = BinaryOf(form, encoding);
+  const std::unique_ptr<kt::TComponent> root = LoadForm(binary);
+  const QByteArray before = kt::WriteComponentToBinary(root.get());
+  for (const QString& assignment : assignments) Assign(root.get(), assignment);
+  const QByteArray after = kt::WriteComponentToBinary(root.get());
+  switch (kt::TestStreamFormat(form)) {
+    case kt::sofBinary:
+      return EditBinaryForm(binary, before, after);
+    case kt::sofResource:
+      return kt::WithResourceHeader(EditBinaryForm(binary, before, after));
+    default:
+      return EditFormText(form, before, after, encoding);
+  }
+}
+
 }  // namespace
 
 TExitStatus RunSet(const QStringList& arguments) {
-  if (arguments.size() < 3 || !AreFileNames(arguments.mid(0, 2), 2)) return esWrongUsage;
-  const QByteArray form = LoadFile(arguments[0]);
-  const std::unique_ptr<kt::TComponent> root = LoadForm(form);
-  const QByteArray before = kt::WriteComponentToBinary(root.get());
-  for (const QString& assignment : arguments.mid(2)) Assign(root.get(), assignment);
-  SaveFile(arguments[1], InFormatOf(form, before, kt::WriteComponentToBinary(root.get())));
+  QStringList names = arguments;
+  const kt::TEightBitEncoding encoding = TakeEncoding(names);
+  if (names.size() < 3 || !AreFileNames(names.mid(0, 2), 2)) return esWrongUsage;
+  SaveFile(names[1], Changed(LoadFile(names[0]), names.mid(2), encoding));
   return esDone;
 }
 

@@ -1,5 +1,6 @@
 #include "kt/rtl/streams/FormConversion.h"
 #include "ktform/Commands.h"
+#include "ktform/EncodingOption.h"
 #include "ktform/FormFile.h"
 
 namespace ktform {
@@ -7,6 +8,7 @@ namespace ktform {
 TExitStatus RunToText(const QStringList& arguments) {
   QStringList names = arguments;
   kt::TFormOptions options;
+  options.Encoding = TakeEncoding(names);
   if (TakeOption(names, QStringLiteral("--crlf"))) options.Text.LineEnd = kt::leCrLf;
   options.Text.RawUtf8 = TakeOption(names, QStringLiteral("--utf8"));
   if (!AreFileNames(names, 2)) return esWrongUsage;

@@ -7,6 +7,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <gtest/gtest.h>
 
 /// Runs the program in a folder of its own that goes with the test.
@@ -34,9 +35,11 @@ class KtFormTest : public ::testing::Test {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
   }
 
-  TRun Run(const QStringList& arguments) {
+  /// `prepare` runs in the new process before the program does.
+  TRun Run(const QStringList& arguments, const std::function<void()>& prepare = {}) {
     QProcess program;
     program.setWorkingDirectory(FFolder.path());
+    if (prepare) program.setChildProcessModifier(prepare);
     program.start(QStringLiteral(KT_FORM_PROGRAM), arguments);
     program.waitForFinished(60000);
     const int status = program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;

@@ -175,4 +175,9 @@ TEST_F(KtFormSetMannerTest, ObjectsWithoutNamesAreToldApart) {
           {"C.X=2"}));
 }
 
+TEST_F(KtFormSetMannerTest, APropertyBehindACollectionIsNoneOfItsLastItem) {
+  EXPECT_EQ("object A: TA\n  Items = <\n    item\n      X = 1\n    end>\n  X = 3\nend\n",
+            Set("object A: TA\n  Items = <\n    item\n      X = 1\n    end>\n  X = 2\nend\n", {"X=3"}));
+}
+
 }  // namespace

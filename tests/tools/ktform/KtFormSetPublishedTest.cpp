@@ -1,6 +1,7 @@
 // Setting properties of registered classes: run in this process, where the classes of the samples are registered.
 #include "kt/rtl/objects/ClassRegistry.h"
 #include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/streams/FormConversion.h"
 #include "kt/rtl/streams/IntegerConsts.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "ktform/Commands.h"
@@ -235,6 +236,34 @@ TEST_F(KtFormSetPublishedTest, ObjectsThatAreSavedInAnotherOrderAreWrittenAnew) 
       Set("object Root: TBackwards\r\n object A: TBackwards\r\n  Tag=1\r\n end\r\n"
           " object B: TBackwards\r\n  Tag=1\r\n end\r\nend\r\n",
           {"A.Tag=2"}));
+}
+
+/// The file has values that the class would leave out, and in another order.
+TEST_F(KtFormSetPublishedTest, InABinaryFormOnlyTheValueChanges) {
+  const QByteArray text("object Sample1: TSample\n  Text = 'a'\n  Whole = 12\n  Small = 0\n  Big = 0\nend\n");
+  QByteArray before;
+  kt::ObjectTextToBinary(text, before);
+  QByteArray after;
+  kt::ObjectTextToBinary(QByteArray(text).replace("12", "13"), after);
+  EXPECT_EQ(after.toHex(' '), Set(before, {"Whole=13"}).toHex(' '));
+}
+
+/// What the class does not know is written behind the rest.
+TEST_F(KtFormSetPublishedTest, APropertyBeforeACollectionStaysThere) {
+  EXPECT_EQ("object Sample1: TSample\n  Foreign = 2\n  Items = <\n    item\n      Caption = 'x'\n    end>\nend\n",
+            Set("object Sample1: TSample\n  Foreign = 1\n  Items = <\n    item\n      Caption = 'x'\n    end>\nend\n",
+                {"Foreign=2"}));
+}
+
+/// Then nobody can tell which item is which.
+TEST_F(KtFormSetPublishedTest, CollectionsInAnotherOrderAreWrittenAnew) {
+  EXPECT_EQ(
+      "object Sample1: TSample\n  Whole = 1\n  Small = 0\n  Color = 0\n  Items = <\n    item\n      Caption = 'y'\n    "
+      "end>\n"
+      "  Foreign = <\n    item\n      Caption = 'x'\n    end>\nend\n",
+      Set("object Sample1: TSample\n  Foreign = <\n    item\n      Caption = 'x'\n    end>\n  Items = <\n"
+          "    item\n      Caption = 'y'\n    end>\nend\n",
+          {"Whole=1"}));
 }
 
 }  // namespace

@@ -186,7 +186,7 @@ class KtFormSetUsageTest : public KtFormSetTest, public ::testing::WithParamInte
 TEST_P(KtFormSetUsageTest, WrongUsageIsStatus2AndTheUsage) {
   const TRun run = Run(GetParam());
   EXPECT_EQ(2, run.Status);
-  EXPECT_EQ("ktform: usage: ktform set IN OUT Path=Value...\nTry 'ktform --help'.\n", run.Errors);
+  EXPECT_EQ("ktform: usage: ktform set [--encoding NAME] IN OUT Path=Value...\nTry 'ktform --help'.\n", run.Errors);
 }
 
 INSTANTIATE_TEST_SUITE_P(Calls, KtFormSetUsageTest,

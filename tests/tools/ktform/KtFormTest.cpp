@@ -97,16 +97,56 @@ TEST_F(KtFormTest, CheckFindsWhatTheOtherFormatCannotHold) {
   EXPECT_TRUE(run.Errors.contains("x' is too long to be stored at offset 7"));
 }
 
-TEST_F(KtFormTest, CheckTakesTheSampleForms) {
-  const QString folder = QStringLiteral(KT_SOURCE_DIR "/examples/forms/");
-  const TRun run = Run({"check", folder + "nested.dfm", folder + "values.dfm", folder + "strings.dfm"});
-  EXPECT_EQ(0, run.Status);
-  EXPECT_TRUE(run.Output.contains("nested.dfm: ok (6 objects, 50 properties)\n"));
+TEST_F(KtFormTest, CheckTellsAFolderAnEmptyFileAndWhatIsNotThere) {
+  QDir(FFolder.path()).mkdir(QStringLiteral("folder"));
+  Write("empty.dfm", "");
+  const TRun run = Run({"check", "folder", "empty.dfm", "nowhere.dfm", ""});
+  EXPECT_EQ(1, run.Status);
+  EXPECT_EQ("", run.Output);
+  EXPECT_EQ(
+      "folder: error: Cannot open file \"folder\". It is a folder; name the files in it\n"
+      "empty.dfm: error: OBJECT expected on line 1, column 1\n"
+      "nowhere.dfm: error: Cannot open file \"nowhere.dfm\". No such file or directory\n"
+      ": error: Cannot open file \"\". The name is empty\n",
+      run.Errors);
 }
 
-TEST_F(KtFormTest, NoProgressWhereThereIsNoTerminal) {
-  Write("a.dfm", kText);
-  EXPECT_EQ("", Run(QStringList{"check"} + QStringList(50, "a.dfm")).Errors);
+struct TSampleForm {
+  const char* Name;
+  const char* Counts;
+};
+
+void PrintTo(const TSampleForm& form, std::ostream* out) { *out << form.Name; }
+
+QString SampleForm(const char* name) { return QStringLiteral(KT_SOURCE_DIR "/examples/forms/") + name; }
+
+class KtFormSampleTest : public KtFormTest, public ::testing::WithParamInterface<TSampleForm> {};
+
+TEST_P(KtFormSampleTest, CheckTakesTheForm) {
+  const QString name = SampleForm(GetParam().Name);
+  const TRun run = Run({"check", name});
+  EXPECT_EQ(0, run.Status) << run.Errors.toStdString();
+  EXPECT_EQ((name + ": ok " + GetParam().Counts + "\n").toUtf8(), run.Output);
+}
+
+TEST_P(KtFormSampleTest, TheFormStandsAsTheProgramWritesIt) {
+  EXPECT_EQ(0, Run({"to-binary", SampleForm(GetParam().Name), "a.bin"}).Status);
+  EXPECT_EQ(0, Run({"to-text", "a.bin", "a.dfm"}).Status);
+  QFile sample(SampleForm(GetParam().Name));
+  ASSERT_TRUE(sample.open(QIODevice::ReadOnly));
+  EXPECT_EQ(sample.readAll(), Content("a.dfm"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Forms, KtFormSampleTest,
+                         ::testing::Values(TSampleForm{"collections.dfm", "(3 objects, 18 properties)"},
+                                           TSampleForm{"inherited.dfm", "(6 objects, 16 properties)"},
+                                           TSampleForm{"nested.dfm", "(6 objects, 50 properties)"},
+                                           TSampleForm{"strings.dfm", "(1 objects, 9 properties)"},
+                                           TSampleForm{"values.dfm", "(1 objects, 21 properties)"}));
+
+TEST_F(KtFormTest, EverySampleFormIsChecked) {
+  EXPECT_EQ(QString("collections.dfm inherited.dfm nested.dfm strings.dfm values.dfm"),
+            QDir(SampleForm("")).entryList(QDir::Files, QDir::Name).join(u' '));
 }
 
 TEST_F(KtFormTest, HelpNamesEveryCommand) {
@@ -114,7 +154,8 @@ TEST_F(KtFormTest, HelpNamesEveryCommand) {
   EXPECT_EQ(0, run.Status);
   EXPECT_TRUE(run.Output.contains("\n  to-text "));
   EXPECT_TRUE(run.Output.contains("\n  to-binary "));
-  EXPECT_TRUE(run.Output.contains("\n  check FILE..."));
+  EXPECT_TRUE(run.Output.contains("\n  set "));
+  EXPECT_TRUE(run.Output.contains("\n  check "));
 }
 
 class KtFormUsageTest : public KtFormTest, public ::testing::WithParamInterface<QStringList> {};

@@ -1,0 +1,59 @@
+#include "ktform/EncodingOption.h"
+
+#include "ktform/Commands.h"
+
+#include <algorithm>
+#include <array>
+
+namespace ktform {
+namespace {
+
+struct TNamedEncoding {
+  const char* Name;
+  kt::TEightBitEncoding Encoding;
+};
+
+constexpr std::array<TNamedEncoding, 3> kEncodings{{
+    {"windows-1252", kt::eeWindows1252},
+    {"latin1", kt::eeLatin1},
+    {"utf-8", kt::eeUtf8},
+}};
+
+kt::TEightBitEncoding EncodingOfName(const QString& name) {
+  const auto found = std::find_if(kEncodings.begin(), kEncodings.end(), [&](const TNamedEncoding& encoding) {
+    return name.compare(QLatin1String(encoding.Name), Qt::CaseInsensitive) == 0;
+  });
+  if (found == kEncodings.end())
+    throw EUsageError(QStringLiteral("there is no encoding '%1', only %2").arg(name, EncodingNames()));
+  return found->Encoding;
+}
+
+/// The name behind the option at `index`, which is taken with it.
+QString TakeName(QStringList& arguments, qsizetype index) {
+  const QString option = arguments.takeAt(index);
+  const qsizetype equals = option.indexOf(u'=');
+  if (equals >= 0) return option.mid(equals + 1);
+  if (index == arguments.size()) throw EUsageError(QStringLiteral("--encoding needs one of %1").arg(EncodingNames()));
+  return arguments.takeAt(index);
+}
+
+}  // namespace
+
+kt::TEightBitEncoding TakeEncoding(QStringList& arguments) {
+  kt::TEightBitEncoding encoding = kt::eeWindows1252;
+  const auto isOption = [](const QString& argument) {
+    return argument == u"--encoding" || argument.startsWith(u"--encoding=");
+  };
+  for (auto at = std::find_if(arguments.begin(), arguments.end(), isOption); at != arguments.end();
+       at = std::find_if(arguments.begin(), arguments.end(), isOption))
+    encoding = EncodingOfName(TakeName(arguments, at - arguments.begin()));
+  return encoding;
+}
+
+QString EncodingNames() {
+  QStringList names;
+  for (const TNamedEncoding& encoding : kEncodings) names << QString::fromLatin1(encoding.Name);
+  return names.join(QStringLiteral(", "));
+}
+
+}  // namespace ktform
