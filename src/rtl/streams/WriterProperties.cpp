@@ -224,8 +224,8 @@ void TWriter::WriteNested(const TPropInfo* property, TPersistent* object) {
 void TWriter::WriteCollectionProperty(const TPropInfo* property, TCollection* collection) {
   WriteNested(property, collection);
   auto* inherited = dynamic_cast<TCollection*>(AncestorObject(property));
-  const bool isDefault = inherited ? CollectionsEqual(*collection, *inherited) : collection->GetCount() == 0;
-  if (isDefault) return;
+  // Without an ancestor an empty collection is written too, as the framework does.
+  if (inherited && CollectionsEqual(*collection, *inherited)) return;
   WritePropertyName(property->Name());
   WriteCollection(*collection);
 }

@@ -30,21 +30,25 @@ constexpr char kForm[] = R"(object Form1: TSample
       Children = <
         item
           Caption = 'inner'
+          Children = <>
         end>
     end
     item
       Caption = 'two'
+      Children = <>
     end>
   OnAction = HandleAction
   object First: TSample
     Small = 0
     Color = 0
     Partner = Second
+    Items = <>
   end
   object Second: TSample
     Small = 0
     Color = 0
     Reference = First
+    Items = <>
   end
 end
 )";
@@ -52,12 +56,14 @@ end
 constexpr char kUnknownForm[] = R"(object Form1: TSample
   Small = 0
   Color = 0
+  Items = <>
   Extra = 1
   object First: TNoSuch
     X = 'x'
     object Second: TSample
       Small = 0
       Color = 0
+      Items = <>
       Y = 2
     end
     object Third: TNoSuch

@@ -90,7 +90,7 @@ TEST_F(FileSavingTest, AComponentIsSavedAsBinary) {
 TEST_F(FileSavingTest, AComponentIsSavedAsText) {
   const auto sample = Make<TSample>();
   SaveComponentToFile(Path(), sample.get(), sofText);
-  EXPECT_EQ("object TSample\n  Small = 0\n  Color = 0\nend\n", Content());
+  EXPECT_EQ("object TSample\n  Small = 0\n  Color = 0\n  Items = <>\nend\n", Content());
 }
 
 TEST_F(FileSavingTest, AComponentIsSavedAsAResource) {

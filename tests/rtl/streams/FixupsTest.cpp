@@ -77,6 +77,7 @@ TEST_F(FixupsTest, ADanglingReferenceIsWrittenBackUnderThePolicyToKeep) {
       "  Color = 0\n"
       "  Partner = Data1.Table1\n"
       "  Reference = Nowhere\n"
+      "  Items = <>\n"
       "end\n";
   TReader reader(BinaryOf(text));
   reader.UnknownClasses = upKeep;

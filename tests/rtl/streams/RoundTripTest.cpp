@@ -29,13 +29,14 @@ class RoundTripTest : public ::testing::Test {
   }
 };
 
-TEST_F(RoundTripTest, AFreshObjectWritesOnlyWhatHasNoDefault) {
+TEST_F(RoundTripTest, AFreshObjectWritesOnlyWhatHasNoDefaultAndItsEmptyCollections) {
   const auto sample = Make<TSample>();
   sample->SetName(QStringLiteral("S"));
   EXPECT_EQ(
       "object S: TSample\n"
       "  Small = 0\n"
       "  Color = 0\n"
+      "  Items = <>\n"
       "end\n",
       TextOf(sample.get()));
 }
@@ -87,6 +88,7 @@ TEST_F(RoundTripTest, NestedPropertiesAndCollectionsAreWrittenByPath) {
       "  Items = <\n"
       "    item\n"
       "      Caption = 'one'\n"
+      "      Children = <>\n"
       "    end>\n"
       "end\n",
       TextOf(sample.get()));
@@ -154,6 +156,7 @@ TEST_F(RoundTripTest, ADescendantsChildrenAreInheritedOrNew) {
       "  object Fresh: TSample\n"
       "    Small = 0\n"
       "    Color = 0\n"
+      "    Items = <>\n"
       "  end\n"
       "end\n",
       TextOf(writer.Data()));

@@ -218,11 +218,14 @@ constexpr char kWritten[] = R"(object Form1: TBrittle
   Bytes = {00FF}
   object First: TBrittle
     Number = 5
+    Items = <>
   end
   object Inner: TBrittle
     Partner = Owner
+    Items = <>
   end
   object Second: TBrittle
+    Items = <>
     Extra = 6
   end
 end
