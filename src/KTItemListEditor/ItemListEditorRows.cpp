@@ -77,6 +77,8 @@ void TKTCustomItemListEditor::ShowRows() {
   HideEditor();
   TItemRows::Recount(*FItems);
   AdjustGridCount();
+  // Rows that only changed places leave their number as it was.
+  Invalidate();
   ShowEditor();
 }
 

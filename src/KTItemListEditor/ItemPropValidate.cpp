@@ -3,6 +3,7 @@
 #include "kt/KTItemListEditor/ItemWatch.h"
 #include "kt/KTItemListEditor/Messages.h"
 #include "kt/rtl/conversions/Format.h"
+#include "kt/vcl/grids/InplaceEdit.h"
 
 namespace kt {
 
@@ -46,7 +47,9 @@ void TKTItemProp::DoValidateError(const Exception& error) {
   try {
     throw ETORVException(Format(SInvalidPropValue, {GetValue(), error.Message()}));
   } catch (const ETORVException& described) {
-    TellValidateError(described);
+    const TItemWatch self(this);
+    editor->InplaceEditor()->Undo();
+    if (self) TellValidateError(described);
   }
 }
 

@@ -14,6 +14,9 @@ class ItemPropTest : public TItemListTest {
   std::unique_ptr<TKTItemProp> FAlone = Make<TKTItemProp>(nullptr);
 };
 
+// A tree of a million items pays for each byte.
+TEST_F(ItemPropTest, AnItemTakes104Bytes) { EXPECT_EQ(104U, sizeof(TKTItemProp)); }
+
 TEST_F(ItemPropTest, AnItemOutsideAnyCollectionHasNeitherEditorNorParentNorCollection) {
   EXPECT_EQ(nullptr, FAlone->GetEditor());
   EXPECT_EQ(nullptr, FAlone->GetParent());
@@ -141,7 +144,7 @@ TEST_F(ItemPropTest, AChangeInsideABracketOfItsLevelClimbsAtItsEnd) {
   TKTItemProps& items = Item("a").GetItems();
   items.BeginUpdate();
   EXPECT_EQ("", Heard([&] { items.GetItem(0)->SetHint("h"); }));
-  EXPECT_EQ("editor.AdjustGridCount [].Update(nil) a.UpdateItemProp(nil) [a].Update(nil)",
+  EXPECT_EQ("editor.AdjustGridCount editor.Invalidate [].Update(nil) a.UpdateItemProp(nil) [a].Update(nil)",
             Heard([&] { items.EndUpdate(); }));
 }
 

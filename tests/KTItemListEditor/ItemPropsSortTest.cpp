@@ -144,8 +144,8 @@ TEST_F(ItemPropsSortTest, SwitchingSortedOnRefreshesTheGridAfterTheSort) {
   FEditor = Make<TProbeEditor>();
   Fill("b a");
   EXPECT_EQ(
-      "[].Changing [].Changing editor.AdjustGridCount [].Update(nil) editor.Refresh editor.AdjustGridCount "
-      "editor.Invalidate",
+      "[].Changing [].Changing editor.AdjustGridCount editor.Invalidate [].Update(nil) "
+      "editor.Refresh editor.AdjustGridCount editor.Invalidate",
       Heard([&] { FEditor->SetSorted(true); }));
   EXPECT_EQ("", Heard([&] { FEditor->SetSorted(true); }));
   EXPECT_EQ("", Heard([&] { FEditor->SetSorted(false); }));

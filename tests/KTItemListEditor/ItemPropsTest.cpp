@@ -27,8 +27,8 @@ TEST_F(ItemPropsTest, AddTellsOfTheComingChangeThenOfTheItemThenOfTheChange) {
   EXPECT_EQ(
       "[].Changing ?.VisibleChanged "
       "editor.Refresh editor.AdjustGridCount editor.Invalidate editor.Refresh editor.AdjustGridCount "
-      "editor.Invalidate [].Notify(?,cnAdded) editor.AdjustGridCount [].Update(nil) editor.AdjustGridCount "
-      "[].Update(nil)",
+      "editor.Invalidate [].Notify(?,cnAdded) editor.AdjustGridCount editor.Invalidate [].Update(nil) "
+      "editor.AdjustGridCount editor.Invalidate [].Update(nil)",
       Heard([&] { Items().Add(); }));
 }
 
@@ -93,7 +93,7 @@ TEST_F(ItemPropsTest, BeginUpdateTellsOfTheComingChangeOnce) {
               Items().BeginUpdate();
               Items().BeginUpdate();
             }));
-  EXPECT_EQ("editor.AdjustGridCount [].Update(nil)", Heard([&] {
+  EXPECT_EQ("editor.AdjustGridCount editor.Invalidate [].Update(nil)", Heard([&] {
               Items().EndUpdate();
               Items().EndUpdate();
             }));
