@@ -4,3 +4,4 @@
 #include "kt/ktcommon/DeltaFont.h"
 #include "kt/ktcommon/KTException.h"
 #include "kt/ktcommon/NewLine.h"
+#include "kt/ktcommon/RegularExpression.h"

@@ -114,6 +114,7 @@ const TClassInfo* TKTItemListEditor::Class() {
     builder.Property<&T::GetDeleteBlanks, &T::SetDeleteBlanks>("DeleteBlanks").Default(true);
     builder.Property<&T::GetDisplayOptions, &T::SetDisplayOptions>("DisplayOptions")
         .Default(TILEDisplayOptions{doColumnTitles, doAutoColResize, doKeyColFixed, doShowReadOnly});
+    builder.Property<&T::GetDropDownRows, &T::SetDropDownRows>("DropDownRows").Default(8);
     builder.Property<&T::GetOrientation, &T::SetOrientation>("Orientation").Default(goVertical);
     builder.Property<&T::GetPathDelimiter, &T::SetPathDelimiter>("PathDelimiter");
     builder.Property<&T::GetPropertyOptions, &T::SetPropertyOptions>("PropertyOptions").Default(TILEPropOptions{});
@@ -122,6 +123,8 @@ const TClassInfo* TKTItemListEditor::Class() {
     builder.Property<&T::GetItems, &T::SetItems>("Items");
     builder.Property<&T::GetStrings, &T::SetStrings>("Strings").NotStored();
     builder.Property<&T::OnCategorize>("OnCategorize");
+    builder.Property<&T::OnEditButtonClick>("OnEditButtonClick");
+    builder.Property<&T::OnGetPickList>("OnGetPickList");
     builder.Property<&T::OnValidate>("OnValidate");
     builder.Property<&T::OnValidated>("OnValidated");
     builder.Property<&T::OnValidateError>("OnValidateError");

@@ -86,6 +86,10 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   /// Records the wish to see items under categories: renamed items move. Switching it moves nothing.
   bool GetArrangeByCategory() const { return FArrangeByCategory; }
 
+  /// The most lines that the editor's drop-down list shows without scrolling. A value below 1 is ignored.
+  int GetDropDownRows() const { return FDropDownRows; }
+  void SetDropDownRows(int value);
+
   // Fonts.
 
   /// Of value fields without an item; items without a value font of their own inherit it.
@@ -136,6 +140,10 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   bool IsEditUpdateLocked() const { return FEditUpdateLock > 0; }
 
   TKTGetCategoryEvent OnCategorize;
+  /// The button of an item without a handler of its own was clicked; the sender is the item, or null.
+  TNotifyEvent OnEditButtonClick;
+  /// Adds to what can be picked for an item without a handler of its own.
+  TKTGetPickListEvent OnGetPickList;
   TKTOnValidateEvent OnValidate;
   TKTOnValidateEvent OnValidated;
   /// Without a handler the error goes on to the caller.
@@ -161,11 +169,25 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   void InvalidateItem(const TKTItemProp& item);
   bool HasOpenInplaceEditor() const { return InplaceEditor() != nullptr; }
 
+  // Editing. All of these take cells of the grid.
+
+  /// Not for items that are read-only.
+  bool CanEditModify() override;
+  /// The item's mask, unless that is an expression; OnGetEditMask has the last word.
+  QString GetEditMask(int col, int row) override;
+  /// The text of the cell; OnGetEditText has the last word.
+  QString GetEditText(int col, int row) override;
+  /// Writes what is typed into the item, at once. A name that the items reject is held back, and meets their error when
+  /// it comes a second time. Does nothing while updates of the editor are locked.
+  void SetEditText(int col, int row, const QString& value) override;
+
   // What descendants can override, in its fixed order.
 
   /// Both delete items, and do nothing while one of them is under way.
   void DeleteColumn(int col) override;
   void DeleteRow(int row) override;
+  /// The item's mask when that is an expression.
+  virtual QString GetExpressionMask(int col, int row);
 
  public:
   /// Without regard to case unless CaseSensitive. All matching of names goes through it.
@@ -183,6 +205,13 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   /// While locked, changes of items rebuild nothing and leave the in-place editor alone. Nests.
   virtual void DisableEditUpdate();
   virtual void EnableEditUpdate();
+
+ protected:
+  /// The button of the in-place editor was clicked. The item's handler goes before the editor's; either gets the item
+  /// as its sender.
+  virtual void EditButtonClick(TObject* sender);
+
+ public:
   /// By an ordinal key the row of that number. By any other key the first row whose display name, Name=Value, equals
   /// the key; with `create` raises ETORVException "Property not found: %s" when there is none. With `create` an ordinal
   /// key outside the rows inserts an item at the top level. Null without rows.
@@ -190,6 +219,8 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   /// The item under a cell, or null. `isGridPosition`: fixed lines count.
   virtual TKTItemProp* FindItemProp(int col, int row, bool isGridPosition) const;
   virtual QString GetCell(int col, int row);
+  /// The font for the in-place editor: deliberately that of the current value field, whatever the cell.
+  virtual TFont& GetCellFont(int col, int row);
   virtual void SetCell(int col, int row, const QString& value);
   virtual void SetArrangeByCategory(bool value) { FArrangeByCategory = value; }
   virtual void SetDisplayOptions(TILEDisplayOptions value);
@@ -243,6 +274,8 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   void CopyTo(TKTItemProp& item, TKTItemProp* category);
   void PlaceCopy(TKTItemProp& item, TKTItemProp& category);
   void PlaceFurtherCopy(TKTItemProp& item, const QString& categoryName);
+  void WriteTypedText(int col, int row, const QString& value);
+  bool HoldsBackName(const QString& value);
 
   std::unique_ptr<TKTItemProps> FItems;
   std::unique_ptr<TKTItemStrings> FStrings;
@@ -250,9 +283,12 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   std::unique_ptr<TKTCustomDeltaFont> FValueFont;
   std::unique_ptr<TKTCustomDeltaFont> FCategoryFont;
   QString FPathDelimiter;
+  /// A name that was typed and rejected once.
+  QString FPendingName;
   TILEPropOptions FPropertyOptions;
   TILEDisplayOptions FDisplayOptions;
   TKTGridOrientation FOrientation = goVertical;
+  int FDropDownRows = 8;
   int FEditUpdateLock = 0;
   /// The number of rows when the lock was taken.
   int FSavedVisibleCount = 0;
