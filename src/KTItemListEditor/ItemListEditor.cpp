@@ -5,7 +5,9 @@
 #include "kt/rtl/strings/StringList.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/controls/Publish.h"
+#include "kt/vcl/graphics/Bitmap.h"
 #include "kt/vcl/grids/PublishGrid.h"
+#include "package/Glyphs.h"
 
 namespace kt {
 
@@ -20,6 +22,9 @@ TKTCustomItemListEditor::~TKTCustomItemListEditor() = default;
 
 void TKTCustomItemListEditor::Construct() {
   TCustomDrawGrid::Construct();
+  FHintWindow = New<TKTHintWindow>(this);
+  FHintWindow->SetSubComponent(true);
+  FHintWindow->SetInterval(0);
   FItems = CreateItems(this);
   FillCategories();
   FTitleCaptions = Make<TStringList>();
@@ -27,19 +32,26 @@ void TKTCustomItemListEditor::Construct() {
   FTitleCaptions->Add(SValueCaption);
   FTitleCaptions->OnChange = {this, &TKTCustomItemListEditor::TitleCaptionsChange};
   FPathDelimiter = QStringLiteral(".");
+  FIndent = 11;
   FValueFont = MakeFont();
   FValueFont->OnChange = {this, &TKTCustomItemListEditor::ValueFontChanged};
   FCategoryFont = MakeFont();
   FCategoryFont->SetStyle(FCategoryFont->GetStyle() + TFontStyles{fsBold});
   FCategoryFont->SetColor(clPurple);
   FCategoryFont->OnChange = {this, &TKTCustomItemListEditor::CategoryFontChanged};
+  FTitleCaptionFont = MakeFont();
+  FTitleCaptionFont->OnChange = {this, &TKTCustomItemListEditor::TitleCaptionFontChanged};
+  FMinusGlyph = MakeGlyph(QStringLiteral("MINUSSIGN"));
+  FPlusGlyph = MakeGlyph(QStringLiteral("PLUSSIGN"));
   FStrings = Make<TKTItemStrings>(*this);
+  FHideSelection = true;
   FDeleteBlanks = true;
   SetColCount(2);
   SetRowCount(2);
   SetFixedCols(0);
   SetDefaultColWidth(150);
-  SetDefaultRowHeight(18);
+  SetDefaultRowHeight(FRowHeight);
+  FIsRowHeightByHand = false;
   SetWidth(306);
   SetHeight(300);
   SetOptions({goFixedVertLine, goFixedHorzLine, goVertLine, goHorzLine, goColSizing, goEditing, goAlwaysShowEditor,
@@ -77,18 +89,35 @@ void TKTCustomItemListEditor::CMFontChanged(TMessage& message) {
 
 void TKTCustomItemListEditor::FontChanged() {
   for (int i = 0; FItems && i < FItems->GetCount(); ++i) FItems->GetItem(i)->ParentFontChanged(nullptr);
-  for (TKTCustomDeltaFont* font : {FCategoryFont.get(), FValueFont.get()}) {
+  for (TKTCustomDeltaFont* font : {FTitleCaptionFont.get(), FCategoryFont.get(), FValueFont.get()}) {
     if (font) font->BaseFontChanged(&GetFont());
   }
+  if (FTitleCaptionFont) FitRowHeight();
   Invalidate();
 }
 
 void TKTCustomItemListEditor::ValueFontChanged(TObject*) {
+  FitRowHeight();
   for (int i = 0; i < FItems->GetCount(); ++i) FItems->GetItem(i)->ParentValueFontChanged();
 }
 
 void TKTCustomItemListEditor::CategoryFontChanged(TObject*) {
+  FitRowHeight();
   if (FArrangeByCategory) Invalidate();
+}
+
+void TKTCustomItemListEditor::TitleCaptionFontChanged(TObject*) {
+  FitRowHeight();
+  if (FDisplayOptions.Has(doColumnTitles)) Invalidate();
+}
+
+// Glyphs.
+
+std::unique_ptr<TPicture> TKTCustomItemListEditor::MakeGlyph(const QString& name) {
+  auto picture = Make<TPicture>();
+  picture->GetBitmap().SetImage(PackageBitmap(name));
+  picture->OnChange = {this, &TKTCustomItemListEditor::GlyphChanged};
+  return picture;
 }
 
 // Titles.
@@ -103,28 +132,80 @@ bool TKTCustomItemListEditor::TitleCaptionsStored() const {
   return FTitleCaptions->GetText() != SPropertyCaption + NewLineString + SValueCaption + NewLineString;
 }
 
+namespace {
+
+/// What the editor has from the grid.
+void PublishGrid(TClassBuilder<TKTItemListEditor>& builder) {
+  using T = TKTItemListEditor;
+  Publish::Align(builder);
+  Publish::Anchors(builder);
+  Publish::BiDiMode(builder);
+  Publish::GridBorderStyle(builder);
+  Publish::Color(builder, clWindow);
+  builder.Property<&T::GetColCount, &T::SetColCount>("ColCount").Default(2);
+  Publish::Constraints(builder);
+  Publish::DefaultColWidth(builder, 150);
+  builder.Property<&T::GetDefaultRowHeight, &T::SetDefaultRowHeight>("DefaultRowHeight").Default(18);
+  Publish::DefaultDrawing(builder);
+  Publish::DragCursor(builder);
+  Publish::DragKind(builder);
+  Publish::DragMode(builder);
+  Publish::Enabled(builder);
+  Publish::FixedColor(builder);
+  Publish::FixedCols(builder, 0);
+  Publish::RowCount(builder, 2);
+  Publish::Font(builder);
+  Publish::GridLineWidth(builder);
+  Publish::ParentBiDiMode(builder);
+  Publish::ParentColor(builder, false);
+  Publish::ParentFont(builder);
+  Publish::ParentShowHint(builder);
+  Publish::ScrollBars(builder);
+  Publish::ShowHint(builder);
+  Publish::TabOrder(builder);
+  Publish::TabStop(builder, true);
+  Publish::Visible(builder);
+  Publish::MouseEvents(builder);
+  Publish::FocusEvents(builder);
+  Publish::KeyEvents(builder);
+  Publish::GridEvents(builder);
+}
+
+}  // namespace
+
 const TClassInfo* TKTItemListEditor::Class() {
   using T = TKTItemListEditor;
   static const TClassInfo info = [] {
     TClassBuilder<T> builder("TKTItemListEditor");
+    PublishGrid(builder);
     Publish::GridOptions(builder, {goFixedVertLine, goFixedHorzLine, goVertLine, goHorzLine, goColSizing, goEditing,
                                    goAlwaysShowEditor, goThumbTracking});
     builder.Property<&T::GetArrangeByCategory, &T::SetArrangeByCategory>("ArrangeByCategory").Default(false);
     builder.Property<&T::GetCaseSensitive, &T::SetCaseSensitive>("CaseSensitive").Default(false);
     builder.Property<&T::GetDeleteBlanks, &T::SetDeleteBlanks>("DeleteBlanks").Default(true);
+    builder.Property<&T::GetCategoryFont, &T::SetCategoryFont>("CategoryFont");
     builder.Property<&T::GetDisplayOptions, &T::SetDisplayOptions>("DisplayOptions")
         .Default(TILEDisplayOptions{doColumnTitles, doAutoColResize, doKeyColFixed, doShowReadOnly});
     builder.Property<&T::GetDropDownRows, &T::SetDropDownRows>("DropDownRows").Default(8);
+    builder.Property<&T::GetHideSelection, &T::SetHideSelection>("HideSelection").Default(true);
+    // Deliberately not what a new editor has: 17 is never written, and so comes back as 11.
+    builder.Property<&T::GetIndent, &T::SetIndent>("Indent").Default(17);
+    builder.Property<&T::GetMinusGlyph, &T::SetMinusGlyph>("MinusGlyph").Stored(&T::IsMinusGlyphStored);
+    builder.Property<&T::GetPlusGlyph, &T::SetPlusGlyph>("PlusGlyph").Stored(&T::IsPlusGlyphStored);
     builder.Property<&T::GetOrientation, &T::SetOrientation>("Orientation").Default(goVertical);
     builder.Property<&T::GetPathDelimiter, &T::SetPathDelimiter>("PathDelimiter");
     builder.Property<&T::GetPropertyOptions, &T::SetPropertyOptions>("PropertyOptions").Default(TILEPropOptions{});
+    builder.Property<&T::GetShowItemHintStyle, &T::SetShowItemHintStyle>("ShowItemHintStyle").Default(shValueAndHint);
     builder.Property<&T::IsSorted, &T::SetSorted>("Sorted").Default(false);
     builder.Property<&T::GetTitleCaptions, &T::SetTitleCaptions>("TitleCaptions").Stored(&T::TitleCaptionsStored);
+    builder.Property<&T::GetTitleCaptionFont, &T::SetTitleCaptionFont>("TitleCaptionFont");
+    builder.Property<&T::GetValueFont, &T::SetValueFont>("ValueFont");
     builder.Property<&T::GetItems, &T::SetItems>("Items");
     builder.Property<&T::GetStrings, &T::SetStrings>("Strings").NotStored();
     builder.Property<&T::OnCategorize>("OnCategorize");
     builder.Property<&T::OnEditButtonClick>("OnEditButtonClick");
     builder.Property<&T::OnGetPickList>("OnGetPickList");
+    builder.Property<&T::OnShowHints>("OnShowHints");
     builder.Property<&T::OnValidate>("OnValidate");
     builder.Property<&T::OnValidated>("OnValidated");
     builder.Property<&T::OnValidateError>("OnValidateError");

@@ -5,7 +5,9 @@
 #include "kt/KTItemListEditor/ItemProps.h"
 #include "kt/KTItemListEditor/ItemStrings.h"
 #include "kt/ktcommon/DeltaFont.h"
+#include "kt/ktcommon/HintWindow.h"
 #include "kt/rtl/conversions/Variant.h"
+#include "kt/vcl/graphics/Picture.h"
 #include "kt/vcl/grids/DrawGrid.h"
 
 namespace kt {
@@ -80,6 +82,13 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   void SetCaseSensitive(bool value);
   bool IsSorted() const { return FItems->GetSorted(); }
   void SetSorted(bool value) { FItems->SetSorted(value); }
+  /// As in every grid; with doAutoColResize the widths follow.
+  int GetColCount() const { return TCustomDrawGrid::GetColCount(); }
+  void SetColCount(int value);
+  /// The height of a row in pixels, and the least there is: rows are higher where the fonts need it, until somebody
+  /// sets the height.
+  int GetDefaultRowHeight() const { return FRowHeight; }
+  void SetDefaultRowHeight(int value);
   /// Leaving a blank item deletes it.
   bool GetDeleteBlanks() const { return FDeleteBlanks; }
   void SetDeleteBlanks(bool value) { FDeleteBlanks = value; }
@@ -97,6 +106,35 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   void SetValueFont(TFont& value) { FValueFont->Assign(&value); }
   TKTCustomDeltaFont& GetCategoryFont() const { return *FCategoryFont; }
   void SetCategoryFont(TFont& value) { FCategoryFont->Assign(&value); }
+
+  TKTCustomDeltaFont& GetTitleCaptionFont() const { return *FTitleCaptionFont; }
+  void SetTitleCaptionFont(TFont& value) { FTitleCaptionFont->Assign(&value); }
+
+  // Drawing.
+
+  /// Pixels of indentation a level, and the room for the glyph. Setting a negative one changes nothing.
+  int GetIndent() const { return FIndent; }
+  void SetIndent(int value);
+  /// Before expanded and collapsed items. Those of the package follow palette and resolution; any other is drawn as it
+  /// is.
+  TPicture& GetMinusGlyph() const { return *FMinusGlyph; }
+  void SetMinusGlyph(TPicture& value) { FMinusGlyph->Assign(&value); }
+  bool IsMinusGlyphStored() const { return FHasOwnMinusGlyph; }
+  TPicture& GetPlusGlyph() const { return *FPlusGlyph; }
+  void SetPlusGlyph(TPicture& value) { FPlusGlyph->Assign(&value); }
+  bool IsPlusGlyphStored() const { return FHasOwnPlusGlyph; }
+  /// While the editor does not have the focus, the current cell looks like any other.
+  bool GetHideSelection() const { return FHideSelection; }
+  void SetHideSelection(bool value);
+
+  // Hints.
+
+  TKTHintWindow& GetHintWindow() const { return *FHintWindow; }
+  TGridShowHints GetShowItemHintStyle() const { return FShowItemHintStyle; }
+  /// A hint that shows stays until the mouse moves.
+  void SetShowItemHintStyle(TGridShowHints value) { FShowItemHintStyle = value; }
+  /// The room that a hint of that text takes, its lines at most `maxWidth` long. Needs a QGuiApplication.
+  QRect CalcHintRect(int maxWidth, const QString& hint, TFont& font);
 
   // Titles.
 
@@ -144,6 +182,8 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   TNotifyEvent OnEditButtonClick;
   /// Adds to what can be picked for an item without a handler of its own.
   TKTGetPickListEvent OnGetPickList;
+  /// Has the last word on the text of a hint.
+  TKTOnShowHintsEvent OnShowHints;
   TKTOnValidateEvent OnValidate;
   TKTOnValidateEvent OnValidated;
   /// Without a handler the error goes on to the caller.
@@ -157,7 +197,21 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
 
   void Construct() override;
   void Destruct() override;
+  void CalcSizingState(int x, int y, TGridState& state, int& index, int& sizingPos, int& sizingOfs,
+                       TGridDrawInfo& fixedInfo) override;
   void CMFontChanged(TMessage& message) override;
+  void CMMouseLeave(TMessage& message) override;
+  void CMShowingChanged(TMessage& message) override;
+  void ColWidthsChanged() override;
+  void CreateWnd() override;
+  void DoExit() override;
+  void DrawCell(int col, int row, const QRect& rect, TGridDrawState state) override;
+  void KeyDown(quint16& key, TShiftState shift) override;
+  void MouseDown(TMouseButton button, TShiftState shift, int x, int y) override;
+  void MouseMove(TShiftState shift, int x, int y) override;
+  void Resize() override;
+  void RowMoved(int fromIndex, int toIndex) override;
+  bool SelectCell(int col, int row) override;
 
   // What the items tell.
 
@@ -194,9 +248,19 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   virtual int CompareStrings(const QString& s1, const QString& s2);
 
  protected:
+  /// Makes the columns fill the width, with doAutoColResize.
+  virtual void AdjustColWidths();
   virtual void AdjustGridCount();
   /// Fills the category map of Items.
   virtual void FillCategories() {}
+
+ public:
+  /// Has what was typed accepted or refused: runs the events of validation for the item under the cursor, if its text
+  /// was modified. Without a handler for errors, raises what was wrong.
+  virtual void Validate();
+
+ protected:
+  virtual void DoValidate();
   virtual void DoValidate(TKTItemProp* item, int column);
   virtual void DoValidated(TKTItemProp* item, int column);
   virtual void DoValidateError(TKTItemProp* item, int column, const Exception& error);
@@ -251,11 +315,44 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   /// Makes the collection for the editor or for an item: `owner`.
   virtual std::unique_ptr<TKTItemProps> CreateItems(TPersistent* owner);
   virtual void OrientationChange();
+  /// Makes the text of a cell's hint; empty for none.
+  virtual void ShowHints(TKTItemProp* item, int col, int row, QString& hint);
   /// Font has changed.
   virtual void FontChanged();
   virtual void GetOriginalFont(TObject* sender, TFont*& font);
 
  private:
+  // Drawing.
+  void UseCellFont(const TGridInfo& info, TKTItemProp* item);
+  void Indent(TKTItemProp& item, QRect& rect);
+  QRect GlyphRect(const TKTItemProp& item, const QRect& cell) const;
+  void DrawGlyph(const TKTItemProp& item, const QRect& place);
+  void DrawBox(const QRect& place, bool isExpanded);
+  void UseSelectionColors(const QRect& rect, TGridDrawState state);
+  void DrawCellText(const QRect& rect, const QString& text);
+  void GlyphChanged(TObject* sender);
+  std::unique_ptr<TPicture> MakeGlyph(const QString& name);
+  int TextRowHeight();
+  void FitRowHeight();
+
+  // Input.
+  bool LeaveBlank(int col, int row);
+  bool RestoreTyping();
+  bool CanAddByKey();
+  void AddByKey(bool append, quint16& key);
+  void AcceptByKey();
+  void GoToLine(int line, quint16& key);
+  void HandleKey(quint16& key, TShiftState shift);
+  bool PressItem(TShiftState shift, TGridCoord cell, QPoint point);
+  bool PressGlyph(TGridCoord cell, QPoint point);
+  void PressName(TGridCoord cell, TShiftState shift);
+  void MoveItem(int fromRow, int toRow);
+  void ValidateBlank();
+
+  // Hints.
+  void HintAt(TGridCoord cell);
+  void ShowHintOf(TKTItemProp& item, TGridCoord cell, const QString& text);
+
   bool IsUpdating() const { return FItems->GetUpdateCount() > 0; }
   void ShowRows();
   int WantedLineCount() const;
@@ -267,6 +364,7 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   std::unique_ptr<TKTCustomDeltaFont> MakeFont();
   void ValueFontChanged(TObject*);
   void CategoryFontChanged(TObject*);
+  void TitleCaptionFontChanged(TObject*);
   void TitleCaptionsChange(TObject*);
   TKTItemProps& LevelOf(const TKTItemProp& item) const;
   void MoveTo(TKTItemProp& item, TKTItemProp* category);
@@ -282,6 +380,15 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   std::unique_ptr<TStringList> FTitleCaptions;
   std::unique_ptr<TKTCustomDeltaFont> FValueFont;
   std::unique_ptr<TKTCustomDeltaFont> FCategoryFont;
+  std::unique_ptr<TKTCustomDeltaFont> FTitleCaptionFont;
+  std::unique_ptr<TPicture> FMinusGlyph;
+  std::unique_ptr<TPicture> FPlusGlyph;
+  /// Owned as a component.
+  TKTHintWindow* FHintWindow = nullptr;
+  /// Where the mouse was last.
+  QPoint FLastMouse;
+  int FIndent = 0;
+  int FRowHeight = 18;
   QString FPathDelimiter;
   /// A name that was typed and rejected once.
   QString FPendingName;
@@ -292,7 +399,15 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   int FEditUpdateLock = 0;
   /// The number of rows when the lock was taken.
   int FSavedVisibleCount = 0;
+  TGridShowHints FShowItemHintStyle = shValueAndHint;
   bool FDeleting = false;
+  bool FAdjusting = false;
+  /// The cursor is being taken along with what it stands on.
+  bool FFollowing = false;
+  bool FHideSelection = false;
+  bool FIsRowHeightByHand = false;
+  bool FHasOwnMinusGlyph = false;
+  bool FHasOwnPlusGlyph = false;
   bool FCaseSensitive = false;
   bool FDeleteBlanks = false;
   bool FArrangeByCategory = false;

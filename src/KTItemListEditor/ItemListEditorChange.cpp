@@ -1,5 +1,7 @@
 #include "kt/KTItemListEditor/ItemListEditor.h"
 #include "kt/KTItemListEditor/ItemWatch.h"
+#include "kt/rtl/objects/LifeWatch.h"
+#include "kt/vcl/grids/InplaceEdit.h"
 
 #include <QScopedValueRollback>
 
@@ -48,7 +50,21 @@ void TKTCustomItemListEditor::FreeItem(TKTItemProp* item) {
   if (item) item->GetCollection()->Delete(item->GetIndex());
 }
 
+/// Whether something had been typed, and is taken back.
+bool TKTCustomItemListEditor::RestoreTyping() {
+  TInplaceEdit* editor = InplaceEditor();
+  if (!editor || !editor->IsModified()) return false;
+  const TLifeWatch watch(editor);
+  const QString typed = editor->GetText();
+  editor->Reset();
+  if (watch.IsAlive()) SetEditText(GetCol(), GetRow(), QString(editor->GetText()));
+  if (!watch.IsAlive() || editor->GetText() == typed) return false;
+  editor->SelectAll();
+  return true;
+}
+
 bool TKTCustomItemListEditor::RestoreCurrentItem() {
+  if (RestoreTyping()) return true;
   if (!IsEmptyItem()) return false;
   DeleteItem(GetCol(), GetRow());
   return true;
@@ -68,17 +84,6 @@ void TKTCustomItemListEditor::SetCaseSensitive(bool value) {
   FCaseSensitive = value;
   // Deliberately without effect on a sorted list: the new comparison counts for what comes later.
   if (IsSorted()) FItems->Sort(false);
-}
-
-// Validation: the events of the editor, for items without a handler of their own.
-
-void TKTCustomItemListEditor::DoValidate(TKTItemProp* item, int column) { OnValidate(this, item, column); }
-
-void TKTCustomItemListEditor::DoValidated(TKTItemProp* item, int column) { OnValidated(this, item, column); }
-
-void TKTCustomItemListEditor::DoValidateError(TKTItemProp* item, int column, const Exception& error) {
-  if (!OnValidateError) throw;
-  OnValidateError(this, item, column, error);
 }
 
 }  // namespace kt

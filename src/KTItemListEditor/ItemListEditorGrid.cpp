@@ -89,7 +89,7 @@ void TKTCustomItemListEditor::SetColumnTitles(bool value) {
     if (value && GetRowCount() < 2) SetRowCount(2);
     SetFixedRows(fixed);
   } else {
-    if (value && GetColCount() < 2) SetColCount(2);
+    if (value && GetColCount() < 2) TCustomDrawGrid::SetColCount(2);
     SetFixedCols(fixed);
   }
 }
@@ -102,6 +102,7 @@ void TKTCustomItemListEditor::SetDisplayOptions(TILEDisplayOptions value) {
   if (changed.Has(doColumnTitles)) SetColumnTitles(value.Has(doColumnTitles));
   if (removed.Has(doMultiColValues)) SetGridCount(gcFieldCount, 2);
   FDisplayOptions = value;
+  AdjustColWidths();
   if (changed.Has(doShowReadOnly)) RefreshVisibleItems();
   Refresh();
 }

@@ -4,6 +4,8 @@
 #include "kt/KTItemListEditor/ItemWatch.h"
 #include "kt/rtl/collections/UpdateBracket.h"
 
+#include <QScopedValueRollback>
+
 namespace kt {
 
 namespace {
@@ -58,7 +60,10 @@ void TKTCustomItemListEditor::VisibleChanged(TKTItemProp*) {
   const TItemWatch selected(GetSelected());
   TItemRows::Recount(*FItems);
   Refresh();
-  if (selected) GoToRow(selected->GetAbsoluteVIndex());
+  if (!selected) return;
+  // The cursor follows its item; it does not leave what is under it meanwhile, an item that is being made perhaps.
+  const QScopedValueRollback following(FFollowing, true);
+  GoToRow(selected->GetAbsoluteVIndex());
 }
 
 void TKTCustomItemListEditor::InvalidateItem(const TKTItemProp& item) {
@@ -102,6 +107,7 @@ int TKTCustomItemListEditor::WantedLineCount() const {
 void TKTCustomItemListEditor::AdjustGridCount() {
   const int wanted = WantedLineCount();
   if (wanted == GetGridCount(gcLineCount)) return;
+  const QScopedValueRollback following(FFollowing, true);
   if (wanted < GetGridCount(gcCurrentLine)) SetGridCount(gcCurrentLine, wanted - 1);
   // Whoever heard of the new current line may have changed the rows.
   SetGridCount(gcLineCount, WantedLineCount());

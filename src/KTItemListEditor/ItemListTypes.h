@@ -39,6 +39,14 @@ enum TILEPropOption {
 };
 using TILEPropOptions = TSet<TILEPropOption>;
 
+/// What the hint of a value cell shows.
+enum TGridShowHints {
+  shNone,         ///< there are no hints, not even for names
+  shValueOnly,    ///< the text of the cell
+  shHintOnly,     ///< the item's Hint
+  shValueAndHint  ///< the text, and below it the hint in parentheses
+};
+
 /// Fills `values` with what the user can pick for the item of that full path name.
 struct TKTGetPickListEvent : TEvent<TObject*, const QString& /*propName*/, TStrings& /*values*/> {
   using TEvent::TEvent;
@@ -53,6 +61,11 @@ struct TKTOnValidateEvent : TEvent<TObject*, TKTItemProp* /*item*/, int /*column
 struct TKTOnValidateErrorEvent : TEvent<TObject*, TKTItemProp*, int, const Exception& /*error*/> {
   using TEvent::TEvent;
   static constexpr char TypeName[] = "TKTOnValidateErrorEvent";
+};
+/// May change or clear the text of the hint for an item.
+struct TKTOnShowHintsEvent : TEvent<TObject*, TKTItemProp* /*item*/, QString& /*hint*/> {
+  using TEvent::TEvent;
+  static constexpr char TypeName[] = "TKTOnShowHintsEvent";
 };
 /// May change or clear the category that the map has for the item under `propName`.
 struct TKTGetCategoryEvent
@@ -78,6 +91,12 @@ struct TEnumNames<TILEPropOption> {
   static constexpr char Name[] = "TILEPropOption";
   static constexpr char SetName[] = "TILEPropOptions";
   static constexpr const char* Values[] = {"propEdit", "propAdd", "propDelete", "propUnique"};
+};
+
+template <>
+struct TEnumNames<TGridShowHints> {
+  static constexpr char Name[] = "TGridShowHints";
+  static constexpr const char* Values[] = {"shNone", "shValueOnly", "shHintOnly", "shValueAndHint"};
 };
 
 }  // namespace kt

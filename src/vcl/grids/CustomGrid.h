@@ -204,6 +204,9 @@ class TCustomGrid : public TCustomControl {
   /// The sum of all column widths, without lines. Takes time for the columns of unusual width only.
   qint64 GetColWidthsSum() const { return FCols.Sizes.Sum(0, FCols.Count - 1); }
 
+  /// Changes the height of the rows that have no height of their own, and tells nobody.
+  void SetUsualRowHeight(int value);
+
   TGridOptions FDesignOptionsBoost = {goColSizing, goRowSizing};
 
  private:

@@ -94,6 +94,14 @@ void TCustomGrid::SetDefaultRowHeight(int value) {
   RowHeightsChanged();
 }
 
+void TCustomGrid::SetUsualRowHeight(int value) {
+  if (value == GetDefaultRowHeight()) return;
+  FRows.Sizes.ChangeUsual(value);
+  ScrollBarsNeedUpdate();
+  MoveEditor();
+  InvalidateGrid();
+}
+
 void TCustomGrid::SetSize(TGridAxis& axis, int index, int value) {
   CheckIndex(axis, index);
   if (axis.Count > MaxCustomExtents) throw EInvalidGridOperation(SGridTooLarge);

@@ -9,6 +9,11 @@ void TSparseSizes::SetUsual(int value) {
   FExceptions.clear();
 }
 
+void TSparseSizes::ChangeUsual(int value) {
+  FUsual = value;
+  std::erase_if(FExceptions, [value](const TException& exception) { return exception.Value == value; });
+}
+
 std::vector<TSparseSizes::TException>::const_iterator TSparseSizes::Find(int index) const {
   return std::lower_bound(FExceptions.begin(), FExceptions.end(), index,
                           [](const TException& exception, int wanted) { return exception.Index < wanted; });

@@ -17,6 +17,8 @@ class TSparseSizes {
   int GetUsual() const { return FUsual; }
   /// Sets all of them: the exceptions are forgotten.
   void SetUsual(int value);
+  /// Keeps the exceptions, but for those of that very value.
+  void ChangeUsual(int value);
   int Get(int index) const;
   void Set(int index, int value);
   bool HasExceptions() const { return !FExceptions.empty(); }

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <kt/KTItemListEditor.h>
+#include <kt/rtl/objects/Make.h>
+
+#include <QMainWindow>
+
+#include <memory>
+
+class QPlainTextEdit;
+
+/// A window with one item list editor down the page, one across it, and a log of what they tell.
+class TDemo : public QMainWindow {
+ public:
+  TDemo();
+  ~TDemo() override;
+
+  /// As somebody sees it in the middle of working: things are expanded, and a value is selected.
+  void ShowOff();
+
+ private:
+  void FillSettings();
+  void FillTable();
+  void LogEventsOf(kt::TKTItemListEditor& editor, const QString& name);
+  void Log(const QString& line);
+
+  std::unique_ptr<kt::TKTItemListEditor> FSettings;
+  std::unique_ptr<kt::TKTItemListEditor> FTable;
+  QPlainTextEdit* FLog;
+};

@@ -1,0 +1,121 @@
+// How the cells of an item list editor are drawn.
+#include "kt/KTItemListEditor/ItemListEditor.h"
+
+#include <QPainter>
+
+namespace kt {
+
+namespace {
+
+/// Where the text of a cell starts.
+constexpr int kTextInset = 2;
+
+}  // namespace
+
+void TKTCustomItemListEditor::DrawCell(int col, int row, const QRect& rect, TGridDrawState state) {
+  if (!IsDefaultDrawing()) return TCustomDrawGrid::DrawCell(col, row, rect, state);
+  const TGridInfo info = GetGridInfo(col, row);
+  TKTItemProp* item = FindItemProp(col, row, true);
+  UseCellFont(info, item);
+  QRect inner = rect;
+  if (item && info.Field == 0) Indent(*item, inner);
+  if (col == GetCol() && row == GetRow()) UseSelectionColors(inner, state);
+  DrawCellText(inner, GetCell(col, row));
+  TCustomDrawGrid::DrawCell(col, row, inner, state);
+}
+
+void TKTCustomItemListEditor::UseCellFont(const TGridInfo& info, TKTItemProp* item) {
+  TCanvas& canvas = GetCanvas();
+  if (item) {
+    canvas.SetFont(info.Field == 0 ? &item->GetFont() : &item->GetIndividualValueFont(info.Field - 1));
+    if (!item->GetEnabled()) canvas.GetFont().SetColor(clInactiveCaptionText);
+  } else if (info.Line < info.FixedLines) {
+    canvas.SetFont(FTitleCaptionFont.get());
+  } else {
+    canvas.SetFont(info.Field == 0 ? &GetFont() : FValueFont.get());
+  }
+}
+
+/// Takes the indentation off `rect` and draws the glyph into it. Names without a glyph start where those with one do.
+void TKTCustomItemListEditor::Indent(TKTItemProp& item, QRect& rect) {
+  const bool hasGlyph = item.IsExpandable() && item.HasVisibleChildren();
+  const int indent = item.GetLevel() * FIndent;
+  if (hasGlyph) DrawGlyph(item, GlyphRect(item, rect));
+  const int taken = indent + FIndent;
+  if (UseRightToLeftAlignment()) {
+    rect.setWidth(rect.width() - taken);
+  } else {
+    rect.setLeft(rect.left() + taken);
+  }
+}
+
+QRect TKTCustomItemListEditor::GlyphRect(const TKTItemProp& item, const QRect& cell) const {
+  const int indent = item.GetLevel() * FIndent;
+  const int width = FMinusGlyph->GetWidth();
+  const int x = UseRightToLeftAlignment() ? cell.left() + cell.width() - indent - width : cell.left() + indent;
+  return {x, cell.top() + (TCustomDrawGrid::GetDefaultRowHeight() - FMinusGlyph->GetHeight()) / 2, width,
+          FMinusGlyph->GetHeight()};
+}
+
+void TKTCustomItemListEditor::DrawGlyph(const TKTItemProp& item, const QRect& place) {
+  TPicture& glyph = item.IsExpanded() ? *FMinusGlyph : *FPlusGlyph;
+  if (item.IsExpanded() ? FHasOwnMinusGlyph : FHasOwnPlusGlyph) {
+    const int top = place.top() + (FMinusGlyph->GetHeight() - glyph.GetHeight()) / 2;
+    return GetCanvas().Draw(place.left(), top, glyph.GetGraphic());
+  }
+  DrawBox(place, item.IsExpanded());
+}
+
+/// The package's glyphs, in the colours of the palette and with the sharpness of the screen.
+void TKTCustomItemListEditor::DrawBox(const QRect& place, bool isExpanded) {
+  TCanvas& canvas = GetCanvas();
+  QPainter& painter = canvas.Painter();
+  const QColor ground = canvas.RealColor(GetColor());
+  const QColor sign = canvas.RealColor(GetFont().GetColor());
+  const auto mixed = [&](int a, int b) { return (a + b) / 2; };
+  const QColor frame(mixed(ground.red(), sign.red()), mixed(ground.green(), sign.green()),
+                     mixed(ground.blue(), sign.blue()));
+  const int middle = place.width() / 2;
+  painter.fillRect(place, frame);
+  painter.fillRect(place.adjusted(1, 1, -1, -1), ground);
+  painter.fillRect(QRect(place.left() + 2, place.top() + middle, place.width() - 4, 1), sign);
+  if (!isExpanded) painter.fillRect(QRect(place.left() + middle, place.top() + 2, 1, place.height() - 4), sign);
+}
+
+void TKTCustomItemListEditor::UseSelectionColors(const QRect& rect, TGridDrawState state) {
+  TCanvas& canvas = GetCanvas();
+  if (FHideSelection && !IsActiveControl()) {
+    canvas.GetBrush().SetColor(GetColor());
+    return canvas.FillRect(rect);
+  }
+  const bool isPlain = state.Has(gdFocused) && !GetOptions().Has(goDrawFocusSelected) && !GetOptions().Has(goRowSelect);
+  if (state.Has(gdSelected) && !isPlain) canvas.GetFont().SetColor(clHighlightText);
+}
+
+void TKTCustomItemListEditor::DrawCellText(const QRect& rect, const QString& text) {
+  TCanvas& canvas = GetCanvas();
+  int x = rect.left() + kTextInset;
+  if (UseRightToLeftAlignment()) x = rect.left() + rect.width() - kTextInset - canvas.TextWidth(text);
+  canvas.TextRect(rect, x, rect.top() + kTextInset, text);
+}
+
+// What it is drawn with.
+
+void TKTCustomItemListEditor::SetIndent(int value) {
+  if (FIndent == value || value < 0) return;
+  FIndent = value;
+  Invalidate();
+}
+
+void TKTCustomItemListEditor::SetHideSelection(bool value) {
+  if (FHideSelection == value) return;
+  FHideSelection = value;
+  Invalidate();
+}
+
+void TKTCustomItemListEditor::GlyphChanged(TObject* sender) {
+  (sender == FMinusGlyph.get() ? FHasOwnMinusGlyph : FHasOwnPlusGlyph) = true;
+  Invalidate();
+}
+
+}  // namespace kt
