@@ -39,12 +39,12 @@ class TInstance final : public T {
 template <std::derived_from<TObject> T, class... A>
 [[nodiscard]] std::unique_ptr<T> Make(A&&... args) {
   // Placement on plain memory: a destroying delete is no help to a new-expression whose constructor throws.
-  auto memory = ::operator new(sizeof(TInstance<T>));
+  void* memory = TObjectLife::Allocate(sizeof(TInstance<T>));
   T* object = nullptr;
   try {
     object = ::new (memory) TInstance<T>(std::forward<A>(args)...);
   } catch (...) {
-    ::operator delete(memory);
+    TObjectLife::Release(memory);
     throw;
   }
   TObjectLife::Begin(object);

@@ -23,6 +23,10 @@ bool TObject::ClassNameIs(QStringView name) const { return ClassType()->ClassNam
 
 void TObject::operator delete(TObject* self, std::destroying_delete_t) noexcept { TObjectLife::End(self); }
 
+void* TObjectLife::Allocate(std::size_t size) { return ::operator new(size); }
+
+void TObjectLife::Release(void* memory) noexcept { ::operator delete(memory); }
+
 void TObjectLife::Begin(TObject* object) {
   const TLifeWatch watch(object);
   try {
@@ -41,7 +45,7 @@ void TObjectLife::Abandon(TObject* object) noexcept {
   void* memory = dynamic_cast<void*>(object);
   TLifeWatch::Forget(object);
   object->~TObject();
-  ::operator delete(memory);
+  Release(memory);
 }
 
 void TObjectLife::End(TObject* object) noexcept {

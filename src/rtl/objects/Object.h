@@ -66,6 +66,9 @@ class TObject {
 
 /// The two ends of an object's life; for Make() only.
 struct TObjectLife {
+  /// Memory for an object, and its return when no object came to lie there. Both are of the library that frees objects.
+  static void* Allocate(std::size_t size);
+  static void Release(void* memory) noexcept;
   /// Runs the second phase of construction; when it fails, destroys the object and passes the exception on.
   static void Begin(TObject* object);
   /// Destroys an object whose construction failed.
