@@ -20,6 +20,15 @@ struct TRun {
   QByteArray Errors;
 };
 
+/// A change of one property, and what it changes in the text of the form.
+struct TEdit {
+  const char* Assignment;
+  const char* Old;
+  const char* New;
+};
+
+inline void PrintTo(const TEdit& edit, std::ostream* out) { *out << edit.Assignment; }
+
 class KtFormTest : public ::testing::Test {
  protected:
   QString Path(const char* name) const { return FFolder.filePath(QString::fromLatin1(name)); }

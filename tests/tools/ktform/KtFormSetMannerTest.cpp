@@ -7,6 +7,7 @@
 namespace {
 
 using ktform::tests::KtFormTest;
+using ktform::tests::TEdit;
 
 constexpr char kUtf8Mark[] = "\xEF\xBB\xBF";
 
@@ -133,14 +134,6 @@ constexpr char kByHand[] = R"(OBJECT A : TA [3]
   object : TC q = nil END
 end
 )";
-
-struct TEdit {
-  const char* Assignment;
-  const char* Old;
-  const char* New;
-};
-
-void PrintTo(const TEdit& edit, std::ostream* out) { *out << edit.Assignment; }
 
 class KtFormSetByHandTest : public KtFormSetMannerTest, public ::testing::WithParamInterface<TEdit> {};
 

@@ -12,6 +12,7 @@ namespace {
 
 using kt::tests::TSample;
 using ktform::tests::KtFormTest;
+using ktform::tests::TEdit;
 
 constexpr char kForm[] = R"(object Sample1: TSample
   Whole = 12
@@ -88,14 +89,6 @@ class KtFormSetPublishedTest : public KtFormTest {
     return message;
   }
 };
-
-struct TEdit {
-  const char* Assignment;
-  const char* Old;
-  const char* New;
-};
-
-void PrintTo(const TEdit& edit, std::ostream* out) { *out << edit.Assignment; }
 
 class KtFormSetPublishedValueTest : public KtFormSetPublishedTest, public ::testing::WithParamInterface<TEdit> {};
 
@@ -258,8 +251,8 @@ TEST_F(KtFormSetPublishedTest, APropertyBeforeACollectionStaysThere) {
 /// Then nobody can tell which item is which.
 TEST_F(KtFormSetPublishedTest, CollectionsInAnotherOrderAreWrittenAnew) {
   EXPECT_EQ(
-      "object Sample1: TSample\n  Whole = 1\n  Small = 0\n  Color = 0\n  Items = <\n    item\n      Caption = 'y'\n    "
-      "end>\n"
+      "object Sample1: TSample\n  Whole = 1\n  Small = 0\n  Color = 0\n  Items = <\n    item\n      Caption = 'y'\n"
+      "      Children = <>\n    end>\n"
       "  Foreign = <\n    item\n      Caption = 'x'\n    end>\nend\n",
       Set("object Sample1: TSample\n  Foreign = <\n    item\n      Caption = 'x'\n    end>\n  Items = <\n"
           "    item\n      Caption = 'y'\n    end>\nend\n",

@@ -3,6 +3,7 @@
 namespace {
 
 using ktform::tests::KtFormTest;
+using ktform::tests::TEdit;
 using ktform::tests::TRun;
 
 /// As the program itself writes it.
@@ -50,18 +51,10 @@ class KtFormSetTest : public KtFormTest {
   }
 };
 
-struct TAssignment {
-  const char* Text;
-  const char* Old;
-  const char* New;
-};
-
-void PrintTo(const TAssignment& assignment, std::ostream* out) { *out << assignment.Text; }
-
-class KtFormSetValueTest : public KtFormSetTest, public ::testing::WithParamInterface<TAssignment> {};
+class KtFormSetValueTest : public KtFormSetTest, public ::testing::WithParamInterface<TEdit> {};
 
 TEST_P(KtFormSetValueTest, OneValueChangesAndNothingElse) {
-  const TRun run = Set({QString::fromUtf8(GetParam().Text)});
+  const TRun run = Set({QString::fromUtf8(GetParam().Assignment)});
   EXPECT_EQ(0, run.Status);
   EXPECT_EQ("", run.Output + run.Errors);
   EXPECT_EQ(FormWith(GetParam().Old, GetParam().New), Content("b.dfm"));
@@ -71,27 +64,25 @@ TEST_P(KtFormSetValueTest, OneValueChangesAndNothingElse) {
 
 INSTANTIATE_TEST_SUITE_P(
     Kinds, KtFormSetValueTest,
-    ::testing::Values(TAssignment{"Caption=Good day", "'Hello'", "'Good day'"},
-                      TAssignment{"Caption=", "'Hello'", "''"}, TAssignment{"Caption=a=b", "'Hello'", "'a=b'"},
-                      TAssignment{"Caption=--help me", "'Hello'", "'--help me'"},
-                      TAssignment{"Caption=\xC3\xA9", "'Hello'", "#233"},
-                      TAssignment{"Left=13", "Left = 12", "Left = 13"},
-                      TAssignment{"Left=-2147483649", "Left = 12", "Left = -2147483649"},
-                      TAssignment{"Visible=False", "Visible = True", "Visible = False"},
-                      TAssignment{"OnClick=DoClick", "Form1Click", "DoClick"},
-                      TAssignment{"Ratio=2.25", "1.500000000000000000", "2.250000000000000000"},
-                      TAssignment{"Styles=[fsBold]", "[fsBold, fsItalic]", "[fsBold]"},
-                      TAssignment{"Styles=fsBold, fsUnderline", "[fsBold, fsItalic]", "[fsBold, fsUnderline]"},
-                      TAssignment{"Styles=[]", "[fsBold, fsItalic]", "[]"}));
+    ::testing::Values(TEdit{"Caption=Good day", "'Hello'", "'Good day'"}, TEdit{"Caption=", "'Hello'", "''"},
+                      TEdit{"Caption=a=b", "'Hello'", "'a=b'"}, TEdit{"Caption=--help me", "'Hello'", "'--help me'"},
+                      TEdit{"Caption=\xC3\xA9", "'Hello'", "#233"}, TEdit{"Left=13", "Left = 12", "Left = 13"},
+                      TEdit{"Left=-2147483649", "Left = 12", "Left = -2147483649"},
+                      TEdit{"Visible=False", "Visible = True", "Visible = False"},
+                      TEdit{"OnClick=DoClick", "Form1Click", "DoClick"},
+                      TEdit{"Ratio=2.25", "1.500000000000000000", "2.250000000000000000"},
+                      TEdit{"Styles=[fsBold]", "[fsBold, fsItalic]", "[fsBold]"},
+                      TEdit{"Styles=fsBold, fsUnderline", "[fsBold, fsItalic]", "[fsBold, fsUnderline]"},
+                      TEdit{"Styles=[]", "[fsBold, fsItalic]", "[]"}));
 
 INSTANTIATE_TEST_SUITE_P(Paths, KtFormSetValueTest,
-                         ::testing::Values(TAssignment{"Form1.Left=13", "Left = 12", "Left = 13"},
-                                           TAssignment{"FORM1.lEFT=13", "Left = 12", "Left = 13"},
-                                           TAssignment{"Panel1.Font.Size=9", "Size = 8", "Size = 9"},
-                                           TAssignment{"Form1.Panel1.Font.Size=9", "Size = 8", "Size = 9"},
-                                           TAssignment{"Button1.Caption=Go", "'OK'", "'Go'"},
-                                           TAssignment{"Frame1.Edit1.Text=b", "'a'", "'b'"},
-                                           TAssignment{"Form1.Frame1.Edit1.Text=b", "'a'", "'b'"}));
+                         ::testing::Values(TEdit{"Form1.Left=13", "Left = 12", "Left = 13"},
+                                           TEdit{"FORM1.lEFT=13", "Left = 12", "Left = 13"},
+                                           TEdit{"Panel1.Font.Size=9", "Size = 8", "Size = 9"},
+                                           TEdit{"Form1.Panel1.Font.Size=9", "Size = 8", "Size = 9"},
+                                           TEdit{"Button1.Caption=Go", "'OK'", "'Go'"},
+                                           TEdit{"Frame1.Edit1.Text=b", "'a'", "'b'"},
+                                           TEdit{"Form1.Frame1.Edit1.Text=b", "'a'", "'b'"}));
 
 TEST_F(KtFormSetTest, SeveralPropertiesAreSetInOneRun) {
   EXPECT_EQ(0, Set({"Left=13", "Button1.Caption=Go", "Left=14"}).Status);

@@ -4,6 +4,7 @@
 namespace {
 
 using ktform::tests::KtFormTest;
+using ktform::tests::TEdit;
 using ktform::tests::TRun;
 
 constexpr char kForm[] = R"(object Form1: TForm1
@@ -25,14 +26,6 @@ constexpr char kForm[] = R"(object Form1: TForm1
   end
 end
 )";
-
-struct TEdit {
-  const char* Assignment;
-  const char* Old;
-  const char* New;
-};
-
-void PrintTo(const TEdit& edit, std::ostream* out) { *out << edit.Assignment; }
 
 class KtFormSetVisualTest : public KtFormTest, public ::testing::WithParamInterface<TEdit> {
  protected:
