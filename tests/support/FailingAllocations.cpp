@@ -54,8 +54,8 @@ void operator delete(void* block, std::size_t) noexcept { Release(block); }
 void operator delete(void* block, std::align_val_t) noexcept { Release(block); }
 void operator delete(void* block, std::size_t, std::align_val_t) noexcept { Release(block); }
 
-#if defined(__SANITIZE_ADDRESS__)
-// The sanitizer brings array forms of its own, which do not end in ours.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+// These sanitizers bring array forms of their own, which do not end in ours.
 void* operator new[](std::size_t size) { return AllocateOrThrow(size, alignof(std::max_align_t)); }
 void operator delete[](void* block) noexcept { Release(block); }
 void operator delete[](void* block, std::size_t) noexcept { Release(block); }

@@ -11,6 +11,8 @@
 
 #include <QString>
 
+#include <atomic>
+
 /// Classes with every kind of published property, for tests of reflection and streams.
 namespace kt::tests {
 
@@ -57,7 +59,7 @@ class TSampleItem : public TCollectionItem {
   }
   ~TSampleItem() override { --Alive; }
   /// How many items there are.
-  static inline int Alive = 0;
+  static inline std::atomic<int> Alive = 0;
 
   TCollection& GetChildren() { return *FChildren; }
   void SetChildren(TCollection* value) { FChildren->Assign(value); }
@@ -118,7 +120,7 @@ class TSample : public TComponent {
 
   ~TSample() override { --Alive; }
   /// How many samples there are.
-  static inline int Alive = 0;
+  static inline std::atomic<int> Alive = 0;
 
   TSamplePart& GetPart() { return *FPart; }
   void SetPart(TSamplePart* value) { FPart->Assign(value); }
