@@ -38,8 +38,7 @@ TKTItemProp* AddMasked(TKTItemProps& items, const QString& name, const QString& 
 
 }  // namespace
 
-TDemo::TDemo()
-    : FSettings(Make<TKTItemListEditor>()), FTable(Make<TKTItemListEditor>()), FLog(new QPlainTextEdit) {
+TDemo::TDemo() : FSettings(Make<TKTItemListEditor>()), FTable(Make<TKTItemListEditor>()), FLog(new QPlainTextEdit) {
   setWindowTitle(QStringLiteral("Item list editor"));
   FLog->setReadOnly(true);
   FLog->setObjectName(QStringLiteral("log"));
@@ -68,7 +67,9 @@ void TDemo::FillSettings() {
   items.BeginUpdate();
 
   TKTItemProp* text = items.AddCategory(QStringLiteral("Text"), false);
-  text->GetItems().Add(QStringLiteral("Caption"), QStringLiteral("Hello"))->SetHint(QStringLiteral("What the user reads"));
+  text->GetItems()
+      .Add(QStringLiteral("Caption"), QStringLiteral("Hello"))
+      ->SetHint(QStringLiteral("What the user reads"));
   AddPick(text->GetItems(), QStringLiteral("Alignment"), QStringLiteral("Left"),
           {QStringLiteral("Left"), QStringLiteral("Center"), QStringLiteral("Right")});
   TKTItemProp* font = text->GetItems().Add(QStringLiteral("Font"), QStringLiteral("Sans, 10"));

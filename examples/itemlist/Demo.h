@@ -1,10 +1,9 @@
 #pragma once
 
-#include <kt/KTItemListEditor.h>
-#include <kt/rtl/objects/Make.h>
-
 #include <QMainWindow>
 
+#include <kt/KTItemListEditor.h>
+#include <kt/rtl/objects/Make.h>
 #include <memory>
 
 class QPlainTextEdit;
