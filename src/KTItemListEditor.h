@@ -10,3 +10,4 @@
 #include "kt/KTItemListEditor/ItemStrings.h"
 #include "kt/KTItemListEditor/Messages.h"
 #include "kt/KTItemListEditor/Registration.h"
+#include "kt/rtl/strings/StringList.h"

@@ -50,6 +50,7 @@ TDemo::TDemo() : FSettings(Make<TKTItemListEditor>()), FTable(Make<TKTItemListEd
   auto* across = new QSplitter(Qt::Vertical);
   across->addWidget(Titled(QStringLiteral("Items across the columns"), FTable->GetHandle()));
   across->addWidget(Titled(QStringLiteral("What the editors tell"), FLog));
+  across->setSizes({150, 340});
   auto* all = new QSplitter(Qt::Horizontal);
   all->addWidget(Titled(QStringLiteral("Items down the rows"), FSettings->GetHandle()));
   all->addWidget(across);

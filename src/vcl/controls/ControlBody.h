@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kt/vcl/controls/WinControl.h"
+
 #include <QEvent>
 #include <QWidget>
 
@@ -12,8 +14,6 @@ class QMouseEvent;
 class QWheelEvent;
 
 namespace kt {
-
-class TWinControl;
 
 /// The side of a control's widget that faces the control: the one way in from Qt. Turns Qt's events into the messages
 /// that the control understands; nothing that the control's code throws gets back into Qt.
@@ -81,14 +81,24 @@ class TControlBody {
 template <class W>
 class TBodyOf final : public W, public TControlBody {
  public:
-  TBodyOf(TWinControl* control, QWidget* parent) : W(parent), TControlBody(control, this) {}
+  TBodyOf(TWinControl* control, QWidget* parent)
+      : W(parent), TControlBody(control, this), FSize(control->GetBoundsRect().size()) {}
 
   bool event(QEvent* event) override {
     return HandleEvent(event, [this](QEvent* passed) { return W::event(passed); });
   }
 
+  /// For layouts: the size that the control had before there was one, unless the widget knows better.
+  QSize sizeHint() const override {
+    const QSize own = W::sizeHint();
+    return own.isValid() ? own : FSize;
+  }
+
  protected:
   bool focusNextPrevChild(bool next) override { return MoveFocusPastOwner(next) || W::focusNextPrevChild(next); }
+
+ private:
+  QSize FSize;
 };
 
 }  // namespace kt

@@ -62,6 +62,14 @@ TEST(WinControlTest, HasNoWindowUntilItIsAskedFor) {
   EXPECT_TRUE(control->HandleAllocated());
 }
 
+TEST(WinControlTest, ALayoutIsToldTheSizeThatTheControlWasGiven) {
+  auto control = Make<TSpy>();
+  control->SetBounds(0, 0, 70, 80);
+  EXPECT_EQ(control->GetHandle()->sizeHint(), QSize(70, 80));
+  control->SetBounds(0, 0, 300, 300);
+  EXPECT_EQ(control->GetHandle()->sizeHint(), QSize(70, 80));
+}
+
 TEST(WinControlTest, TheWindowTakesPlaceAndSizeOver) {
   auto parent = Make<TSpy>();
   auto& child = *New<TSpy>(parent.get());

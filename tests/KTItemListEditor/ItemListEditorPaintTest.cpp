@@ -1,0 +1,219 @@
+#include "kt/rtl/strings/StringList.h"
+#include "kt/vcl/graphics/Bitmap.h"
+#include "support/Expect.h"
+#include "support/ItemLists.h"
+#include "support/PaintLog.h"
+#include "support/WindowProbe.h"
+
+#include <QPainter>
+#include <QRegularExpression>
+
+namespace kt::tests {
+namespace {
+
+class TPaintedEditor : public TKTItemListEditor {
+ public:
+  using TKTItemListEditor::DrawCell;
+  using TKTItemListEditor::TKTItemListEditor;
+};
+
+class ItemListEditorPaintTest : public TItemListTest {
+ protected:
+  ItemListEditorPaintTest() {
+    FEditor = Make<TPaintedEditor>();
+    FEditor->GetFont().SetColor(clBlack);
+  }
+
+  /// What drawing a cell into 200 x 18 pixels at the origin draws, without the lines that texts stand on.
+  QString Drawn(int col, int row, TGridDrawState state = {}) {
+    TPaintLog log;
+    {
+      QPainter painter(&log);
+      FEditor->GetCanvas().Begin(painter);
+      static_cast<TPaintedEditor&>(*FEditor).DrawCell(col, row, QRect(0, 0, 200, 18), state);
+      FEditor->GetCanvas().End();
+    }
+    return QString::fromStdString(log.Take()).replace(QRegularExpression(QStringLiteral("(text \\d+),\\d+")), "\\1");
+  }
+  /// What Drawn() has that begins with a word.
+  QString Only(const QString& word, int col, int row, TGridDrawState state = {}) {
+    return Drawn(col, row, state).split(QStringLiteral(" | ")).filter(word + u' ').join(QStringLiteral(" | "));
+  }
+  QString Text(int col, int row, TGridDrawState state = {}) { return Only(QStringLiteral("text"), col, row, state); }
+  QString Fills(int col, int row, TGridDrawState state = {}) { return Only(QStringLiteral("fill"), col, row, state); }
+  /// Whether a glyph is in the nine pixels that start there.
+  bool HasGlyphAt(int left, int col, int row) {
+    return Fills(col, row).contains(QStringLiteral("fill %1,4 9x9").arg(left));
+  }
+};
+
+// Texts.
+
+TEST_F(ItemListEditorPaintTest, AValueStartsTwoPixelsInside) {
+  Items().Add("a", "one");
+  EXPECT_EQ("text 2 'one' #000000", Text(1, 1));
+}
+
+TEST_F(ItemListEditorPaintTest, ANameStartsBehindTheRoomForTheGlyph) {
+  Fill("a");
+  EXPECT_EQ("text 13 'a' #000000", Text(0, 1));
+  EXPECT_FALSE(HasGlyphAt(0, 0, 1));
+}
+
+TEST_F(ItemListEditorPaintTest, ANameIsIndentedByItsLevel) {
+  Fill("a [b]");
+  FEditor->FullExpand();
+  EXPECT_EQ("text 24 'b' #000000", Text(0, 2));
+}
+
+TEST_F(ItemListEditorPaintTest, ValuesAreNeverIndented) {
+  Fill("a [b]");
+  FEditor->FullExpand();
+  Item("a.b").SetValue("x");
+  EXPECT_EQ("text 2 'x' #000000", Text(1, 2));
+}
+
+TEST_F(ItemListEditorPaintTest, FromRightToLeftTextsEndTwoPixelsInside) {
+  Fill("a");
+  FEditor->SetBiDiMode(bdRightToLeft);
+  const int width = FEditor->GetCanvas().TextWidth(QStringLiteral("a"));
+  EXPECT_EQ(QStringLiteral("text %1 'a' #000000").arg(200 - 11 - 2 - width), Text(0, 1));
+}
+
+TEST_F(ItemListEditorPaintTest, TheBlankLineShowsNothing) {
+  EXPECT_EQ("", Text(0, 1));
+  EXPECT_EQ("", Text(1, 1));
+}
+
+TEST_F(ItemListEditorPaintTest, AMissingTitleIsEmpty) {
+  FEditor->GetTitleCaptions().SetText("Only");
+  EXPECT_EQ("text 2 'Only' #000000", Text(0, 0));
+  EXPECT_EQ("", Text(1, 0));
+}
+
+// Glyphs.
+
+TEST_F(ItemListEditorPaintTest, AnItemWithVisibleChildrenHasAGlyph) {
+  Fill("a [b]");
+  EXPECT_TRUE(HasGlyphAt(0, 0, 1));
+}
+
+TEST_F(ItemListEditorPaintTest, TheGlyphStandsAtTheIndentation) {
+  Fill("a [b [c]]");
+  FEditor->FullExpand();
+  EXPECT_TRUE(HasGlyphAt(11, 0, 2));
+}
+
+TEST_F(ItemListEditorPaintTest, AnItemWhoseChildrenAreHiddenHasNoGlyph) {
+  Fill("a [b]");
+  Item("a.b").SetVisible(false);
+  EXPECT_FALSE(HasGlyphAt(0, 0, 1));
+  EXPECT_EQ("text 13 'a' #000000", Text(0, 1));
+}
+
+TEST_F(ItemListEditorPaintTest, CollapsedItemsShowAPlusAndExpandedOnesAMinus) {
+  Fill("a [b]");
+  EXPECT_TRUE(Fills(0, 1).contains("fill 4,6 1x5 #000000"));
+  FEditor->FullExpand();
+  EXPECT_FALSE(Fills(0, 1).contains("fill 4,6 1x5 #000000"));
+  EXPECT_TRUE(Fills(0, 1).contains("fill 2,8 5x1 #000000"));
+}
+
+TEST_F(ItemListEditorPaintTest, WithoutIndentTheGlyphLiesOverTheName) {
+  Fill("a [b]");
+  FEditor->SetIndent(0);
+  EXPECT_TRUE(HasGlyphAt(0, 0, 1));
+  EXPECT_EQ("text 2 'a' #000000", Text(0, 1));
+}
+
+TEST_F(ItemListEditorPaintTest, AGlyphOfOnesOwnIsDrawnAsItIs) {
+  Fill("a [b]");
+  QImage image(7, 7, QImage::Format_RGB32);
+  image.fill(Qt::red);
+  FEditor->GetPlusGlyph().GetBitmap().SetImage(image);
+  EXPECT_EQ("image 0,5 7x7", Only("image", 0, 1));
+  FEditor->FullExpand();
+  EXPECT_EQ("", Only("image", 0, 1));
+}
+
+TEST_F(ItemListEditorPaintTest, ANegativeIndentIsIgnored) {
+  FEditor->SetIndent(-1);
+  EXPECT_EQ(11, FEditor->GetIndent());
+}
+
+TEST_F(ItemListEditorPaintTest, TheGlyphsAreThoseOfThePackage) {
+  EXPECT_EQ(QSize(9, 9), FEditor->GetMinusGlyph().GetBitmap().GetImage().size());
+  EXPECT_EQ(QSize(9, 9), FEditor->GetPlusGlyph().GetBitmap().GetImage().size());
+  EXPECT_FALSE(FEditor->IsMinusGlyphStored() || FEditor->IsPlusGlyphStored());
+}
+
+// Fonts and colours.
+
+TEST_F(ItemListEditorPaintTest, NamesAndValuesHaveTheFontsOfTheItem) {
+  Items().Add("a", "one");
+  Item("a").GetFont().SetColor(clRed);
+  Item("a").GetValueFont().SetColor(clBlue);
+  EXPECT_EQ("text 13 'a' #ff0000", Text(0, 1));
+  EXPECT_EQ("text 2 'one' #0000ff", Text(1, 1));
+}
+
+TEST_F(ItemListEditorPaintTest, ADisabledItemHasDeliberatelyTheColourOfInactiveCaptions) {
+  Fill("a");
+  Item("a").SetEnabled(false);
+  const QString color = FEditor->GetCanvas().RealColor(clInactiveCaptionText).name();
+  EXPECT_EQ("text 13 'a' " + color, Text(0, 1));
+  EXPECT_NE("#000000", color);
+}
+
+TEST_F(ItemListEditorPaintTest, TitlesHaveTheirFont) {
+  FEditor->GetTitleCaptionFont().SetColor(clGreen);
+  EXPECT_EQ("text 2 'Property' #008000", Text(0, 0));
+}
+
+TEST_F(ItemListEditorPaintTest, CategoriesAreBoldAndPurple) {
+  Items().AddCategory("c", false);
+  EXPECT_EQ("text 13 'c' #800080", Text(0, 1));
+}
+
+TEST_F(ItemListEditorPaintTest, TheCurrentCellLooksLikeAnyOtherWhileTheEditorHasNoFocus) {
+  Items().Add("a", "one");
+  EXPECT_EQ("text 2 'one' #000000", Text(1, 1, {gdSelected}));
+  EXPECT_TRUE(Fills(1, 1, {gdSelected}).startsWith("fill 0,0 200x18 #ffffff"));
+}
+
+TEST_F(ItemListEditorPaintTest, WithoutHideSelectionTheCurrentCellStaysSelected) {
+  Items().Add("a", "one");
+  FEditor->SetHideSelection(false);
+  const QString color = FEditor->GetCanvas().RealColor(clHighlightText).name();
+  EXPECT_EQ("text 2 'one' " + color, Text(1, 1, {gdSelected}));
+}
+
+TEST_F(ItemListEditorPaintTest, AFocusedCellIsPlainUnlessTheOptionsSaySo) {
+  Items().Add("a", "one");
+  FEditor->SetHideSelection(false);
+  EXPECT_EQ("text 2 'one' #000000", Text(1, 1, {gdSelected, gdFocused}));
+  FEditor->SetOptions(FEditor->GetOptions() + TGridOptions{goDrawFocusSelected});
+  EXPECT_NE("text 2 'one' #000000", Text(1, 1, {gdSelected, gdFocused}));
+}
+
+// The event.
+
+TEST_F(ItemListEditorPaintTest, OnDrawCellGetsTheRoomBesideTheGlyph) {
+  Fill("a [b]");
+  QRect got;
+  FEditor->OnDrawCell = [&got](TObject*, int, int, const QRect& rect, TGridDrawState) { got = rect; };
+  Drawn(0, 1);
+  EXPECT_EQ(QRect(11, 0, 189, 18), got);
+}
+
+TEST_F(ItemListEditorPaintTest, WithoutDefaultDrawingOnlyOnDrawCellDraws) {
+  Fill("a [b]");
+  QRect got;
+  FEditor->OnDrawCell = [&got](TObject*, int, int, const QRect& rect, TGridDrawState) { got = rect; };
+  FEditor->SetDefaultDrawing(false);
+  EXPECT_EQ("", Drawn(0, 1));
+  EXPECT_EQ(QRect(0, 0, 200, 18), got);
+}
+
+}  // namespace
+}  // namespace kt::tests
