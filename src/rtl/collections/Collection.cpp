@@ -4,10 +4,31 @@
 #include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 
+#include <utility>
+
 namespace kt {
+namespace {
+
+void CheckAlive(const TLifeWatch& watch) {
+  if (!watch.IsAlive()) throw EInvalidOperation(SObjectFreed.toString());
+}
+
+/// A collection whose update ends only if it is still there.
+struct TUpdateOfLiving {
+  TCollection& Collection;
+  const TLifeWatch& Watch;
+  void BeginUpdate() { Collection.BeginUpdate(); }
+  void EndUpdate() {
+    if (Watch.IsAlive()) Collection.EndUpdate();
+  }
+};
+
+}  // namespace
 
 const TClassInfo* TCollection::Class() {
   static const TClassInfo info = TClassBuilder<TCollection>("TCollection").Done();
@@ -16,7 +37,10 @@ const TClassInfo* TCollection::Class() {
 
 void TCollection::Destruct() {
   FUpdateCount = 1;
-  Clear();
+  LetLeave();
+  GuardedCall([this] { Clear(); });
+  // Whatever an override of BeginUpdate() raised.
+  while (GetCount() > 0) delete FItems.At(GetCount() - 1);
   TPersistent::Destruct();
 }
 
@@ -32,14 +56,23 @@ TCollectionItem* TCollection::Add() { return static_cast<TCollectionItem*>(FItem
 TCollectionItem* TCollection::Insert(int index) {
   if (index < 0 || index > GetCount()) throw EListError(Format(SListIndexError, {index}));
   std::unique_ptr<TCollectionItem> item(Add());
-  item->SetIndex(index);
+  const TLifeWatch watch(item.get());
+  try {
+    item->SetIndex(index);
+    CheckAlive(watch);
+  } catch (...) {
+    if (!watch.IsAlive()) static_cast<void>(item.release());
+    throw;
+  }
   return item.release();
 }
 
 void TCollection::Delete(int index) {
   TCollectionItem* item = GetItem(index);
   const int id = item->FID;
+  const TLifeWatch watch(this);
   Notify(item, cnDeleting);
+  if (!watch.IsAlive()) return;
   // Whoever was told may have deleted it, or moved it.
   const bool isInPlace = index < GetCount() && FItems.At(index)->FID == id;
   delete (isInPlace ? item : FindItemID(id));
@@ -47,8 +80,10 @@ void TCollection::Delete(int index) {
 
 void TCollection::Clear() {
   if (GetCount() == 0) return;
-  const TUpdateBracket bracket(*this);
-  while (GetCount() > 0) delete FItems.At(GetCount() - 1);
+  const TLifeWatch watch(this);
+  TUpdateOfLiving target{*this, watch};
+  const TUpdateBracket bracket(target);
+  while (watch.IsAlive() && GetCount() > 0) delete FItems.At(GetCount() - 1);
 }
 
 TCollectionItem* TCollection::FindItemID(int id) const {
@@ -62,12 +97,19 @@ void TCollection::Assign(TPersistent* source) {
   auto* other = dynamic_cast<TCollection*>(source);
   if (!other) return TPersistent::Assign(source);
   if (other == this) return;
-  const TUpdateBracket bracket(*this);
+  const TLifeWatch watch(this);
+  const TLifeWatch watchOfSource(source);
+  TUpdateOfLiving target{*this, watch};
+  const TUpdateBracket bracket(target);
   TItemsExchange formerItems(*this);
   try {
-    for (int i = 0; i < other->GetCount(); ++i) Add()->Assign(other->GetItem(i));
+    for (int i = 0; i < other->GetCount(); ++i) {
+      Add()->Assign(other->GetItem(i));
+      CheckAlive(watch);
+      CheckAlive(watchOfSource);
+    }
   } catch (...) {
-    formerItems.PutBack();
+    if (watch.IsAlive()) formerItems.PutBack();
     throw;
   }
 }
@@ -112,18 +154,44 @@ void TCollection::InsertItem(TCollectionItem* item) {
   FItems.Append(item);
   item->FCollection = this;
   item->FID = FNextID++;
+  const TLifeWatch watch(this);
   SetItemName(item);
+  CheckAlive(watch);
   Notify(item, cnAdded);
+  CheckAlive(watch);
   Changed();
+  // A construction must not go on when its item is gone with the collection.
+  CheckAlive(watch);
 }
 
 void TCollection::RemoveItem(TCollectionItem* item) {
-  Notify(item, cnExtracting);
+  TLeaving leaving{item, FLeaving};
+  FLeaving = &leaving;
+  try {
+    Notify(item, cnExtracting);
+  } catch (...) {
+    if (leaving.IsCollectionAlive) FLeaving = leaving.Outer;
+    throw;
+  }
+  if (!leaving.IsCollectionAlive) return;
+  FLeaving = leaving.Outer;
+  if (!leaving.Item) return;
   Forget(item);
   Changed();
 }
 
+/// The collection is dying: what is just leaving it is somebody else's already.
+void TCollection::LetLeave() {
+  for (TLeaving* leaving = std::exchange(FLeaving, nullptr); leaving; leaving = leaving->Outer) {
+    leaving->IsCollectionAlive = false;
+    if (leaving->Item && leaving->Item->IsInCollection()) Forget(leaving->Item);
+  }
+}
+
 void TCollection::Forget(TCollectionItem* item) {
+  for (TLeaving* leaving = FLeaving; leaving; leaving = leaving->Outer) {
+    if (leaving->Item == item) leaving->Item = nullptr;
+  }
   FItems.Remove(item);
   item->FCollection = nullptr;
 }

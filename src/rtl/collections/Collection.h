@@ -43,9 +43,14 @@ class TCollectionItem : public TPersistent {
   explicit TCollectionItem(TCollection* collection) : FCollection(collection) {}
 
   void Construct() override;
+  void BeforeDestruction() override;
   void Destruct() override;
   TPersistent* GetOwner() override;
 
+  /// The collection that this item owns, or null: a class whose items form trees answers it, so that trees of any depth
+  /// are destroyed in bounded stack. What is more than about fifty levels down goes from the leaves then, silently as
+  /// in any collection that is destroyed.
+  virtual TCollection* GetNestedItems() { return nullptr; }
   /// The collection that the constructor was given; for overrides of Construct() that act before the inherited one
   /// enters it.
   TCollection* CollectionToEnter() const { return FCollection; }
@@ -55,6 +60,8 @@ class TCollectionItem : public TPersistent {
 
  private:
   friend class TGapSequence<TCollectionItem>;
+
+  static void FreeFromLeaves(TCollection& top);
 
   bool IsInCollection() const { return FSlot >= 0; }
 
@@ -71,6 +78,11 @@ class TCollectionItem : public TPersistent {
 /// the item is still in the list, then it leaves, then Changed(). Delete() sends Notify(cnDeleting) before all this;
 /// Clear() and `delete item` do not. Changed() calls Update() with the one item that changed, or null for "anything may
 /// have", unless inside BeginUpdate()/EndUpdate(), whose last EndUpdate() calls Update(null).
+///
+/// An exception of an override does not keep items alive when the collection is destroyed; it is reported then
+/// (HandleException()). A collection may be freed inside its own notifications: the operation that sent them raises
+/// EInvalidOperation "An object was freed while it was in use" if it had more to do, and an item that was just leaving
+/// belongs to nobody then.
 ///
 /// Cost: positions are constant time; inserting and removing cost the distance from the place of the last insertion or
 /// removal, so that runs at either end or anywhere are constant time each.
@@ -138,16 +150,26 @@ class TCollection : public TPersistent {
   void ObserveItems(TItemSequence::TObserver* observer) { FItems.Observe(observer); }
 
  private:
+  /// An item whose leaving is being told; on the stack.
+  struct TLeaving {
+    /// Null when the item has left by itself meanwhile.
+    TCollectionItem* Item;
+    TLeaving* Outer;
+    bool IsCollectionAlive = true;
+  };
+
   void CheckClass(const TCollectionItem* item) const;
   void InsertItem(TCollectionItem* item);
   void RemoveItem(TCollectionItem* item);
   void Forget(TCollectionItem* item);
+  void LetLeave();
   void MoveItem(int from, int to);
 
   TGapSequence<TCollectionItem> FItems;
   const TClassInfo* FItemClass;
   int FUpdateCount = 0;
   int FNextID = 0;
+  TLeaving* FLeaving = nullptr;
 };
 
 /// A collection that belongs to an object, which its items' paths go through.

@@ -1,11 +1,22 @@
 #include "kt/rtl/collections/Collection.h"
 #include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 
 #include <exception>
 
 namespace kt {
+namespace {
+
+/// The collection whose item owns `inner`; `top` when that does not tell.
+TCollection* CollectionAround(TCollection* inner, TCollection& top) {
+  const auto* item = dynamic_cast<const TCollectionItem*>(inner->OwnerOf());
+  TCollection* outer = item ? item->GetCollection() : nullptr;
+  return outer && outer->GetCount() > 0 ? outer : &top;
+}
+
+}  // namespace
 
 const TClassInfo* TCollectionItem::Class() {
   static const TClassInfo info = TClassBuilder<TCollectionItem>("TCollectionItem").Creatable().Done();
@@ -15,6 +26,30 @@ const TClassInfo* TCollectionItem::Class() {
 void TCollectionItem::Construct() {
   TPersistent::Construct();
   SetCollection(std::exchange(FCollection, nullptr));
+}
+
+void TCollectionItem::BeforeDestruction() {
+  TPersistent::BeforeDestruction();
+  TCollection* nested = TObjectLife::IsDeep() ? GetNestedItems() : nullptr;
+  if (nested && nested->GetCount() > 0) FreeFromLeaves(*nested);
+}
+
+void TCollectionItem::FreeFromLeaves(TCollection& top) {
+  const TLifeWatch watchOfTop(&top);
+  TCollection* current = &top;
+  while (watchOfTop.IsAlive() && top.GetCount() > 0) {
+    current->FUpdateCount = 1;
+    TCollectionItem* last = current->FItems.At(current->GetCount() - 1);
+    TCollection* nested = last->GetNestedItems();
+    if (nested && nested->GetCount() > 0) {
+      current = nested;
+      continue;
+    }
+    const TLifeWatch watch(current);
+    delete last;
+    const bool isDone = !watch.IsAlive() || current->GetCount() == 0;
+    if (isDone) current = watch.IsAlive() && current != &top ? CollectionAround(current, top) : &top;
+  }
 }
 
 void TCollectionItem::Destruct() {

@@ -12,7 +12,8 @@ namespace kt {
 /// those of adding for items that are put back; these keep their ids.
 class TItemsExchange {
  public:
-  /// Takes all items out. Passes on what an observer raises, after putting back what was out already.
+  /// Takes all items out. Passes on what an observer raises, after putting back what was out already; raises
+  /// EInvalidOperation when an observer frees the collection.
   explicit TItemsExchange(TCollection& collection);
   /// Frees what the collection has now and puts the former items back. Exceptions of observers are reported
   /// (HandleException()).

@@ -29,6 +29,23 @@ TComponent::TComponent(TComponent* owner) : FNewOwner(owner) {}
 
 TComponent::~TComponent() = default;
 
+/// Takes neither stack nor memory, however deep the tree: each owner remembers how far the walk has come.
+template <class F>
+void TComponent::Walk(F enter) {
+  if (!enter(this)) return;
+  TComponent* owner = this;
+  if (FOwned) FOwned->BeginWalk();
+  while (owner) {
+    TComponent* next = owner->FOwned ? owner->FOwned->NextOfWalk() : nullptr;
+    if (!next) {
+      owner = owner == this ? nullptr : owner->FOwner;
+    } else if (enter(next)) {
+      if (next->FOwned) next->FOwned->BeginWalk();
+      owner = next;
+    }
+  }
+}
+
 void TComponent::Construct() {
   TPersistent::Construct();
   if (FNewOwner) FNewOwner->InsertComponent(this);
@@ -37,6 +54,7 @@ void TComponent::Construct() {
 void TComponent::BeforeDestruction() {
   TPersistent::BeforeDestruction();
   Destroying();
+  if (TObjectLife::IsDeep()) DestroyFromLeaves();
 }
 
 void TComponent::Destruct() {
@@ -113,12 +131,31 @@ void TComponent::RemoveComponent(TComponent* component) {
 
 void TComponent::DestroyComponents() {
   if (FOwned) FOwned->DropIndex();
+  while (GetComponentCount() > 0) DestroyLast();
+}
+
+void TComponent::DestroyLast() {
+  TComponent* last = FOwned->List().back();
+  // Only a component that somebody watches announces its going to its siblings; the others go silently.
+  if (last->HasState(csFreeNotification)) GuardedCall([&] { RemoveComponent(last); });
+  if (last->FOwner) Forget(last);
+  delete last;
+}
+
+void TComponent::DestroyFromLeaves() {
+  TComponent* owner = this;
   while (GetComponentCount() > 0) {
-    TComponent* last = FOwned->List().back();
-    // Only a component that somebody watches announces its going to its siblings; the others go silently.
-    if (last->HasState(csFreeNotification)) GuardedCall([&] { RemoveComponent(last); });
-    if (last->FOwner) Forget(last);
-    delete last;
+    while (owner->GetComponentCount() > 0) {
+      owner = owner->FOwned->List().back();
+      // It may have come while the tree was going.
+      owner->Destroying();
+    }
+    // The leaf's owner; a handler may have taken the leaf, or the branch, out of the tree.
+    owner = owner->FOwner && owner->FOwner->HasState(csDestroying) ? owner->FOwner : this;
+    if (owner->GetComponentCount() == 0 || owner->FOwned->List().back()->GetComponentCount() > 0) continue;
+    const TLifeWatch watch(owner);
+    owner->DestroyLast();
+    if (!watch.IsAlive()) owner = this;
   }
 }
 
@@ -128,9 +165,11 @@ void TComponent::Forget(TComponent* component) {
 }
 
 void TComponent::Destroying() {
-  if (HasState(csDestroying)) return;
-  FComponentState.Include(csDestroying);
-  for (int i = 0; i < GetComponentCount(); ++i) FOwned->List()[i]->Destroying();
+  Walk([](TComponent* component) {
+    if (component->HasState(csDestroying)) return false;
+    component->FComponentState.Include(csDestroying);
+    return true;
+  });
 }
 
 void TComponent::FreeNotification(TComponent* component) {
@@ -169,14 +208,28 @@ QString TComponent::GetNamePath() { return FName; }
 
 void TComponent::Notification(TComponent* component, TOperation operation) {
   if (operation == opRemove && component) RemoveFreeNotification(component);
-  // Downwards, and cut to what is left each time: a notified component may free others.
-  if (!FOwned) return;
-  const TLifeWatch self(this);
-  for (int i = FOwned->ListenerCount() - 1; i >= 0; i = std::min(i - 1, FOwned->ListenerCount() - 1)) {
-    FOwned->Listener(i)->Notification(component, operation);
-    // An override that called must not go on either.
-    if (!self.IsAlive()) throw EComponentError(SObjectFreed.toString());
+  TComponent* node = this;
+  // A chain of components with nothing to do of their own takes no stack.
+  while (TComponent* next = node->OnlyDeafListener()) {
+    node = next;
+    if (operation == opRemove && component) node->RemoveFreeNotification(component);
   }
+  if (!node->FOwned) return;
+  const TLifeWatch self(this);
+  const TLifeWatch watch(node);
+  // Downwards, and cut to what is left each time: a notified component may free others.
+  TOwnedComponents& owned = *node->FOwned;
+  for (int i = owned.ListenerCount() - 1; i >= 0; i = std::min(i - 1, owned.ListenerCount() - 1)) {
+    owned.Listener(i)->Notification(component, operation);
+    // An override that called must not go on either.
+    if (!self.IsAlive() || !watch.IsAlive()) throw EComponentError(SObjectFreed.toString());
+  }
+}
+
+TComponent* TComponent::OnlyDeafListener() {
+  if (!FOwned || FOwned->ListenerCount() != 1) return nullptr;
+  TComponent* listener = FOwned->Listener(0);
+  return listener->FHearsNotifications ? nullptr : listener;
 }
 
 void TComponent::GetChildren(const TGetChildProc&, TComponent*) {}
@@ -187,9 +240,11 @@ void TComponent::SetAncestor(bool value) {
 }
 
 void TComponent::SetDesigning(bool value, bool setChildren) {
-  FComponentState.Put(csDesigning, value);
-  if (!setChildren) return;
-  for (int i = 0; i < GetComponentCount(); ++i) FOwned->List()[i]->SetDesigning(value);
+  if (!setChildren) return FComponentState.Put(csDesigning, value);
+  Walk([value](TComponent* component) {
+    component->FComponentState.Put(csDesigning, value);
+    return true;
+  });
 }
 
 void TComponent::ValidateRename(TComponent* component, const QString& current, const QString& wanted) {

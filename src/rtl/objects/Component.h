@@ -45,7 +45,8 @@ using TComponentStyle = TSet<TComponentStyleItem>;
 /// An owner frees the components it owns when it is destroyed, the last first. A component that is destroyed tells
 /// everybody who asked for it (FreeNotification()), and everybody who has the same owner, through
 /// Notification(component, opRemove), before its own members go; it may be destroyed inside any notification but its
-/// own.
+/// own. Trees of any depth are destroyed in bounded stack: what is more than about a hundred levels down goes from the
+/// leaves, each component before its owner's destruction begins instead of within it.
 ///
 /// Cost: inserting, removing the last, finding by name and renaming take constant time on average, and a call for each
 /// sibling that overrides Notification() or owns components; removing another one than the last also takes time in
@@ -114,6 +115,7 @@ class TComponent : public TPersistent, public IInterfaceComponentReference {
   friend class TLoad;
   friend class TOwnedComponents;
   friend class TReader;
+  friend class TUndoLog;
   friend class TWriter;
 
   /// `owner` may be null.
@@ -161,8 +163,15 @@ class TComponent : public TPersistent, public IInterfaceComponentReference {
  private:
   /// True when Notification() would do something here or further down.
   bool HearsNotifications() const { return FHearsNotifications || FOwned; }
+  /// The only one of the owned that passes notifications on, if it does nothing else with them.
+  TComponent* OnlyDeafListener();
   TOwnedComponents& EnsureOwned();
   void Forget(TComponent* component);
+  void DestroyLast();
+  void DestroyFromLeaves();
+  /// Calls `enter` for this component and all below it, owners first; where it answers false it does not go below.
+  template <class F>
+  void Walk(F enter);
   void TellWatchers();
   void RemoveWatcher(TComponent* component);
 

@@ -1,12 +1,19 @@
 #include "kt/rtl/objects/Object.h"
 
 #include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/LifeTable.h"
 #include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 
 namespace kt {
+namespace {
+
+/// How many destructions run inside each other in this thread.
+thread_local int Depth = 0;
+
+}  // namespace
 
 const TClassInfo* TObject::Class() {
   static const TClassInfo info = TClassBuilder<TObject>("TObject").Creatable().Done();
@@ -44,13 +51,22 @@ void TObjectLife::Abandon(TObject* object) noexcept {
   // The start of the memory, which is not where TObject lies when another base class comes first.
   void* memory = dynamic_cast<void*>(object);
   TLifeWatch::Forget(object);
+  TLifeTable::Forget(object);
   object->~TObject();
   Release(memory);
 }
 
 void TObjectLife::End(TObject* object) noexcept {
+  ++Depth;
   GuardedCall([object] { object->BeforeDestruction(); });
   Abandon(object);
+  --Depth;
+}
+
+bool TObjectLife::IsDeep() {
+  // A level takes up to some kilobytes in a build with sanitizers, a thread has at least half a megabyte.
+  constexpr int kDeep = 100;
+  return Depth > kDeep;
 }
 
 }  // namespace kt

@@ -74,6 +74,9 @@ struct TObjectLife {
   /// Destroys an object whose construction failed.
   static void Abandon(TObject* object) noexcept;
   static void End(TObject* object) noexcept;
+  /// True while so many destructions run inside each other in this thread that the stack might end: whoever owns a tree
+  /// then destroys it from its leaves.
+  static bool IsDeep();
 };
 
 }  // namespace kt

@@ -32,6 +32,11 @@ class TOwnedComponents {
   /// A component has become a listener.
   void ListenersChanged();
 
+  /// One walk through the list at a time.
+  void BeginWalk() { FWalk = 0; }
+  /// Null at the end.
+  TComponent* NextOfWalk() { return FWalk < FList.size() ? FList[FWalk++] : nullptr; }
+
   /// All are about to go one by one: the index by name is dropped, and made anew when it is asked for.
   void DropIndex();
   void Renamed(TComponent* component, const QString& from, const QString& to);
@@ -51,6 +56,7 @@ class TOwnedComponents {
   /// Has room for the whole list as soon as there is a listener.
   std::vector<TComponent*> FListeners;
   bool FListenersAreKnown = true;
+  size_t FWalk = 0;
 };
 
 }  // namespace kt
