@@ -26,6 +26,7 @@ class TPersistent : public TObject {
 
  protected:
   friend class TReader;
+  friend class TUndoLog;
   friend class TWriter;
 
   TPersistent() = default;

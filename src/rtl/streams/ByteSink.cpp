@@ -51,8 +51,13 @@ void TByteSink::WriteOut() {
 void TByteSink::Flush() {
   if (FDevice != nullptr) return WriteOut();
   FBuffer.truncate(FCursor - FBuffer.constData());
-  FWritten += FBuffer.size();
-  *FTarget = std::move(FBuffer);
+  if (FWritten == 0) {
+    FWritten = FBuffer.size();
+    *FTarget = std::move(FBuffer);
+  } else {
+    FWritten += FBuffer.size();
+    FTarget->append(FBuffer);
+  }
   FBuffer = QByteArray();
   Restart(0);
 }

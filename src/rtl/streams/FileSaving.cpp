@@ -3,17 +3,41 @@
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/streams/ReadAll.h"
+#include "kt/rtl/streams/Reader.h"
 #include "kt/rtl/streams/Writer.h"
 
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <cerrno>
+#include <functional>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
 namespace kt {
 namespace {
 
 template <class E>
+[[noreturn]] void RaiseFileError(QLatin1StringView message, const QFileDevice& file, const QString& reason) {
+  throw E(Format(message, {QFileInfo(file.fileName()).absoluteFilePath(), reason}));
+}
+
+template <class E>
 [[noreturn]] void RaiseFileError(QLatin1StringView message, const QFileDevice& file) {
-  throw E(Format(message, {QFileInfo(file.fileName()).absoluteFilePath(), file.errorString()}));
+  RaiseFileError<E>(message, file, file.errorString());
+}
+
+/// Brings the file to the disk; the system's error number, or 0. A file system that cannot do so is no error.
+int ErrorOfSync([[maybe_unused]] const QFileDevice& file) {
+#ifdef Q_OS_UNIX
+  if (::fsync(file.handle()) == 0 || errno == EINVAL || errno == ENOTSUP) return 0;
+  return errno;
+#else
+  return 0;
+#endif
 }
 
 /// A disk that fills up takes a part first; only the attempt to write the rest tells the reason.
@@ -26,6 +50,12 @@ bool WriteAll(QFileDevice& file, QByteArrayView bytes) {
   return true;
 }
 
+QByteArray BinaryOfText(const QByteArray& text) {
+  QByteArray binary;
+  ObjectTextToBinary(text, binary);
+  return binary;
+}
+
 QByteArray FormBytes(const QByteArray& binary, TStreamOriginalFormat format) {
   if (format == sofResource) return WithResourceHeader(binary);
   if (format != sofText) return binary;
@@ -34,13 +64,41 @@ QByteArray FormBytes(const QByteArray& binary, TStreamOriginalFormat format) {
   return text;
 }
 
+/// Runs `read` over a file in any of the formats; errors begin with the file's name.
+void ReadFile(const QString& fileName, const std::function<void(TReader&)>& read) {
+  QFile file(fileName);
+  if (!file.open(QIODevice::ReadOnly)) RaiseFileError<EFOpenError>(SFOpenError, file);
+  try {
+    QByteArray data = ReadAll(file);
+    if (TestStreamFormat(data) == sofText) data = BinaryOfText(data);
+    TReader reader(data);
+    read(reader);
+  } catch (Exception& error) {
+    error.SetMessage(QFileInfo(fileName).absoluteFilePath() + QStringLiteral(": ") + error.Message());
+    throw;
+  }
+}
+
 }  // namespace
 
 void SaveBytesToFile(const QString& fileName, QByteArrayView bytes) {
   QSaveFile file(fileName);
   // Unbuffered: committing does not notice that its buffer could not be written in full.
   if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) RaiseFileError<EFCreateError>(SFCreateError, file);
-  if (!WriteAll(file, bytes) || !file.commit()) RaiseFileError<EWriteError>(SFWriteError, file);
+  if (!WriteAll(file, bytes)) RaiseFileError<EWriteError>(SFWriteError, file);
+  // Committing does not notice this either.
+  if (const int error = ErrorOfSync(file)) RaiseFileError<EWriteError>(SFWriteError, file, qt_error_string(error));
+  if (!file.commit()) RaiseFileError<EWriteError>(SFWriteError, file);
+}
+
+void LoadComponentFromFile(const QString& fileName, TComponent* root) {
+  ReadFile(fileName, [root](TReader& reader) { reader.ReadRootComponent(root); });
+}
+
+std::unique_ptr<TComponent> LoadComponentFromFile(const QString& fileName) {
+  std::unique_ptr<TComponent> root;
+  ReadFile(fileName, [&root](TReader& reader) { root.reset(reader.ReadRootComponent(nullptr)); });
+  return root;
 }
 
 void SaveComponentToFile(const QString& fileName, TComponent* component, TStreamOriginalFormat format) {

@@ -5,6 +5,8 @@
 #include <QByteArrayView>
 #include <QString>
 
+#include <memory>
+
 namespace kt {
 
 class TComponent;
@@ -18,5 +20,11 @@ void SaveBytesToFile(const QString& fileName, QByteArrayView bytes);
 /// Saves a component and its children in that way, as binary, as text or as a resource; sofUnknown stands for binary.
 /// Raises also what WriteComponentToBinary() raises, before the file is touched.
 void SaveComponentToFile(const QString& fileName, TComponent* component, TStreamOriginalFormat format = sofBinary);
+
+/// Reads a component and its children from a file in any of these formats; into `root`, which must not be null, or into
+/// a new one. Raises EFOpenError "Cannot open file "%s". %s"; what the content makes a reader raise (see TReader; of a
+/// text EParserError) has the file's name before its message.
+void LoadComponentFromFile(const QString& fileName, TComponent* root);
+std::unique_ptr<TComponent> LoadComponentFromFile(const QString& fileName);
 
 }  // namespace kt

@@ -47,8 +47,17 @@ void ChangeWaiting(F change) {
   change(Waiting().List);
 }
 
-void Wait(const TFixup& fixup) {
-  ChangeWaiting([&](TFixupList& list) { list.Add(fixup); });
+TFixupList::TNumber AddWaiting(const TFixup& fixup) {
+  TFixupList::TNumber number = 0;
+  ChangeWaiting([&](TFixupList& list) {
+    number = list.NextNumber();
+    list.Add(fixup);
+  });
+  return number;
+}
+
+void RemoveWaiting(TFixupList::TNumber number) {
+  ChangeWaiting([number](TFixupList& list) { list.Remove(number); });
 }
 
 /// The first waiting reference from `number` on, which is set to its number.
@@ -153,8 +162,21 @@ void TFixups::ResolveAll(F apply) {
     FList.pop_back();
     FCurrent = &fixup;
     const auto done = qScopeGuard([this] { FCurrent = nullptr; });
-    if (!apply(fixup) && fixup.Instance) Wait(fixup);
+    if (apply(fixup) || !fixup.Instance) continue;
+    // Room first, so that what waits is never without its number here.
+    if (FWaiting.size() == FWaiting.capacity()) FWaiting.reserve(FWaiting.size() * 2 + 1);
+    FWaiting.push_back(AddWaiting(fixup));
   }
+}
+
+void TFixups::TakeBack() noexcept {
+  FList.clear();
+  for (const TFixupList::TNumber number : FWaiting) RemoveWaiting(number);
+  FWaiting.clear();
+}
+
+void TFixups::Wait() {
+  for (; !FList.empty(); FList.pop_back()) AddWaiting(FList.back());
 }
 
 void TFixups::Resolve() {
@@ -203,11 +225,16 @@ void GlobalFixupReferences() {
   TMissingForms missing;
   const TFixupList::TNumber end = EndOfWaiting();
   TFixupList::TNumber number = 0;
-  for (auto fixup = WaitingFrom(number); fixup && number < end; fixup = WaitingFrom(++number)) {
-    const bool isFound = TargetInScope(*fixup) || (!missing.Has(*fixup) && Target(*fixup));
-    if (!isFound) continue;
-    load.Fixups().Add(*fixup);
-    ChangeWaiting([number](TFixupList& list) { list.Remove(number); });
+  try {
+    for (auto fixup = WaitingFrom(number); fixup && number < end; fixup = WaitingFrom(++number)) {
+      const bool isFound = TargetInScope(*fixup) || (!missing.Has(*fixup) && Target(*fixup));
+      if (!isFound) continue;
+      load.Fixups().Add(*fixup);
+      RemoveWaiting(number);
+    }
+  } catch (...) {
+    load.Fixups().Wait();
+    throw;
   }
   load.Fixups().ResolveGuarded();
 }

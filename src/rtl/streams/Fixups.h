@@ -21,7 +21,10 @@ class TFixups {
   void Add(TFixup fixup) { FList.push_back(std::move(fixup)); }
   /// Drops the references that `object` holds or that are relative to it.
   void Remove(const TPersistent* object);
-  void Clear() { FList.clear(); }
+  /// Drops all references, those too that wait since Resolve().
+  void TakeBack() noexcept;
+  /// Lets all references wait.
+  void Wait();
   /// Sets every reference whose component exists now and hands the others to the waiting list of the process.
   void Resolve();
   /// The same, but a reference that cannot be set is reported (HandleException()) and dropped, and the others go on.
@@ -32,13 +35,20 @@ class TFixups {
   void ResolveAll(F apply);
 
   std::vector<TFixup> FList;
+  /// What Resolve() has handed to the waiting list.
+  std::vector<TFixupList::TNumber> FWaiting;
   /// The one being set, which is no longer in the list.
   TFixup* FCurrent = nullptr;
 };
 
 /// How references find components of other forms: answers the form, data module or other root component of that name.
 using TFindGlobalComponent = std::function<TComponent*(const QString& name)>;
-/// Adds a way to find root components; returns a number to take it back with.
+/// Adds a way to find root components; returns a number to take it back with. All are asked in the order they came,
+/// by every load and by GlobalFixupReferences(), in the thread that calls these.
+///
+/// Deliberately without a lock, as it would be held while application code runs: finders are added and taken back while
+/// no other thread loads anything, and not from within a finder. One that raises makes the load fail, or ends
+/// GlobalFixupReferences(); references that waited go on waiting.
 int RegisterFindGlobalComponentProc(TFindGlobalComponent proc);
 void UnRegisterFindGlobalComponentProc(int number);
 TComponent* FindGlobalComponent(const QString& name);

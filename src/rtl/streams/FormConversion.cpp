@@ -5,6 +5,7 @@
 #include "kt/rtl/streams/BinaryFormParser.h"
 #include "kt/rtl/streams/BinaryFormWriter.h"
 #include "kt/rtl/streams/FormErrors.h"
+#include "kt/rtl/streams/ReadAll.h"
 #include "kt/rtl/streams/TextParser.h"
 
 #include <QIODevice>
@@ -86,12 +87,6 @@ QByteArray MakeBinary(const QByteArray& text, const TFormOptions& options) {
 
 QByteArray MakeResource(const QByteArray& text, const TFormOptions& options) {
   return WithResourceHeader(MakeBinary(text, options));
-}
-
-QByteArray ReadAll(QIODevice& device) {
-  QByteArray data = device.readAll();
-  if (device.isReadable() && device.atEnd()) return data;
-  throw EReadError(SReadError.toString() + u' ' + device.errorString());
 }
 
 void WriteAll(QIODevice& device, const QByteArray& data) {

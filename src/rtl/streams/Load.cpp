@@ -67,6 +67,8 @@ void TLoad::Finish() {
 }
 
 TComponent* TLoad::Keep() noexcept {
+  // First, because it frees objects, and what their handlers free must still disappear from the lists.
+  FUndoLog.Clear();
   TComponent* root = FLoaded.empty() ? nullptr : FLoaded.front();
   FLoaded.clear();
   FLoading.clear();
@@ -76,7 +78,7 @@ TComponent* TLoad::Keep() noexcept {
 }
 
 void TLoad::Undo() noexcept {
-  FFixups.Clear();
+  FFixups.TakeBack();
   FLoaded.clear();
   // Each by itself: one that raises does not keep the others waiting.
   while (!FUpdating.empty()) {
@@ -95,6 +97,8 @@ void TLoad::Undo() noexcept {
     delete FCreated.back();
     FCreated.pop_back();
   }
+  // The last, as what was created may have changed others when it came and when it went.
+  FUndoLog.WriteBack();
 }
 
 void TLoad::Forget(TPersistent* object) {
@@ -112,6 +116,7 @@ void TLoad::ForgetUses(const TPersistent* object) {
 void TLoad::ForgetHere(TPersistent* object) {
   ForgetUses(object);
   FFixups.Remove(object);
+  if (!dynamic_cast<const TComponent*>(object)) return;
   ClearLast(FCreated, object);
   ClearLast(FLoading, object);
   ClearLast(FMarked, object);

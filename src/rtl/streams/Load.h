@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kt/rtl/streams/Fixups.h"
+#include "kt/rtl/streams/UndoLog.h"
 
 #include <memory>
 #include <utility>
@@ -50,6 +51,10 @@ class TLoad {
   /// A component whose properties and children are complete: its Loaded() is still to be called.
   void AddLoaded(TComponent* component) { FLoaded.push_back(component); }
   TFixups& Fixups() { return FFixups; }
+  /// What existed before and is about to be changed.
+  TUndoLog& UndoLog() { return FUndoLog; }
+  /// True for the component that the load created last.
+  bool HasJustCreated(const TComponent* component) const { return !FCreated.empty() && FCreated.back() == component; }
   /// True once an object was destroyed that the load was at work on.
   bool HasLostObject() const { return FHasLostObject; }
 
@@ -58,7 +63,7 @@ class TLoad {
   /// Everything has succeeded: what the load created is the caller's. Answers the component added first to those to be
   /// told, the root; null when a handler has freed it.
   TComponent* Keep() noexcept;
-  /// Destroys what the load created, and leaves the others as not being loaded.
+  /// Destroys what the load created, and leaves the others as they were before.
   void Undo() noexcept;
 
   /// Tells all loads of this thread that an object is being destroyed.
@@ -75,6 +80,7 @@ class TLoad {
   std::vector<TComponent*> FUpdating;
   std::vector<TComponent*> FLoaded;
   TFixups FFixups;
+  TUndoLog FUndoLog;
   TUse* FUses = nullptr;
   bool FHasLostObject = false;
   TLoad* FOuter;

@@ -7,28 +7,19 @@
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/streams/BinaryFormParser.h"
+#include "kt/rtl/streams/ReadAll.h"
 #include "kt/rtl/typeinfo/ClassInfo.h"
 
-#include <QIODevice>
 #include <QScopeGuard>
 
 #include <cmath>
+#include <utility>
 
 namespace kt {
 
-namespace {
-
-QByteArray AllOf(QIODevice& device) {
-  QByteArray data = device.readAll();
-  if (device.isReadable() && device.atEnd()) return data;
-  throw EReadError(SReadError.toString() + u' ' + device.errorString());
-}
-
-}  // namespace
-
 TReader::TReader(const QByteArray& data) : FData(data), FInput(FData) {}
 
-TReader::TReader(QIODevice& device) : TReader(AllOf(device)) {}
+TReader::TReader(QIODevice& device) : TReader(ReadAll(device)) {}
 
 TReader::~TReader() = default;
 
@@ -39,7 +30,6 @@ TComponent* TReader::ReadRootComponent(TComponent* root) {
   TLoad load;
   FLoad = &load;
   const auto done = qScopeGuard([this] { FLoad = nullptr; });
-  const QString name = root ? root->GetName() : QString();
   const TLoad::TUse use(load, root);
   try {
     LoadRoot(root);
@@ -48,7 +38,6 @@ TComponent* TReader::ReadRootComponent(TComponent* root) {
     return load.Keep();
   } catch (...) {
     load.Undo();
-    if (use.IsAlive()) root->ChangeName(name);
     throw;
   }
 }
@@ -62,6 +51,7 @@ void TReader::ReadComponents(TComponent* owner, TComponent* parent, const std::f
   const auto loaded = qScopeGuard([this] { FLoad = nullptr; });
   FRoot = owner;
   FScope = owner;
+  FScopeIsNew = false;
   FOwner = owner;
   FParent = parent;
   const TLoad::TUse useOfOwner(load, owner);
@@ -104,6 +94,8 @@ void TReader::InLoad(const std::function<void()>& read, const TParseProc& parse)
   TLoad load;
   FLoad = &load;
   FScope = FRoot;
+  FScopeIsNew = false;
+  FTargetIsNew = false;
   FPlace.clear();
   const auto done = qScopeGuard([this] { FLoad = nullptr; });
   try {
@@ -137,6 +129,9 @@ void TReader::LoadRoot(TComponent* root) {
   FPlace = NameIn(header);
   FRoot = root ? root : AtPlace(start, header, [&] { return MakeRoot(header); });
   const TLoad::TUse use(*FLoad, FRoot);
+  if (root) FLoad->UndoLog().Remember(*root);
+  FTargetIsNew = !root;
+  FScopeIsNew = !root;
   FScope = FRoot;
   FOwner = FRoot;
   FLoad->BeginLoading(FRoot);
@@ -251,18 +246,25 @@ void TReader::ReadItems(TCollection& collection) {
   const TUpdateBracket bracket(target);
   // Deliberately, an empty list takes nothing away: items that the constructor made stay.
   if (FInput.EndOfList()) return FInput.ReadListEnd();
-  TItemsExchange formerItems(collection);
+  auto formerItems = std::make_unique<TItemsExchange>(collection);
   try {
-    while (!FInput.EndOfList()) {
-      ReadItemBegin();
-      ReadProperties(*collection.Add());
-      FInput.ReadListEnd();
-    }
-    FInput.ReadListEnd();
+    ReadNewItems(collection);
+    if (!FTargetIsNew) FLoad->UndoLog().Hold(collection, std::move(formerItems));
   } catch (...) {
-    if (use.IsAlive()) formerItems.PutBack();
+    if (use.IsAlive()) formerItems->PutBack();
     throw;
   }
+}
+
+void TReader::ReadNewItems(TCollection& collection) {
+  const bool outer = std::exchange(FTargetIsNew, true);
+  const auto done = qScopeGuard([&] { FTargetIsNew = outer; });
+  while (!FInput.EndOfList()) {
+    ReadItemBegin();
+    ReadProperties(*collection.Add());
+    FInput.ReadListEnd();
+  }
+  FInput.ReadListEnd();
 }
 
 std::unique_ptr<TComponent> ReadComponentFromBinary(const QByteArray& data) {

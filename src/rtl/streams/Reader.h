@@ -35,10 +35,12 @@ enum TUnknownPolicy {
 /// Reads components and their properties from the binary object format.
 ///
 /// A load is checked as a whole for a sound structure before the first object is touched. When it fails after that, all
-/// components that it created are destroyed; what existed before keeps its name,
-/// its owner and its children, and only properties (collections among them) that had been read before the failure have
-/// their new values. An event, setter or override may free any component: one that waits for its turn is left out, and
-/// freeing one that is just being read, or one around it, is a failure as any other.
+/// components that it created are destroyed, and what existed before gets back what it had: name, children and their
+/// order, published properties (with those of fonts and the like), lines, items, and what DefineProperties() had data
+/// for. Not put back: a value whose getter raises; defined data where there were none before; what setters and
+/// procedures of the application did elsewhere; an object that they freed. An event, setter or override may free any
+/// component: one that waits for its turn is left out, and freeing one that is just being read, or one around it, is a
+/// failure as any other.
 ///
 /// A descendant form is read over an instance of its ancestor: what is inherited is found in that by name. In a
 /// designer (csDesigning) what the instance holds is marked csAncestor then, and every inherited component is told
@@ -67,7 +69,7 @@ class TReader : public TFiler {
   /// Finds the handler of an event by name; asked when the root has no published method of that name. An empty answer
   /// is a property that cannot be read.
   TFindMethodEvent OnFindMethod;
-  /// Finds a class that is not registered; null when it is unknown.
+  /// Finds a class, in place of the registered one too; null for that one.
   TFindClassEvent OnFindComponentClass;
   /// Creates a component in another way; null for the usual one.
   TCreateComponentEvent OnCreateComponent;
@@ -142,6 +144,7 @@ class TReader : public TFiler {
   /// structure.
   void InLoad(const std::function<void()>& read, const TParseProc& parse);
   void ReadItems(TCollection& collection);
+  void ReadNewItems(TCollection& collection);
   TFormObjectHeader ReadHeader();
   /// The bytes of the next value, its type code included.
   QByteArray TakeValue();
@@ -177,7 +180,9 @@ class TReader : public TFiler {
   /// Raises the error of a property with its place, unless OnError passes over it.
   void HandlePropertyError(const TPropPath& place, const Exception& error);
   void ReadPropertyPath(TPersistent* instance, const QString& path);
-  void ReadDefinedProperty(TPersistent* instance, const QString& name);
+  /// False when `target`, which a path from `instance` leads to, is part of what the load has created.
+  bool ExistedBefore(const TPersistent* instance, TPersistent* target) const;
+  void ReadDefinedProperty(TPersistent* instance, const QString& name, bool existedBefore);
   bool TakeUnknownProperty();
   void KeepProperty();
   void ReadPropValue(TPersistent* instance, const TPropInfo* property);
@@ -204,6 +209,9 @@ class TReader : public TFiler {
   int FChildIndex = 0;
   /// The form or nested form whose names count for what is being read.
   TComponent* FScope = nullptr;
+  /// The load created that scope, or the object whose properties are being read: nobody needs their former values.
+  bool FScopeIsNew = false;
+  bool FTargetIsNew = false;
   /// The load that is under way.
   TLoad* FLoad = nullptr;
 };

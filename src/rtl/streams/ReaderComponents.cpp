@@ -30,12 +30,17 @@ void TReader::ReadData(TComponent* instance) {
   TComponent* outerParent = std::exchange(FParent, instance->GetChildParent());
   const int outerIndex = std::exchange(FChildIndex, 0);
   TComponent* outerScope = FScope;
-  if (TComponent* scope = instance->GetChildOwner()) FScope = scope;
+  const bool outerScopeIsNew = FScopeIsNew;
+  if (TComponent* scope = instance->GetChildOwner()) {
+    FScope = scope;
+    FScopeIsNew = FTargetIsNew;
+  }
   FOwner = FScope;
   for (; !FInput.EndOfList(); ++FChildIndex) ReadComponent();
   FInput.ReadListEnd();
   FOwner = outerOwner;
   FScope = outerScope;
+  FScopeIsNew = outerScopeIsNew;
   FParent = outerParent;
   FChildIndex = outerIndex;
 }
@@ -52,10 +57,16 @@ void TReader::ReadComponent(const std::function<void(TComponent*)>& done) {
     TBinaryFormParser(FInput, nowhere).ParseObject();
     return;
   }
+  const bool isNew = FScopeIsNew || FLoad->HasJustCreated(component);
+  const bool outerIsNew = std::exchange(FTargetIsNew, isNew);
   PlaceChild(component, header);
   CheckNothingLost(start, header);
   ReadState(component);
-  if (header.Flags.testFlag(ffChildPos) && FParent) FParent->SetChildOrder(component, header.ChildPos);
+  FTargetIsNew = outerIsNew;
+  if (header.Flags.testFlag(ffChildPos) && FParent) {
+    if (!isNew) FLoad->UndoLog().RememberOrder(*FParent, FRoot);
+    FParent->SetChildOrder(component, header.ChildPos);
+  }
   CheckNothingLost(start, header);
   FLoad->AddLoaded(component);
   if (done) done(component);
@@ -98,6 +109,8 @@ TComponent* TReader::MakeRoot(const TFormObjectHeader& header) {
 TComponent* TReader::MakeChild(const TFormObjectHeader& header, TLoad::TUse& use) {
   if (TComponent* inherited = FindInherited(header)) {
     use.SetObject(inherited);
+    if (!FScopeIsNew) FLoad->UndoLog().Remember(*inherited);
+    CheckNothingLost();
     FLoad->BeginLoading(inherited);
     FLoad->BeginUpdating(inherited);
     CheckNothingLost();
@@ -154,8 +167,8 @@ TComponent* TReader::CreateUnknown(const TFormObjectHeader& header, TComponent* 
 }
 
 const TClassInfo* TReader::FindComponentClass(const QString& className) {
-  if (const TClassInfo* registered = GetClass(className)) return registered;
-  return OnFindComponentClass ? OnFindComponentClass(className) : nullptr;
+  const TClassInfo* found = OnFindComponentClass ? OnFindComponentClass(className) : nullptr;
+  return found ? found : GetClass(className);
 }
 
 void TReader::SetComponentName(TComponent* component, QString name) {

@@ -83,14 +83,29 @@ void TReader::ReadPropertyPath(TPersistent* instance, const QString& path) {
     if (!target) throw EReadError(SInvalidPropertyPath.toString());
     rest = rest.sliced(dot + 1);
   }
+  const bool existedBefore = ExistedBefore(instance, target);
+  if (existedBefore) FLoad->UndoLog().Remember(*target);
   if (const TPropInfo* property = GetPropInfo(target, rest)) return ReadPropValue(target, property);
-  ReadDefinedProperty(target, rest.toString());
+  ReadDefinedProperty(target, rest.toString(), existedBefore);
   if (FDefinedName.isEmpty() || TakeUnknownProperty()) return;
   throw EReadError(Format(SUnknownProperty, {rest}));
 }
 
+bool TReader::ExistedBefore(const TPersistent* instance, TPersistent* target) const {
+  if (!FTargetIsNew) return true;
+  for (TPersistent* part = target; part && part != instance; part = part->OwnerOf()) {
+    const auto* component = dynamic_cast<const TComponent*>(part);
+    // The path has followed a reference.
+    if (component && !component->GetComponentStyle().Has(csSubComponent)) return true;
+  }
+  // Parts that know no owner belong to the object in whose property they are.
+  return false;
+}
+
 /// Offers the value to DefineProperties(); the name is still there afterwards when nobody took it.
-void TReader::ReadDefinedProperty(TPersistent* instance, const QString& name) {
+void TReader::ReadDefinedProperty(TPersistent* instance, const QString& name, bool existedBefore) {
+  if (existedBefore) FLoad->UndoLog().RememberDefined(*instance, name, FRoot);
+  CheckNothingLost();
   FDefinedName = name;
   instance->DefineProperties(*this);
 }

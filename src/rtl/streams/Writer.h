@@ -73,6 +73,9 @@ class TWriter : public TFiler {
 
  private:
   friend class TComponent;
+  friend class TDefinedValueWriter;
+
+  void DefineWith(TPersistent& instance) { instance.DefineProperties(*this); }
 
   void WriteUnsigned(quint64 value);
   void WriteDouble(double value);

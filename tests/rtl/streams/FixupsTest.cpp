@@ -155,6 +155,20 @@ TEST_F(FixupsTest, AComponentMayReferToItsFormByNameOrAsOwner) {
   EXPECT_EQ(form.get(), static_cast<TSample*>(form->FindComponent(u"A"))->Partner);
 }
 
+TEST_F(FixupsTest, AWaitingReferenceToTheOwnerOfAnotherFormIsThatForm) {
+  const auto form = Load("object Form1: TSample\n  Partner = Data1.Owner\nend\n");
+  EXPECT_EQ(nullptr, form->Partner);
+  MakeData();
+  GlobalFixupReferences();
+  EXPECT_EQ(FData.get(), form->Partner);
+  EXPECT_TRUE(GetFixupReferenceNames(form.get()).isEmpty());
+}
+
+TEST_F(FixupsTest, AReferenceToAnotherFormItselfIsThatForm) {
+  MakeData();
+  EXPECT_EQ(FData.get(), Load("object Form1: TSample\n  Partner = Data1\nend\n")->Partner);
+}
+
 TEST_F(FixupsTest, NestedComponentsAreFoundByPath) {
   MakeData();
   EXPECT_EQ(FData->FindComponent(u"Table1"), FindNestedComponent(FData.get(), u"Table1"));

@@ -153,7 +153,7 @@ void ListenTo(TReader& reader) {
     return TNotifyEvent([](TObject*) {});
   };
   reader.OnFindComponentClass = [](const QString&) {
-    TMortal::At("OnFindComponentClass");
+    if (TMortal::All.size() == 4) TMortal::At("OnFindComponentClass");
     return TMortal::Class();
   };
   reader.OnCreateComponent = [](const TClassInfo*, TComponent*) -> TComponent* {

@@ -317,5 +317,14 @@ INSTANTIATE_TEST_SUITE_P(Extremes, WriterAmountTest,
                                            std::numeric_limits<qint64>::max() - 1, std::numeric_limits<qint64>::max(),
                                            std::numeric_limits<qint64>::min() + 1, std::numeric_limits<qint64>::min()));
 
+TEST(WriterDataTest, WhatIsWrittenLaterFollowsWhatWasTakenBefore) {
+  TWriter writer;
+  writer.WriteInteger(1);
+  const QByteArray first = writer.Data();
+  EXPECT_EQ(first, writer.Data());
+  writer.WriteInteger(2);
+  EXPECT_EQ(QByteArray("\2\1\2\2"), writer.Data());
+}
+
 }  // namespace
 }  // namespace kt
