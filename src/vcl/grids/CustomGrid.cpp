@@ -82,6 +82,11 @@ void TCustomGrid::DestroyWnd() {
   TCustomControl::DestroyWnd();
 }
 
+void TCustomGrid::CMExit(TMessage& message) {
+  ValidateEditor();
+  TCustomControl::CMExit(message);
+}
+
 void TCustomGrid::DoExit() {
   TCustomControl::DoExit();
   if (!FOptions.Has(goAlwaysShowEditor)) HideEditor();

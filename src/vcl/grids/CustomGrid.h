@@ -131,6 +131,7 @@ class TCustomGrid : public TCustomControl {
   bool DoMouseWheel(TShiftState shift, int delta, bool isHorizontal, QPoint position) override;
   bool WantsKey(quint16 key) override;
   bool InputText(const QString& text) override;
+  void CMExit(TMessage& message) override;
   void CMBiDiModeChanged(TMessage& message) override;
   void CMCancelMode(TMessage& message) override;
   void CMShowingChanged(TMessage& message) override;
@@ -176,6 +177,7 @@ class TCustomGrid : public TCustomControl {
   /// Scrolls a cell into view.
   void ClampInView(TGridCoord cell);
 
+  /// Hides the editor, whatever its text is; a cell that its user leaves is validated before.
   void HideEditor();
   void ShowEditor();
   /// Shows the editor and has it type `character`.
@@ -235,6 +237,7 @@ class TCustomGrid : public TCustomControl {
   void UpdateEditor();
   void UpdateText();
   void HideEdit();
+  void ValidateEditor();
   void MoveEditor();
   bool IsUnderEditor(int col, int row) const;
 

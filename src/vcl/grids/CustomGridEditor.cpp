@@ -29,7 +29,10 @@ bool TCustomGrid::CanEditShow() {
 }
 
 void TCustomGrid::SetEditorMode(bool value) {
-  if (!value) return HideEditor();
+  if (!value) {
+    ValidateEditor();
+    return HideEditor();
+  }
   ShowEditor();
   if (FInplaceEdit) FInplaceEdit->Deselect();
 }
@@ -91,7 +94,19 @@ void TCustomGrid::HideEdit() {
       if (Grid.FInplaceEdit) Grid.FInplaceEdit->Hide();
     }
   } gone{*this};
-  UpdateText();
+  // A cell that was only looked at keeps its text as it was, which need not be the one that the mask makes of it.
+  if (!FInplaceEdit->IsMasked() || FInplaceEdit->IsModified()) UpdateText();
+}
+
+/// Raises what is wrong with the text of the cell being edited, and shows it.
+void TCustomGrid::ValidateEditor() {
+  if (!FInplaceEdit || FInplaceCell.X < 0 || FInplaceCell != FCurrent) return;
+  try {
+    FInplaceEdit->ValidateEdit();
+  } catch (...) {
+    if (FInplaceCell == FCurrent) ClampInView(FCurrent);
+    throw;
+  }
 }
 
 void TCustomGrid::MoveEditor() {

@@ -141,7 +141,7 @@ void TCustomGrid::KeyPress(QChar& key) {
   TCustomControl::KeyPress(key);
   if (FOptions.Has(goAlwaysShowEditor) || key != u'\r') return;
   if (FEditorMode) {
-    HideEditor();
+    SetEditorMode(false);
   } else {
     ShowEditor();
   }

@@ -24,6 +24,7 @@ void TCustomGrid::FocusCell(int col, int row, bool moveAnchor) {
 void TCustomGrid::MoveCurrent(int col, int row, bool moveAnchor, bool show) {
   CheckIndex(FCols, col);
   CheckIndex(FRows, row);
+  if (FCurrent != TGridCoord{col, row}) ValidateEditor();
   if (!SelectCell(col, row)) return;
   const TGridRect oldSelection = GetSelection();
   const TGridCoord oldCurrent = FCurrent;

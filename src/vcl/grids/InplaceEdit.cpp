@@ -6,28 +6,13 @@
 
 namespace kt {
 
-const TClassInfo* TInplaceEditBase::Class() {
-  static const TClassInfo info = TClassBuilder<TInplaceEditBase>("TInplaceEditBase").Done();
-  return &info;
-}
-
-void TInplaceEditBase::SetText(const QString& value) {
-  FOldText = value;
-  TCustomEdit::SetText(value);
-}
-
-void TInplaceEditBase::Reset() {
-  SetText(QString(FOldText));
-  SetModified(false);
-}
-
 const TClassInfo* TInplaceEdit::Class() {
   static const TClassInfo info = TClassBuilder<TInplaceEdit>("TInplaceEdit").Done();
   return &info;
 }
 
 void TInplaceEdit::Construct() {
-  TInplaceEditBase::Construct();
+  TCustomMaskEdit::Construct();
   SetTabStop(false);
   SetBorderStyle(bsNone);
   SetVisible(false);
@@ -84,13 +69,13 @@ void TInplaceEdit::UpdateContents() {
 bool TInplaceEdit::EditCanModify() { return FGrid->CanEditModify(); }
 
 void TInplaceEdit::Change() {
-  TInplaceEditBase::Change();
+  TCustomMaskEdit::Change();
   if (!FIsUpdating && FGrid) FGrid->UpdateText();
 }
 
 void TInplaceEdit::DblClick() { FGrid->DblClick(); }
 
-bool TInplaceEdit::WantsKey(quint16 key) { return FGrid && (TInplaceEditBase::WantsKey(key) || FGrid->WantsKey(key)); }
+bool TInplaceEdit::WantsKey(quint16 key) { return FGrid && (TCustomMaskEdit::WantsKey(key) || FGrid->WantsKey(key)); }
 
 bool TInplaceEdit::DoMouseWheel(TShiftState shift, int delta, bool isHorizontal, QPoint position) {
   return FGrid->DoMouseWheel(shift, delta, isHorizontal, position + GetBoundsRect().topLeft());
@@ -105,13 +90,19 @@ void TInplaceEdit::RaiseGridEvent(quint16& key, TShiftState shift) { FGrid->OnKe
 
 bool TInplaceEdit::IsLeftSide() const {
   const int length = GetSelLength();
-  return GetSelStart() == 0 && (length == 0 || length == static_cast<int>(GetText().size()));
+  return GetSelStart() <= CaretPlace(0) && (length == 0 || length == static_cast<int>(WindowText().size()));
 }
 
 bool TInplaceEdit::IsRightSide() const {
-  const int size = static_cast<int>(GetText().size());
+  const int end = CaretPlace(static_cast<int>(WindowText().size()));
   const int start = GetSelStart();
-  return (start == 0 || GetSelLength() == 0) && start + GetSelLength() == size;
+  return (start == 0 || GetSelLength() == 0) && start + GetSelLength() >= end;
+}
+
+void TInplaceEdit::EscapeToGrid(quint16& key, TShiftState shift) {
+  SendToGrid(key, shift);
+  // A grid that knows more of its cells has taken the change back itself.
+  if (IsMasked() && IsModified()) Reset();
 }
 
 void TInplaceEdit::HandleGridKey(quint16& key, TShiftState shift) {
@@ -122,8 +113,9 @@ void TInplaceEdit::HandleGridKey(quint16& key, TShiftState shift) {
     case VK_DOWN:
     case VK_PRIOR:
     case VK_NEXT:
-    case VK_ESCAPE:
       return SendToGrid(key, shift);
+    case VK_ESCAPE:
+      return EscapeToGrid(key, shift);
     case VK_INSERT:
       if (shift.IsEmpty()) return SendToGrid(key, shift);
       if (shift == TShiftState{ssShift} && !EditCanModify()) key = 0;
@@ -167,7 +159,7 @@ void TInplaceEdit::KeyDown(quint16& key, TShiftState shift) {
   HandleGridKey(key, shift);
   if (key == 0) return;
   RaiseGridEvent(key, shift);
-  if (key != 0) TInplaceEditBase::KeyDown(key, shift);
+  if (key != 0) TCustomMaskEdit::KeyDown(key, shift);
 }
 
 void TInplaceEdit::KeyPress(QChar& key) {
@@ -176,7 +168,7 @@ void TInplaceEdit::KeyPress(QChar& key) {
   if (key == u'\t' || key == u'\x1b') key = u'\0';
   const bool isChange = key == u'\b' || key == u'\x16' || key == u'\x18' || key.unicode() >= 32;
   if (isChange && !EditCanModify()) key = u'\0';
-  if (!key.isNull()) TInplaceEditBase::KeyPress(key);
+  if (!key.isNull()) TCustomMaskEdit::KeyPress(key);
 }
 
 void TInplaceEdit::KeyUp(quint16& key, TShiftState shift) { FGrid->KeyUp(key, shift); }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "kt/vcl/grids/InplaceEditBase.h"
+#include "kt/vcl/mask/MaskEdit.h"
 
 namespace kt {
 
@@ -9,9 +9,9 @@ class TCustomGrid;
 /// The editor that a grid lays over its current cell. The grid makes and owns it, moves it from cell to cell and hears
 /// of each change of its text; keys that move between cells go to the grid. The grid counts as focused while the editor
 /// has the keyboard.
-class TInplaceEdit : public TInplaceEditBase {
+class TInplaceEdit : public TCustomMaskEdit {
  public:
-  using Inherited = TInplaceEditBase;
+  using Inherited = TCustomMaskEdit;
 
   static const TClassInfo* Class();
   const TClassInfo* ClassType() const override { return Class(); }
@@ -31,7 +31,7 @@ class TInplaceEdit : public TInplaceEditBase {
  protected:
   friend class TCustomGrid;
 
-  explicit TInplaceEdit(TComponent* owner = nullptr) : TInplaceEditBase(owner) {}
+  explicit TInplaceEdit(TComponent* owner = nullptr) : TCustomMaskEdit(owner) {}
 
   void Construct() override;
   TWinControl* FocusOwner() override;
@@ -53,6 +53,7 @@ class TInplaceEdit : public TInplaceEditBase {
 
  private:
   void SendToGrid(quint16& key, TShiftState shift);
+  void EscapeToGrid(quint16& key, TShiftState shift);
   void RaiseGridEvent(quint16& key, TShiftState shift);
   bool IsLeftSide() const;
   bool IsRightSide() const;

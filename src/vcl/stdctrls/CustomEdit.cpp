@@ -54,14 +54,13 @@ QWidget* TCustomEdit::CreateBody(QWidget* parent) {
 void TCustomEdit::CreateWnd() {
   TWinControl::CreateWnd();
   FLineEdit->setFrame(FBorderStyle == bsSingle);
-  FLineEdit->setMaxLength(WindowLength(FMaxLength));
+  UpdateMaxLength();
   FLineEdit->setReadOnly(FReadOnly);
   FLineEdit->setContextMenuPolicy(Qt::DefaultContextMenu);
   FLineEdit->setFocusPolicy(IsTabStop() ? Qt::StrongFocus : Qt::ClickFocus);
-  SetTextSilently(GetText());
+  ShowText();
   FLineEdit->setModified(FModified);
-  SetSelStart(FSelStart);
-  SetSelLength(FSelLength);
+  Select(FSelStart, FSelStart + FSelLength);
   UpdateColors();
 }
 
@@ -117,21 +116,24 @@ void TCustomEdit::SetText(const QString& value) {
   Perform(CM_TEXTCHANGED);
 }
 
-void TCustomEdit::SetTextSilently(const QString& value) {
+void TCustomEdit::SetWindowText(const QString& value) {
   StoreText(value);
   FModified = false;
   FSelStart = std::min<int>(FSelStart, static_cast<int>(value.size()));
   FSelLength = 0;
-  if (!FLineEdit) return;
+  if (FLineEdit) ShowText();
+}
+
+void TCustomEdit::ShowText() {
   const bool outer = std::exchange(FIsSettingText, true);
-  FLineEdit->setText(value);
+  FLineEdit->setText(WindowText());
   FIsSettingText = outer;
 }
 
 void TCustomEdit::WindowTextChanged(const QString& text, bool byUser) {
   if (byUser) FModified = true;
   // The editor says both that its text was changed, and that its user did it.
-  if (GetText() == text) return;
+  if (WindowText() == text) return;
   FModified = FModified || FLineEdit->isModified();
   StoreText(text);
   Perform(CM_TEXTCHANGED);
@@ -149,7 +151,11 @@ void TCustomEdit::SetReadOnly(bool value) {
 
 void TCustomEdit::SetMaxLength(int value) {
   FMaxLength = std::max(value, 0);
-  if (FLineEdit) FLineEdit->setMaxLength(WindowLength(FMaxLength));
+  UpdateMaxLength();
+}
+
+void TCustomEdit::UpdateMaxLength() {
+  if (FLineEdit) FLineEdit->setMaxLength(WindowLength(GetWindowMaxLength()));
 }
 
 void TCustomEdit::SetBorderStyle(TBorderStyle value) {

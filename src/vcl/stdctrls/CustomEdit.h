@@ -26,7 +26,7 @@ class TCustomEdit : public TWinControl {
   void SetReadOnly(bool value);
   /// The most characters; 0 for any number.
   int GetMaxLength() const { return FMaxLength; }
-  void SetMaxLength(int value);
+  virtual void SetMaxLength(int value);
   TBorderStyle GetBorderStyle() const { return FBorderStyle; }
   void SetBorderStyle(TBorderStyle value);
 
@@ -38,7 +38,7 @@ class TCustomEdit : public TWinControl {
   void SetSelLength(int value);
   QString GetSelText() const;
   /// Replaces the selection, and counts as the user's change.
-  void SetSelText(const QString& value);
+  virtual void SetSelText(const QString& value);
   void SelectAll();
   /// Selects from one position to the other, the caret at the second.
   void Select(int anchor, int caret);
@@ -47,8 +47,8 @@ class TCustomEdit : public TWinControl {
 
   void Clear() { SetText({}); }
   void ClearSelection() { SetSelText({}); }
-  bool CanUndo() const;
-  void Undo();
+  virtual bool CanUndo() const;
+  virtual void Undo();
 
   void DefaultHandler(TMessage& message) override;
 
@@ -78,12 +78,23 @@ class TCustomEdit : public TWinControl {
   /// The room for the text inside the window; the part beside it is free for a descendant to paint on.
   void SetFormatRect(const QRect& rect);
   /// Sets the text without telling anybody.
-  void SetTextSilently(const QString& value);
+  virtual void SetTextSilently(const QString& value) { SetWindowText(value); }
+  /// The text as the window shows it, which selection and caret belong to.
+  const QString& WindowText() const { return TWinControl::GetText(); }
+  /// Changes it without telling anybody; the text is not modified then.
+  void SetWindowText(const QString& value);
+  /// The text in the window has been changed, by its user or by the program; `text` is the new one.
+  virtual void WindowTextChanged(const QString& text, bool byUser);
+  /// The most characters that the window itself lets in; 0 for any number.
+  virtual int GetWindowMaxLength() const { return FMaxLength; }
+  /// Where a caret without selection comes to stand that is put to a position in the text.
+  virtual int CaretPlace(int position) const { return position; }
   /// Null without a window.
   QLineEdit* LineEdit() const { return FLineEdit; }
 
  private:
-  void WindowTextChanged(const QString& text, bool byUser);
+  void ShowText();
+  void UpdateMaxLength();
   void UpdateColors();
   void TypeCharacter(QChar character);
 

@@ -12,11 +12,7 @@ int TCustomEdit::GetSelStart() const {
   return FLineEdit->hasSelectedText() ? FLineEdit->selectionStart() : FLineEdit->cursorPosition();
 }
 
-void TCustomEdit::SetSelStart(int value) {
-  FSelStart = std::clamp<int>(value, 0, static_cast<int>(GetText().size()));
-  FSelLength = 0;
-  if (FLineEdit) FLineEdit->setCursorPosition(FSelStart);
-}
+void TCustomEdit::SetSelStart(int value) { Select(value, value); }
 
 int TCustomEdit::GetSelLength() const { return FLineEdit ? FLineEdit->selectionLength() : FSelLength; }
 
@@ -26,9 +22,10 @@ void TCustomEdit::SetSelLength(int value) {
 }
 
 void TCustomEdit::Select(int anchor, int caret) {
-  const int length = static_cast<int>(GetText().size());
+  const int length = static_cast<int>(WindowText().size());
   anchor = std::clamp(anchor, 0, length);
   caret = std::clamp(caret, 0, length);
+  if (anchor == caret) anchor = caret = CaretPlace(caret);
   FSelStart = std::min(anchor, caret);
   FSelLength = std::abs(caret - anchor);
   if (!FLineEdit) return;
@@ -39,7 +36,7 @@ void TCustomEdit::Select(int anchor, int caret) {
   }
 }
 
-QString TCustomEdit::GetSelText() const { return GetText().mid(GetSelStart(), GetSelLength()); }
+QString TCustomEdit::GetSelText() const { return WindowText().mid(GetSelStart(), GetSelLength()); }
 
 void TCustomEdit::SetSelText(const QString& value) {
   if (FLineEdit) {
@@ -47,7 +44,7 @@ void TCustomEdit::SetSelText(const QString& value) {
     FLineEdit->insert(value);
     return;
   }
-  QString text = GetText();
+  QString text = WindowText();
   text.replace(FSelStart, FSelLength, value);
   const int caret = FSelStart + static_cast<int>(value.size());
   SetText(text);
@@ -58,7 +55,7 @@ void TCustomEdit::SetSelText(const QString& value) {
 void TCustomEdit::SelectAll() {
   if (FLineEdit) return FLineEdit->selectAll();
   FSelStart = 0;
-  FSelLength = static_cast<int>(GetText().size());
+  FSelLength = static_cast<int>(WindowText().size());
 }
 
 int TCustomEdit::GetCaretPos() const { return FLineEdit ? FLineEdit->cursorPosition() : FSelStart + FSelLength; }

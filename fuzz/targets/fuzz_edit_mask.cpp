@@ -1,0 +1,9 @@
+#include "support/MaskOracle.h"
+
+#include <cstddef>
+#include <cstdint>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  kt::oracle::CheckMaskKeys(QByteArray(reinterpret_cast<const char*>(data), qsizetype(size)));
+  return 0;
+}

@@ -1,0 +1,54 @@
+// What masked lines of text publish.
+#include "kt/vcl/controls/Publish.h"
+#include "kt/vcl/mask/MaskEdit.h"
+
+namespace kt {
+
+namespace {
+
+const TTypeInfo* EditMaskTypeInfo() {
+  static const TTypeInfo info(tkLString, QStringLiteral("TEditMask"));
+  return &info;
+}
+
+}  // namespace
+
+const TClassInfo* TMaskEdit::Class() {
+  static const TClassInfo info = [] {
+    TClassBuilder<TMaskEdit> builder("TMaskEdit");
+    Publish::Align(builder);
+    Publish::Anchors(builder);
+    Publish::BiDiMode(builder);
+    builder.Property<&TCustomEdit::GetBorderStyle, &TCustomEdit::SetBorderStyle>("BorderStyle", &BorderStyleTypeInfo)
+        .Default(bsSingle);
+    Publish::Color(builder, clWindow);
+    Publish::Constraints(builder);
+    Publish::DragCursor(builder);
+    Publish::DragKind(builder);
+    Publish::DragMode(builder);
+    Publish::Enabled(builder);
+    builder.Property<&TMaskEdit::GetEditMask, &TMaskEdit::SetEditMask>("EditMask", &EditMaskTypeInfo);
+    Publish::Font(builder);
+    builder.Property<&TMaskEdit::GetMaxLength, &TMaskEdit::SetMaxLength>("MaxLength")
+        .Default(0)
+        .Stored(&TMaskEdit::IsMaxLengthStored);
+    Publish::ParentBiDiMode(builder);
+    Publish::ParentColor(builder, false);
+    Publish::ParentFont(builder);
+    Publish::ParentShowHint(builder);
+    builder.Property<&TMaskEdit::IsReadOnly, &TMaskEdit::SetReadOnly>("ReadOnly").Default(false);
+    Publish::ShowHint(builder);
+    Publish::TabOrder(builder);
+    Publish::TabStop(builder, true);
+    builder.Property<&TMaskEdit::GetText, &TMaskEdit::SetText>("Text");
+    Publish::Visible(builder);
+    builder.Property<&TCustomEdit::OnChange>("OnChange");
+    Publish::MouseEvents(builder);
+    Publish::FocusEvents(builder);
+    Publish::KeyEvents(builder);
+    return builder.Creatable().Done();
+  }();
+  return &info;
+}
+
+}  // namespace kt
