@@ -2,12 +2,14 @@
 
 #include "kt/vcl/forms/FormsRegistration.h"
 #include "kt/vcl/graphics/GraphicsRegistration.h"
+#include "kt/vcl/stdctrls/StdCtrlsRegistration.h"
 
 namespace kt {
 
 void RegisterVisualPlatform() {
   RegisterGraphics();
   RegisterForms();
+  RegisterStdCtrls();
 }
 
 }  // namespace kt

@@ -1,0 +1,48 @@
+// What list boxes publish.
+#include "kt/rtl/typeinfo/ClassBuilder.h"
+#include "kt/vcl/controls/Publish.h"
+#include "kt/vcl/stdctrls/ListBox.h"
+
+namespace kt {
+
+const TClassInfo* TCustomListBox::Class() {
+  static const TClassInfo info = TClassBuilder<TCustomListBox>("TCustomListBox").Done();
+  return &info;
+}
+
+const TClassInfo* TListBox::Class() {
+  using T = TListBox;
+  static const TClassInfo info = [] {
+    TClassBuilder<T> builder("TListBox");
+    Publish::Align(builder);
+    Publish::Anchors(builder);
+    Publish::BiDiMode(builder);
+    builder.Property<&T::GetBorderStyle, &T::SetBorderStyle>("BorderStyle", &BorderStyleTypeInfo).Default(bsSingle);
+    Publish::Color(builder, clWindow);
+    Publish::Constraints(builder);
+    Publish::DragCursor(builder);
+    Publish::DragKind(builder);
+    Publish::DragMode(builder);
+    Publish::Enabled(builder);
+    Publish::Font(builder);
+    builder.Property<&T::IsIntegralHeight, &T::SetIntegralHeight>("IntegralHeight").Default(false);
+    builder.Property<&T::GetItemHeight, &T::SetItemHeight>("ItemHeight");
+    builder.Property<&T::GetItems, &T::SetItems>("Items");
+    Publish::ParentBiDiMode(builder);
+    Publish::ParentColor(builder, false);
+    Publish::ParentFont(builder);
+    Publish::ParentShowHint(builder);
+    Publish::ShowHint(builder);
+    builder.Property<&T::IsSorted, &T::SetSorted>("Sorted").Default(false);
+    Publish::TabOrder(builder);
+    Publish::TabStop(builder, true);
+    Publish::Visible(builder);
+    Publish::MouseEvents(builder);
+    Publish::FocusEvents(builder);
+    Publish::KeyEvents(builder);
+    return builder.Creatable().Done();
+  }();
+  return &info;
+}
+
+}  // namespace kt

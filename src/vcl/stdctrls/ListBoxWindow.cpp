@@ -1,0 +1,172 @@
+// The window of TCustomListBox, and what the user does with it.
+#include "kt/vcl/controls/VirtualKeys.h"
+#include "kt/vcl/graphics/QtColor.h"
+#include "kt/vcl/graphics/RealFont.h"
+#include "kt/vcl/stdctrls/ListBoxView.h"
+
+#include <algorithm>
+
+namespace kt {
+
+QWidget* TCustomListBox::CreateListView(QWidget* parent) { return new TView(*this, parent); }
+
+QWidget* TCustomListBox::CreateBody(QWidget* parent) { return CreateListView(parent); }
+
+TCustomListBox::TView* TCustomListBox::View() const { return static_cast<TView*>(Window()); }
+
+void TCustomListBox::CreateWnd() {
+  TWinControl::CreateWnd();
+  View()->setFocusPolicy(IsTabStop() ? Qt::StrongFocus : Qt::ClickFocus);
+  UpdateLook();
+  // Lines have another height from now on.
+  View()->Model().Reset();
+  View()->SetTop(FTopIndex);
+  SelectInView();
+  FitHeight();
+}
+
+void TCustomListBox::DestroyWnd() {
+  FTopIndex = GetTopIndex();
+  FIsTracking = false;
+  View()->Model().Detach();
+  TWinControl::DestroyWnd();
+}
+
+void TCustomListBox::UpdateLook() {
+  TView* view = View();
+  if (!view) return;
+  view->SetBordered(FBorderStyle == bsSingle);
+  view->setFont(QtFont(GetFont()));
+  QPalette palette = view->parentWidget() ? view->parentWidget()->palette() : QPalette();
+  palette.setColor(QPalette::Base, QtColor(GetColor(), palette));
+  palette.setColor(QPalette::Text, QtColor(GetFont().GetColor(), palette));
+  // The selected line stands out as well while the keyboard is elsewhere.
+  palette.setBrush(QPalette::Inactive, QPalette::Highlight, palette.brush(QPalette::Active, QPalette::Highlight));
+  palette.setBrush(QPalette::Inactive, QPalette::HighlightedText,
+                   palette.brush(QPalette::Active, QPalette::HighlightedText));
+  view->setPalette(palette);
+}
+
+void TCustomListBox::CMFontChanged(TMessage& message) {
+  TWinControl::CMFontChanged(message);
+  UpdateLook();
+  if (View()) LinesChanged();
+  FitHeight();
+}
+
+void TCustomListBox::CMColorChanged(TMessage& message) {
+  TWinControl::CMColorChanged(message);
+  UpdateLook();
+}
+
+// The selection.
+
+void TCustomListBox::SelectInView() {
+  TView* view = View();
+  if (!view) return;
+  const bool outer = std::exchange(FIsSelecting, true);
+  if (FItemIndex < 0) {
+    view->selectionModel()->clear();
+  } else {
+    view->selectionModel()->setCurrentIndex(view->Model().index(FItemIndex), QItemSelectionModel::ClearAndSelect);
+  }
+  FIsSelecting = outer;
+  ShowSelected();
+}
+
+void TCustomListBox::ShowSelected() {
+  TView* view = View();
+  if (view && FItemIndex >= 0) view->scrollTo(view->Model().index(FItemIndex));
+}
+
+/// The view has selected by itself: it searches for what is typed.
+void TCustomListBox::SelectedInView(int index) {
+  if (FIsSelecting || index == FItemIndex) return;
+  FItemIndex = index;
+  Click();
+}
+
+void TCustomListBox::SelectByUser(int index) {
+  index = std::clamp(index, 0, GetCount() - 1);
+  if (index == FItemIndex) return;
+  SetItemIndex(index);
+  Click();
+}
+
+// Keys.
+
+bool TCustomListBox::WantsKey(quint16 key) { return (key >= VK_LEFT && key <= VK_DOWN) || TWinControl::WantsKey(key); }
+
+bool TCustomListBox::MoveByKey(quint16 key) {
+  if (GetCount() == 0) return false;
+  switch (key) {
+    case VK_UP:
+    case VK_LEFT:
+      return SelectByUser(FItemIndex - 1), true;
+    case VK_DOWN:
+    case VK_RIGHT:
+      return SelectByUser(FItemIndex + 1), true;
+    case VK_PRIOR:
+      return SelectByUser(FItemIndex - LinesInView() + 1 - (LinesInView() == 1)), true;
+    case VK_NEXT:
+      return SelectByUser(FItemIndex + LinesInView() - 1 + (LinesInView() == 1)), true;
+    case VK_HOME:
+      return SelectByUser(0), true;
+    case VK_END:
+      return SelectByUser(GetCount() - 1), true;
+    default:
+      return false;
+  }
+}
+
+void TCustomListBox::DefaultHandler(TMessage& message) {
+  if (message.Msg == WM_KEYDOWN && MoveByKey(static_cast<quint16>(message.WParam))) return;
+  const QChar character(static_cast<char16_t>(message.WParam));
+  if (message.Msg == WM_CHAR && character.isPrint() && View()) {
+    // Finds the next line that begins so.
+    View()->keyboardSearch(QString(character));
+    return;
+  }
+  TWinControl::DefaultHandler(message);
+  if (message.Msg >= WM_MOUSEMOVE && message.Msg <= WM_LBUTTONDBLCLK) HandleMouse(message);
+}
+
+// The mouse.
+
+void TCustomListBox::HandleMouse(const TMessage& message) {
+  const QPoint point = PointOfMessage(message.LParam);
+  switch (message.Msg) {
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+      if (ItemAtPos(point, true) < 0) return;
+      FIsTracking = true;
+      SetItemIndex(ItemAtPos(point, true));
+      return SetMouseCapture(true);
+    case WM_MOUSEMOVE:
+      if (FIsTracking) FollowMouse(point);
+      return;
+    default:
+      if (!std::exchange(FIsTracking, false)) return;
+      SetMouseCapture(false);
+      return Click();
+  }
+}
+
+/// Selects what the pointer is over, or the line beyond the end that it is past.
+void TCustomListBox::FollowMouse(QPoint point) {
+  if (GetCount() == 0) return;
+  const int top = GetTopIndex();
+  const int last = top + LinesInView() - 1;
+  int index = point.y() < 0 ? top - 1 : top + point.y() / GetItemHeight();
+  if (point.y() >= GetClientHeight()) index = last + 1;
+  index = std::clamp(index, 0, GetCount() - 1);
+  if (index != FItemIndex) SetItemIndex(index);
+}
+
+void TCustomListBox::WMCancelMode(TMessage& message) {
+  TWinControl::WMCancelMode(message);
+  FIsTracking = false;
+  SetMouseCapture(false);
+}
+
+}  // namespace kt
