@@ -32,6 +32,9 @@ void PassOn(QEvent* event, const QWidget* widget) {
   Passing = HasControlAbove(widget) ? event : nullptr;
 }
 
+/// The next event may stand at the same place in memory: one that comes to the focus begins its way there.
+bool IsPassing(const QEvent* event, const QWidget& widget) { return event == Passing && !widget.hasFocus(); }
+
 bool IsSpecialKey(quint16 key) {
   return key == VK_TAB || key == VK_RETURN || key == VK_ESCAPE || (key >= VK_LEFT && key <= VK_DOWN);
 }
@@ -91,7 +94,7 @@ bool TControlBody::TypesText(const QKeyEvent& event) {
 }
 
 bool TControlBody::PressKey(QKeyEvent* event) {
-  if (event == Passing) return PassOn(event, FWidget), true;
+  if (IsPassing(event, *FWidget)) return PassOn(event, FWidget), true;
   const quint16 key = VirtualKeyOf(*event);
   if (FControl->OfferToParents(key, event->modifiers())) return true;
   if (IsSpecialKey(key) && FControl && !FControl->WantsKey(key)) {
@@ -103,7 +106,7 @@ bool TControlBody::PressKey(QKeyEvent* event) {
 }
 
 bool TControlBody::Key(QKeyEvent* event) {
-  if (event == Passing) return PassOn(event, FWidget), true;
+  if (IsPassing(event, *FWidget)) return PassOn(event, FWidget), true;
   const bool isDown = event->type() == QEvent::KeyPress;
   const bool isSystem = event->modifiers().testFlag(Qt::AltModifier);
   const quint32 msg = isDown ? (isSystem ? WM_SYSKEYDOWN : WM_KEYDOWN) : (isSystem ? WM_SYSKEYUP : WM_KEYUP);
@@ -116,6 +119,8 @@ bool TControlBody::Key(QKeyEvent* event) {
       if (FControl && FControl->SendKey(isSystem ? WM_SYSCHAR : WM_CHAR, character.unicode(), shift)) isTaken = true;
     }
   }
+  // What is taken stays here, whatever the widget thought of it.
+  if (isTaken) event->accept();
   if (!isTaken && (!FInheritedDone || !event->isAccepted())) PassOn(event, FWidget);
   return true;
 }

@@ -1,4 +1,5 @@
 // How messages reach the handlers of TControl.
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/controls/Control.h"
 #include "kt/vcl/controls/Focus.h"
 #include "kt/vcl/controls/WinControl.h"
@@ -50,12 +51,14 @@ void TControl::Dispatch(TMessage& message) {
 
 bool TControl::DispatchMouse(TMessage& message) {
   if (message.Msg < WM_MOUSEMOVE || message.Msg > WM_MBUTTONDBLCLK) return false;
+  const TLifeWatch self(this);
   // What is open elsewhere closes, then the window has its way with the mouse before the handlers do.
   TWinControl* const focused = TFocus::Current();
   const bool isPress = message.Msg != WM_MOUSEMOVE && message.Msg != WM_LBUTTONUP && message.Msg != WM_RBUTTONUP &&
                        message.Msg != WM_MBUTTONUP;
   if (isPress && focused) focused->Perform(CM_CANCELMODE, 0, PointerMessage(this));
-  DefaultHandler(message);
+  if (self.IsAlive()) DefaultHandler(message);
+  if (!self.IsAlive()) return true;
   switch (message.Msg) {
     case WM_MOUSEMOVE: {
       const QPoint point = PointOfMessage(message.LParam);
@@ -85,20 +88,24 @@ bool TControl::DispatchMouse(TMessage& message) {
 void TControl::ButtonDown(const TMessage& message, TMouseButton button, bool isDouble) {
   auto shift = TShiftState::FromBits(static_cast<quint32>(message.WParam));
   if (button == mbLeft && !isDouble && FControlStyle.Has(csClickEvents)) FControlState.Include(csClicked);
+  const TLifeWatch self(this);
   if (isDouble) {
     shift.Include(ssDouble);
     if (button == mbLeft && FControlStyle.Has(csDoubleClicks)) DblClick();
   }
+  if (!self.IsAlive()) return;
   const QPoint point = PointOfMessage(message.LParam);
   if (!FControlStyle.Has(csNoStdEvents)) MouseDown(button, shift, point.x(), point.y());
 }
 
 void TControl::ButtonUp(const TMessage& message, TMouseButton button) {
   const QPoint point = PointOfMessage(message.LParam);
+  const TLifeWatch self(this);
   if (button == mbLeft && FControlState.Has(csClicked)) {
     FControlState.Exclude(csClicked);
     if (GetClientRect().contains(point)) Click();
   }
+  if (!self.IsAlive()) return;
   if (FControlStyle.Has(csNoStdEvents)) return;
   MouseUp(button, TShiftState::FromBits(static_cast<quint32>(message.WParam)), point.x(), point.y());
 }

@@ -130,7 +130,7 @@ bool TWinControl::Focused() const { return HandleAllocated() && FWindow->hasFocu
 
 bool TWinControl::CanFocus() const {
   for (const TWinControl* control = this; control; control = control->GetParent()) {
-    if (!control->IsVisible() || !control->IsEnabled()) return false;
+    if (!control->IsVisible() || !control->IsEnabled() || control->HasState(csDestroying)) return false;
   }
   return true;
 }

@@ -58,7 +58,8 @@ void TCustomGrid::InvalidateEditor() {
 }
 
 void TCustomGrid::UpdateEdit() {
-  if (!CanEditShow()) return;
+  // The keyboard comes back from an editor that dies; that one gets no new window.
+  if (!CanEditShow() || (FInplaceEdit && FInplaceEdit->HasState(csDestroying))) return;
   if (!FInplaceEdit) {
     FInplaceEdit = CreateEditor();
     if (!FInplaceEdit) return;

@@ -9,7 +9,6 @@
 #include "kt/vcl/graphics/RealFont.h"
 
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QPainter>
 
 #include <algorithm>
@@ -43,10 +42,12 @@ void TCustomEdit::Construct() {
 QWidget* TCustomEdit::CreateBody(QWidget* parent) {
   auto* line = new TBodyOf<QLineEdit>(this, parent);
   FLineEdit = line;
-  QObject::connect(line, &QLineEdit::textEdited, line,
-                   [this](const QString& text) { GuardedCall([&] { WindowTextChanged(text, true); }); });
-  QObject::connect(line, &QLineEdit::textChanged, line, [this](const QString& text) {
-    if (!FIsSettingText) GuardedCall([&] { WindowTextChanged(text, false); });
+  // What they tell may be outdated: whoever heard of the change first can have taken it back.
+  QObject::connect(line, &QLineEdit::textEdited, line, [this, line] {
+    if (line->Control()) GuardedCall([&] { WindowTextChanged(line->text(), true); });
+  });
+  QObject::connect(line, &QLineEdit::textChanged, line, [this, line] {
+    if (line->Control() && !FIsSettingText) GuardedCall([&] { WindowTextChanged(line->text(), false); });
   });
   return line;
 }
@@ -56,6 +57,7 @@ void TCustomEdit::CreateWnd() {
   FLineEdit->setFrame(FBorderStyle == bsSingle);
   UpdateMaxLength();
   FLineEdit->setReadOnly(FReadOnly);
+  FLineEdit->setAccessibleName(FAccessibleName);
   FLineEdit->setContextMenuPolicy(Qt::DefaultContextMenu);
   FLineEdit->setFocusPolicy(IsTabStop() ? Qt::StrongFocus : Qt::ClickFocus);
   ShowText();
@@ -103,6 +105,14 @@ void TCustomEdit::CMFontChanged(TMessage& message) {
 void TCustomEdit::CMColorChanged(TMessage& message) {
   TWinControl::CMColorChanged(message);
   UpdateColors();
+}
+
+void TCustomEdit::CMCursorChanged(TMessage&) { ShowCursor(GetCursor() == crDefault ? crIBeam : GetCursor()); }
+
+void TCustomEdit::SetAccessibleName(const QString& value) {
+  if (FAccessibleName == value) return;
+  FAccessibleName = value;
+  if (FLineEdit) FLineEdit->setAccessibleName(value);
 }
 
 void TCustomEdit::CMTextChanged(TMessage& message) {

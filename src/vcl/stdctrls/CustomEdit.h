@@ -3,9 +3,10 @@
 #include "kt/vcl/controls/WinControl.h"
 #include "kt/vcl/graphics/Canvas.h"
 
-#include <memory>
+#include <QLineEdit>
+#include <QPointer>
 
-class QLineEdit;
+#include <memory>
 
 namespace kt {
 
@@ -52,6 +53,10 @@ class TCustomEdit : public TWinControl {
 
   void DefaultHandler(TMessage& message) override;
 
+  /// What screen readers call the editor. Empty: nothing of its own.
+  const QString& GetAccessibleName() const { return FAccessibleName; }
+  void SetAccessibleName(const QString& value);
+
   /// After each change of the text, the user's and the program's.
   TNotifyEvent OnChange;
 
@@ -67,6 +72,7 @@ class TCustomEdit : public TWinControl {
   void CMTextChanged(TMessage& message) override;
   void CMFontChanged(TMessage& message) override;
   void CMColorChanged(TMessage& message) override;
+  void CMCursorChanged(TMessage& message) override;
   bool WantsKey(quint16 key) override;
 
   /// Raises OnChange.
@@ -98,7 +104,9 @@ class TCustomEdit : public TWinControl {
   void UpdateColors();
   void TypeCharacter(QChar character);
 
-  QLineEdit* FLineEdit = nullptr;
+  /// Goes with the window, which somebody else may destroy.
+  QPointer<QLineEdit> FLineEdit;
+  QString FAccessibleName;
   /// From the first overlay on.
   std::unique_ptr<TCanvas> FCanvas;
   int FSelStart = 0;
