@@ -190,6 +190,7 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   TKTOnValidateErrorEvent OnValidateError;
 
  protected:
+  friend class TKTInplaceEditList;
   friend class TKTItemProp;
   friend class TKTItemProps;
 
@@ -225,8 +226,12 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
 
   // Editing. All of these take cells of the grid.
 
+  /// Makes a TKTInplaceEditList.
+  TInplaceEdit* CreateEditor() override;
   /// Not for items that are read-only.
   bool CanEditModify() override;
+  /// The item's for values, and esSimple for names; on the blank line by whether there is something to pick.
+  TEditStyle GetEditStyle(int col, int row) override;
   /// The item's mask, unless that is an expression; OnGetEditMask has the last word.
   QString GetEditMask(int col, int row) override;
   /// The text of the cell; OnGetEditText has the last word.
@@ -271,6 +276,8 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   virtual void EnableEditUpdate();
 
  protected:
+  /// Fills the drop-down list of a value cell: with the item's pick list and what the handlers add.
+  virtual void EditListGetItems(int col, int row, TStrings& items);
   /// The button of the in-place editor was clicked. The item's handler goes before the editor's; either gets the item
   /// as its sender.
   virtual void EditButtonClick(TObject* sender);
@@ -285,6 +292,9 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   virtual QString GetCell(int col, int row);
   /// The font for the in-place editor: deliberately that of the current value field, whatever the cell.
   virtual TFont& GetCellFont(int col, int row);
+  /// Has the item's handler, or else the editor's, fill `values`; whether they hold anything then. On a line without a
+  /// name nothing happens.
+  virtual bool GetPickList(TKTItemProp* item, TStrings& values, bool clearFirst);
   virtual void SetCell(int col, int row, const QString& value);
   virtual void SetArrangeByCategory(bool value) { FArrangeByCategory = value; }
   virtual void SetDisplayOptions(TILEDisplayOptions value);
@@ -372,6 +382,7 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   void CopyTo(TKTItemProp& item, TKTItemProp* category);
   void PlaceCopy(TKTItemProp& item, TKTItemProp& category);
   void PlaceFurtherCopy(TKTItemProp& item, const QString& categoryName);
+  class TKTInplaceEditList* ListEditor() const;
   void WriteTypedText(int col, int row, const QString& value);
   bool HoldsBackName(const QString& value);
 

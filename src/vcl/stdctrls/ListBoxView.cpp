@@ -111,7 +111,7 @@ bool TCustomListBox::TView::event(QEvent* event) {
 }
 
 void TCustomListBox::TView::focusInEvent(QFocusEvent* event) {
-  QAbstractScrollArea::focusInEvent(event);
+  QAbstractScrollArea::focusInEvent(event);  // NOLINT(bugprone-parent-virtual-call): what lies between selects
   viewport()->update();
 }
 

@@ -1,0 +1,126 @@
+#include "kt/KTItemListEditor/InplaceEditList.h"
+
+#include "kt/KTItemListEditor/DropDownList.h"
+#include "kt/KTItemListEditor/ItemListEditor.h"
+#include "kt/rtl/objects/LifeWatch.h"
+#include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/typeinfo/ClassBuilder.h"
+#include "kt/vcl/stdctrls/EditButton.h"
+
+#include <QScopedValueRollback>
+
+namespace kt {
+
+const TClassInfo* TKTInplaceEditList::Class() {
+  static const TClassInfo info = TClassBuilder<TKTInplaceEditList>("TKTInplaceEditList").Done();
+  return &info;
+}
+
+TKTInplaceEditList::~TKTInplaceEditList() = default;
+
+void TKTInplaceEditList::Construct() {
+  FMatcher = Make<TGRegularExpression>();
+  TInplaceEdit::Construct();
+}
+
+void TKTInplaceEditList::CreateWnd() {
+  TInplaceEdit::CreateWnd();
+  if (FButtonWidth == 0) FButtonWidth = TEditButton::UsualWidth();
+}
+
+void TKTInplaceEditList::Notification(TComponent* component, TOperation operation) {
+  TInplaceEdit::Notification(component, operation);
+  if (operation != opRemove || component != FPickList) return;
+  FPickList = nullptr;
+  FActiveList = nullptr;
+  FListVisible = false;
+}
+
+TKTCustomItemListEditor& TKTInplaceEditList::GetGrid() const {
+  auto* grid = dynamic_cast<TKTCustomItemListEditor*>(TInplaceEdit::GetGrid());
+  if (!grid) throw EInvalidCast(SInvalidCast);
+  return *grid;
+}
+
+bool TKTInplaceEditList::HasReadOnlyItem() const {
+  const TKTItemProp* item = GetGrid().GetSelected();
+  return item && item->IsReadOnly();
+}
+
+void TKTInplaceEditList::UpdateContents() {
+  TKTCustomItemListEditor& grid = GetGrid();
+  const TLifeWatch self(this);
+  // An open list is that of the former cell.
+  if (FListVisible) CloseUp(false);
+  {
+    const QScopedValueRollback fillingIn(FIsFillingIn, true);
+    TInplaceEdit::UpdateContents();
+  }
+  FActiveList = nullptr;
+  FPickListLoaded = false;
+  const TEditStyle style = grid.GetEditStyle(grid.GetCol(), grid.GetRow());
+  if (!self.IsAlive()) return;
+  FEditStyle = style;
+  if (FEditStyle == esPickList) FActiveList = &GetPickList();
+  SetExpression(grid.GetExpressionMask(grid.GetCol(), grid.GetRow()));
+  SetFont(grid.GetCellFont(grid.GetCol(), grid.GetRow()));
+  FAcceptedText = GetText();
+  FAcceptedCaret = GetCaretPos();
+  const TKTItemProp* item = grid.GetSelected();
+  SetAccessibleName(item ? item->GetName() : QString());
+}
+
+void TKTInplaceEditList::BoundsChanged() {
+  // The place of an open list is that of the former bounds.
+  if (FListVisible) CloseUp(false);
+  QRect rect(2, 2, GetWidth() - 4, GetHeight() - 2);
+  if (FEditStyle != esSimple) {
+    if (GetGrid().UseRightToLeftAlignment()) {
+      rect.setLeft(rect.left() + FButtonWidth - 2);
+    } else {
+      rect.setWidth(rect.width() - FButtonWidth);
+    }
+  }
+  SetFormatRect(rect);
+}
+
+void TKTInplaceEditList::RestoreContents() {
+  const TLifeWatch self(this);
+  Reset();
+  if (!self.IsAlive()) return;
+  TKTCustomItemListEditor& grid = GetGrid();
+  // Deliberately the grid's own text and not the editor's.
+  if (grid.GetCol() != -1 && grid.GetRow() != -1) grid.SetEditText(grid.GetCol(), grid.GetRow(), grid.GetText());
+}
+
+void TKTInplaceEditList::PutText(const QString& text) {
+  Perform(WM_SETTEXT, 0, PointerMessage(&text));
+  SetModified(true);
+  FAcceptedText = text;
+  FAcceptedCaret = GetCaretPos();
+}
+
+void TKTInplaceEditList::PickText(const QString& text) {
+  PutText(text);
+  TKTCustomItemListEditor& grid = GetGrid();
+  grid.SetEditText(grid.GetCol(), grid.GetRow(), text);
+}
+
+void TKTInplaceEditList::WndProc(TMessage& message) {
+  if (message.Msg >= WM_MOUSEMOVE && message.Msg <= WM_MBUTTONDBLCLK) FMouse = PointOfMessage(message.LParam);
+  const bool isKey = message.Msg == WM_KEYDOWN || message.Msg == WM_SYSKEYDOWN || message.Msg == WM_CHAR;
+  if (isKey && FEditStyle == esPickList) {
+    auto key = static_cast<quint16>(message.WParam);
+    const TLifeWatch self(this);
+    DoDropDownKeys(key, TShiftState::FromBits(static_cast<quint32>(message.LParam)));
+    if (!self.IsAlive()) return;
+    message.WParam = key;
+    if (key != 0 && FListVisible && FActiveList) {
+      FActiveList->Perform(message.Msg, message.WParam, message.LParam);
+      return;
+    }
+  }
+  TInplaceEdit::WndProc(message);
+}
+
+}  // namespace kt

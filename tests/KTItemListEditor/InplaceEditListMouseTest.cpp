@@ -1,0 +1,97 @@
+#include "KTItemListEditor/InplaceEditListFixture.h"
+
+namespace kt::tests {
+namespace {
+
+using InplaceEditListMouseTest = TInplaceEditListTest;
+
+const QPoint kInText(4, 8);
+
+TEST_F(InplaceEditListMouseTest, ADoubleClickStepsThroughThePickListAndValidatesEachStep) {
+  ShowColors();
+  DoubleClickAt(kInText);
+  EXPECT_EQ("red", Value(0));
+  EXPECT_EQ("red", Edit().GetText());
+  EXPECT_EQ("validate(a=red) validated(a)", TakeLog());
+  DoubleClickAt(kInText);
+  EXPECT_EQ("green", Value(0));
+}
+
+TEST_F(InplaceEditListMouseTest, AStepSelectsAllOfTheText) {
+  ShowColors();
+  QWidget* const body = Edit().GetHandle();
+  QMouseEvent event(QEvent::MouseButtonDblClick, kInText, body->mapToGlobal(kInText), Qt::LeftButton, Qt::LeftButton,
+                    Qt::NoModifier);
+  QApplication::sendEvent(body, &event);
+  EXPECT_EQ(3, Edit().GetSelLength());
+}
+
+TEST_F(InplaceEditListMouseTest, ADoubleClickStepsOnFromTheValue) {
+  Item(0).SetValue(QStringLiteral("green"));
+  ShowColors();
+  DoubleClickAt(kInText);
+  EXPECT_EQ("blue", Value(0));
+}
+
+TEST_F(InplaceEditListMouseTest, OnTheLastValueADoubleClickWrapsToTheFirst) {
+  Item(0).SetValue(QStringLiteral("blue"));
+  ShowColors();
+  DoubleClickAt(kInText);
+  EXPECT_EQ("red", Value(0));
+}
+
+TEST_F(InplaceEditListMouseTest, ADoubleClickOnAReadOnlyItemChangesNothing) {
+  Item(0).SetReadOnly(true);
+  ShowColors();
+  Editor.OnDblClick = [this](TObject*) { Log += QStringLiteral("dblclick"); };
+  DoubleClickAt(kInText);
+  EXPECT_EQ("1", Value(0));
+  EXPECT_EQ("", TakeLog());
+}
+
+TEST_F(InplaceEditListMouseTest, ADoubleClickOnAnEmptyListChangesNothing) {
+  ShowPickList({});
+  DoubleClickAt(kInText);
+  EXPECT_EQ("1", Value(0));
+}
+
+TEST_F(InplaceEditListMouseTest, AHandlerOfDoubleClicksTakesThePlaceOfSteps) {
+  ShowColors();
+  Editor.OnDblClick = [this](TObject* sender) { Log += sender == &Editor ? "dblclick" : "?"; };
+  DoubleClickAt(kInText);
+  EXPECT_EQ("1", Value(0));
+  EXPECT_EQ("dblclick", TakeLog());
+}
+
+TEST_F(InplaceEditListMouseTest, WithAHandlerOfDoubleClicksAPickListCellIsStillValidated) {
+  ShowColors();
+  Retype(QStringLiteral("x"));
+  Editor.OnDblClick = [this](TObject*) { Log += QStringLiteral("dblclick"); };
+  DoubleClickAt(kInText);
+  EXPECT_EQ("dblclick validate(a=x) validated(a)", TakeLog());
+}
+
+TEST_F(InplaceEditListMouseTest, ADoubleClickOnASimpleCellIsTheGrids) {
+  Show();
+  Retype(QStringLiteral("x"));
+  TakeLog();
+  Editor.OnDblClick = [this](TObject*) { Log += QStringLiteral("dblclick"); };
+  DoubleClickAt(kInText);
+  EXPECT_EQ("dblclick", TakeLog());
+}
+
+TEST_F(InplaceEditListMouseTest, ADoubleClickOnAnEllipsisCellRunsItsAction) {
+  ShowEllipsis();
+  DoubleClickAt(kInText);
+  EXPECT_EQ("click(a)", TakeLog());
+}
+
+TEST_F(InplaceEditListMouseTest, ADoubleClickOnTheArrowStepsNowhere) {
+  ShowColors();
+  ClickAt(OnButton());
+  DoubleClickAt(OnButton());
+  EXPECT_EQ("1", Value(0));
+}
+
+}  // namespace
+}  // namespace kt::tests
