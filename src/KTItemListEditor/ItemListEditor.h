@@ -222,7 +222,6 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   void UpdateItemProp(TKTItemProp* item);
   void VisibleChanged(TKTItemProp* item);
   void InvalidateItem(const TKTItemProp& item);
-  bool HasOpenInplaceEditor() const { return InplaceEditor() != nullptr; }
 
   // Editing. All of these take cells of the grid.
 

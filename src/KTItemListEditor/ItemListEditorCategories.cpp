@@ -48,7 +48,8 @@ void TKTCustomItemListEditor::MoveFurther(TKTItemProp& item, const QString& cate
 void TKTCustomItemListEditor::CopyTo(TKTItemProp& item, TKTItemProp* category) {
   const TItemWatch original(&item);
   const TItemWatch target(category);
-  TItemWatch copy(item.GetCollection()->Add());
+  TKTItemProps* own = item.GetCollection();
+  TItemWatch copy((own ? own : FItems.get())->Add());
   if (copy && original) copy->Assign(original.Get());
   if (copy && target) MoveTo(*copy, target.Get());
 }

@@ -49,10 +49,8 @@ const TClassInfo* TKTItemProp::Class() {
                                      .Property<&T::GetPickList, &T::SetPickList>("PickList")
                                      .Stored(&T::HasPickList)
                                      .Property<&T::GetExpressionMask, &T::SetExpressionMask>("ExpressionMask")
-                                     .Default(false)
                                      .Property<&T::GetItems, &T::SetItems>("Items")
                                      .Property<&T::GetTag, &T::SetTag>("Tag")
-                                     .Default(0)
                                      .Creatable()
                                      .Done();
   return &info;

@@ -239,6 +239,8 @@ class TKTItemProp : public TCollectionItem {
   void ValuesChanged(TObject*);
   void TellParentFontChanged(TKTItemProp* source);
   void TellParentValueFontChanged();
+  bool HasFontObject() const;
+  bool HasValueFontObject() const;
   TFont* FontToInherit();
   TFont* ValueFontToInherit();
   void InvalidateRow();

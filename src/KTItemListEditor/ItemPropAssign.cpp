@@ -45,14 +45,19 @@ void TKTItemProp::AssignRare(TKTItemProp& source) {
   GetPickList().Assign(&source.GetPickList());
 }
 
+bool TKTItemProp::HasFontObject() const { return FRare && FRare->Font; }
+
+bool TKTItemProp::HasValueFontObject() const { return FRare && FRare->ValueFont; }
+
 void TKTItemProp::AssignFonts(TKTItemProp& source) {
   const TItemWatch self(this);
-  // A source without a font object inherits what it looks like, and so shall its copy.
-  if (source.FRare && source.FRare->Font) GetFont().Assign(source.FRare->Font.get());
-  if (!self) return;
+  const TItemWatch from(&source);
+  // Where both inherit what they look like without an object, the copy goes on inheriting.
+  if (HasFontObject() || source.HasFontObject()) GetFont().Assign(&source.GetFont());
+  if (!self || !from) return;
   FParentFont = source.FParentFont;
-  if (source.FRare && source.FRare->ValueFont) GetValueFont().Assign(source.FRare->ValueFont.get());
-  if (self) FParentValueFont = source.FParentValueFont;
+  if (HasValueFontObject() || source.HasValueFontObject()) GetValueFont().Assign(&source.GetValueFont());
+  if (self && from) FParentValueFont = source.FParentValueFont;
 }
 
 void TKTItemProp::AssignValues(TKTItemProp& source) {
@@ -62,15 +67,18 @@ void TKTItemProp::AssignValues(TKTItemProp& source) {
 
 void TKTItemProp::AssignItems(TKTItemProp& source) {
   const TItemWatch self(this);
-  FVisible = source.GetVisible();
+  const TItemWatch from(&source);
+  SetVisible(source.GetVisible());
+  if (!self || !from) return;
   // Also for the flags that were copied without further ado: they can mean other rows.
   VisibleChanged();
-  if (!self) return;
+  if (!self || !from) return;
   FSortsItems = source.FSortsItems;
   if (source.FItems) {
     SetItems(*source.FItems);
   } else if (FItems) {
-    FItems->Clear();
+    FItems->GetCategories().Clear();
+    if (self) FItems->Clear();
     if (self) FItems->StoreSorted(FSortsItems);
   }
 }

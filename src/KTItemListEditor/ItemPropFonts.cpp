@@ -103,12 +103,15 @@ void TKTItemProp::ParentValueFontChanged() {
 
 void TKTItemProp::SetParentFont(bool value) {
   if (FParentFont == value) return;
+  // What it looks like now is its own from here on.
+  GetFont();
   FParentFont = value;
   ParentFontChanged(this);
 }
 
 void TKTItemProp::SetParentValueFont(bool value) {
   if (FParentValueFont == value) return;
+  GetValueFont();
   FParentValueFont = value;
   ParentValueFontChanged();
 }

@@ -42,7 +42,8 @@ void TKTItemProp::DoValidated() {
 
 void TKTItemProp::DoValidateError(const Exception& error) {
   TKTCustomItemListEditor* editor = GetEditor();
-  if (!editor || !editor->HasOpenInplaceEditor()) return TellValidateError(error);
+  const bool isOpen = editor && editor->InplaceEditor() && editor->InplaceEditor()->Visible();
+  if (!isOpen) return TellValidateError(error);
   // Thrown and caught, so that whoever raises it again raises this one.
   try {
     throw ETORVException(Format(SInvalidPropValue, {GetValue(), error.Message()}));

@@ -8,6 +8,7 @@
 #include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/conversions/Text.h"
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/strings/StringList.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 
@@ -78,10 +79,11 @@ TKTItemProp* TKTItemProps::Add() {
 TKTItemProp* TKTItemProps::Add(const QString& name, const QString& value) {
   IsValid(name, true);
   Changing();
+  const TLifeWatch self(this);
   TItemWatch item(AddNewItem());
   item->SetName(name);
   if (item) item->SetValuesText(value);
-  if (item) item->GetCollection()->Changed();
+  if (self.IsAlive()) TOwnedCollection::Changed();
   return item.Get();
 }
 
@@ -95,10 +97,12 @@ TKTItemProp* TKTItemProps::Insert(int index) {
 void TKTItemProps::Exchange(int index1, int index2) {
   TKTItemProp* first = GetItem(index1);
   TKTItemProp* second = GetItem(index2);
+  const TLifeWatch self(this);
+  const TItemWatch watched(second);
   Changing();
   first->SetIndex(index2);
-  second->SetIndex(index1);
-  TOwnedCollection::Changed();
+  if (watched) second->SetIndex(index1);
+  if (self.IsAlive()) TOwnedCollection::Changed();
 }
 
 bool TKTItemProps::RequiresUniqueNames() const {
@@ -137,11 +141,18 @@ void TKTItemProps::Notify(TCollectionItem* item, TCollectionNotification action)
   auto* prop = static_cast<TKTItemProp*>(item);
   const bool isOwn = prop->TCollectionItem::GetCollection() == this;
   if (isOwn && action == cnAdded) TItemRows::Enter(*prop);
-  if (isOwn && action == cnExtracting) TItemRows::Leave(*prop);
+  if (isOwn && action == cnExtracting) Leave(*prop);
   if (action == cnAdded && FSorted) Sort(true);
   if (action == cnExtracting && FDefaultCategory == prop) SetDefaultCategory(nullptr);
   if (isOwn) TOwnedCollection::Notify(item, action);
   TellOwner(prop, action);
+}
+
+void TKTItemProps::Leave(TKTItemProp& item) {
+  // The in-place editor writes back what it holds while its row is still that of its item.
+  TKTCustomItemListEditor* editor = GetEditor();
+  if (editor && !editor->HasState(csDestroying)) editor->UpdatingItemProp(&item);
+  TItemRows::Leave(item);
 }
 
 void TKTItemProps::TellOwner(TKTItemProp* item, TCollectionNotification action) {

@@ -145,6 +145,7 @@ class TKTItemProps : public TOwnedCollection {
   TPathHead SplitPath(const QString& path) const;
   TKTItemProp* AddNewItem();
   bool RequiresUniqueNames() const;
+  void Leave(TKTItemProp& item);
   void TellOwner(TKTItemProp* item, TCollectionNotification action);
   void StoreSorted(bool value);
   void StoreSortedBelow(bool value);

@@ -2,6 +2,7 @@
 #include "kt/KTItemListEditor/ItemProps.h"
 #include "kt/KTItemListEditor/ItemWatch.h"
 #include "kt/KTItemListEditor/Messages.h"
+#include "kt/rtl/objects/LifeWatch.h"
 
 namespace kt {
 
@@ -17,11 +18,12 @@ TKTItemProp* TKTItemProps::AddCategory(const QString& name, bool allowDuplicate)
     if (const int index = IndexOfCategory(name); index >= 0) return GetItem(index);
   }
   Changing();
+  const TLifeWatch self(this);
   TItemWatch item(AddNewItem());
   item->SetCategory(true);
   if (item) item->SetReadOnly(true);
   if (item) item->SetName(name);
-  if (item) item->GetCollection()->Changed();
+  if (self.IsAlive()) TOwnedCollection::Changed();
   return item.Get();
 }
 

@@ -4,6 +4,7 @@
 #include "kt/KTItemListEditor/Messages.h"
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/conversions/Text.h"
+#include "kt/rtl/objects/LifeWatch.h"
 
 namespace kt {
 
@@ -71,6 +72,7 @@ TKTItemProp* TKTItemProps::FindItemByFullPathName(const QString& path) {
 }
 
 TKTItemProp* TKTItemProps::AddFullPath(const QString& path, const QString& value, bool allowDuplicate) {
+  const TLifeWatch self(this);
   Changing();
   const TPathHead head = SplitPath(path);
   TItemWatch item(head.HasRest || !allowDuplicate ? GetItemByName(head.Name) : nullptr);
@@ -81,13 +83,12 @@ TKTItemProp* TKTItemProps::AddFullPath(const QString& path, const QString& value
     item->SetName(head.Name);
   }
   if (!item) return nullptr;
-  const TItemWatch top(item.Get());
   if (head.HasRest) {
     item = item->GetItems().AddFullPath(head.Rest, value, allowDuplicate);
   } else {
     item->SetValuesText(value);
   }
-  if (top) top->GetCollection()->Changed();
+  if (self.IsAlive()) TOwnedCollection::Changed();
   return item.Get();
 }
 

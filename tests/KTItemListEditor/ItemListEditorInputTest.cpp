@@ -323,6 +323,36 @@ TEST_F(ItemListEditorInputTest, TypingIntoTheBlankLineMakesAnItem) {
   EXPECT_EQ("x", Items().GetItem(0)->GetValue());
 }
 
+// An open editor and what happens to its item.
+
+TEST_F(ItemListEditorInputTest, AnItemRemovedUnderTheOpenEditorLeavesTheOthersAsTheyAre) {
+  Show("");
+  for (const char* name : {"a", "b", "c"}) Items().Add(name, name);
+  FEditor->SetRow(2);
+  TWindowProbe::Settle();
+  Items().Delete(1);
+  EXPECT_EQ("c", Item("c").GetValue());
+  FEditor->SetRow(2);
+  Items().Delete(0);
+  EXPECT_EQ("c", Item("c").GetValue());
+}
+
+TEST_F(ItemListEditorInputTest, TheOnlyItemRemovedUnderTheOpenEditorStaysRemoved) {
+  Show("");
+  Items().Add("a", "1");
+  TWindowProbe::Settle();
+  Items().Delete(0);
+  EXPECT_EQ(0, FEditor->GetItemCount());
+}
+
+TEST_F(ItemListEditorInputTest, ARefusalWithoutAnOpenEditorIsToldAsItIs) {
+  Show("a");
+  FEditor->OnValidate = [](TObject*, TKTItemProp*, int) { throw EConvertError("no number"); };
+  FEditor->SetOptions(FEditor->GetOptions() - TGridOptions{goAlwaysShowEditor});
+  FEditor->SetEditorMode(false);
+  EXPECT_EQ("no number", MessageOf<EConvertError>([this] { Item("a").Validate(); }));
+}
+
 // Moving rows.
 
 class TMovingEditor : public TKTItemListEditor {

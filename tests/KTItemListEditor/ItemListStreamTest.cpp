@@ -148,10 +148,12 @@ TEST_F(ItemListStreamTest, WhatComesBackIsWrittenAsTheSame) {
   EXPECT_EQ(TextOf(FEditor.get()), TextOf(FCopy.get()));
 }
 
-TEST_F(ItemListStreamTest, AFreshItemIsWrittenWithNothingButItsEmptyItems) {
+TEST_F(ItemListStreamTest, AFreshItemIsWrittenWithWhatHasNoDefault) {
   LeaveTheValues();
   FEditor->GetItems().Add();
-  EXPECT_EQ("Items = < item Items.DefaultCategoryName = 'Miscellaneous' Items = <> end> end", ItemsText(FEditor.get()));
+  EXPECT_EQ(
+      "Items = < item ExpressionMask = False Items.DefaultCategoryName = 'Miscellaneous' Items = <> Tag = 0 end> end",
+      ItemsText(FEditor.get()));
 }
 
 TEST_F(ItemListStreamTest, ValueAndValuesAreBothWritten) {
@@ -159,8 +161,10 @@ TEST_F(ItemListStreamTest, ValueAndValuesAreBothWritten) {
   FEditor->GetItems().Add();
   FEditor->GetItems().Add("a", "1\r\n2");
   EXPECT_EQ(
-      "Items = < item Items.DefaultCategoryName = 'Miscellaneous' Items = <> end item Name = 'a' "
-      "Value = '1'#13#10'2' Values.Strings = ( '1' '2') Items.DefaultCategoryName = 'Miscellaneous' Items = <> end> "
+      "Items = < item ExpressionMask = False Items.DefaultCategoryName = 'Miscellaneous' Items = <> Tag = 0 end item "
+      "Name = 'a' "
+      "Value = '1'#13#10'2' Values.Strings = ( '1' '2') ExpressionMask = False Items.DefaultCategoryName = "
+      "'Miscellaneous' Items = <> Tag = 0 end> "
       "end",
       ItemsText(FEditor.get()));
 }
@@ -169,8 +173,8 @@ TEST_F(ItemListStreamTest, TheValueOfTheSelectedItemIsWrittenAsItsOneLineAndCome
   FEditor->GetItems().Add("a", "1\r\n2");
   FEditor->SetCol(2);
   EXPECT_EQ(
-      "Items = < item Name = 'a' Value = '2' Values.Strings = ( '1' '2') Items.DefaultCategoryName = 'Miscellaneous' "
-      "Items = <> end> end",
+      "Items = < item Name = 'a' Value = '2' Values.Strings = ( '1' '2') ExpressionMask = False "
+      "Items.DefaultCategoryName = 'Miscellaneous' Items = <> Tag = 0 end> end",
       ItemsText(FEditor.get()));
   ReadBackThroughText();
   EXPECT_EQ("1\r\n2\r\n", FCopy->GetItems().GetItem(0)->GetValuesText());

@@ -51,6 +51,22 @@ TEST_F(ItemPropAssignTest, PlainPropertiesAreCopied) {
   EXPECT_EQ("s=1", Target().GetDisplayName());
 }
 
+TEST_F(ItemPropAssignTest, AFontOfTheTargetsOwnGivesWay) {
+  Item("t").GetFont().SetColor(clRed);
+  Item("t").GetValueFont().SetColor(clRed);
+  Copy();
+  EXPECT_EQ(Item("s").GetFont().GetColor(), Target().GetFont().GetColor());
+  EXPECT_EQ(Item("s").GetValueFont().GetColor(), Target().GetValueFont().GetColor());
+  EXPECT_TRUE(Target().GetParentFont() && Target().GetParentValueFont());
+}
+
+TEST_F(ItemPropAssignTest, TheCategoryMapBelowIsCopiedAlsoWhenItIsEmpty) {
+  Fill("leaf");
+  Item("t").GetItems().GetCategories().Add("a=b");
+  Item("t").Assign(&Item("leaf"));
+  EXPECT_EQ(0, Target().GetItems().GetCategories().GetCount());
+}
+
 TEST_F(ItemPropAssignTest, ThePickListAndItsStyleAreCopied) {
   Item("s").GetPickList().SetCommaText("1,2");
   Copy();

@@ -38,6 +38,17 @@ TEST_F(ItemPropFontsTest, FontsThatWereAskedForFollowTheEditorsFonts) {
   EXPECT_TRUE(Item("a.b.c").GetParentValueFont());
 }
 
+TEST_F(ItemPropFontsTest, AnItemThatStopsInheritingKeepsWhatItLooksLike) {
+  Fill("a");
+  FEditor->GetFont().SetColor(clRed);
+  FEditor->GetValueFont().SetColor(clBlue);
+  Item("a").SetParentFont(false);
+  Item("a").SetParentValueFont(false);
+  FEditor->GetFont().SetColor(clGreen);
+  EXPECT_EQ(clRed, Item("a").GetFont().GetColor());
+  EXPECT_EQ(clBlue, Item("a").GetValueFont().GetColor());
+}
+
 TEST_F(ItemPropFontsTest, ChangingAFontMakesItTheItemsOwnAndTheChildrenFollow) {
   AskForAllFonts();
   Item("a").GetFont().SetColor(clRed);
