@@ -1,3 +1,4 @@
+#include "kt/KTItemListEditor/InplaceEditList.h"
 #include "kt/KTItemListEditor/ItemListEditor.h"
 #include "kt/KTItemListEditor/ItemWatch.h"
 #include "kt/rtl/objects/LifeWatch.h"
@@ -56,7 +57,11 @@ bool TKTCustomItemListEditor::RestoreTyping() {
   if (!editor || !editor->IsModified()) return false;
   const TLifeWatch watch(editor);
   const QString typed = editor->GetText();
-  editor->Reset();
+  if (auto* list = dynamic_cast<TKTInplaceEditList*>(editor)) {
+    list->RestoreContents();
+  } else {
+    editor->Reset();
+  }
   if (watch.IsAlive()) SetEditText(GetCol(), GetRow(), QString(editor->GetText()));
   if (!watch.IsAlive() || editor->GetText() == typed) return false;
   editor->SelectAll();
