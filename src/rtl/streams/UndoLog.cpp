@@ -81,8 +81,9 @@ std::vector<TLifeTable::TLife> TUndoLog::ChildrenOf(TComponent& parent, TCompone
   return children;
 }
 
-void TUndoLog::Hold(TCollection& collection, std::unique_ptr<TItemsExchange> formerItems) {
-  FItems.push_back({FLives.Watch(&collection), std::move(formerItems)});
+void TUndoLog::Hold(TCollection& collection, std::unique_ptr<TItemsExchange>&& formerItems) {
+  FItems.push_back({FLives.Watch(&collection), nullptr});
+  FItems.back().Items = std::move(formerItems);
 }
 
 void TUndoLog::WriteBack() noexcept {

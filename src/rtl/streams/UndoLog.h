@@ -38,8 +38,8 @@ class TUndoLog {
   void RememberDefined(TPersistent& object, const QString& name, TComponent* root);
   /// Takes down the order of the children of `parent`.
   void RememberOrder(TComponent& parent, TComponent* root);
-  /// Takes over the items that a collection had.
-  void Hold(TCollection& collection, std::unique_ptr<TItemsExchange> formerItems);
+  /// Takes over the items that a collection had; when it raises, they stay where they are.
+  void Hold(TCollection& collection, std::unique_ptr<TItemsExchange>&& formerItems);
 
   /// Gives everything back, the last first, and forgets it. What setters and overrides raise is reported
   /// (HandleException()).
