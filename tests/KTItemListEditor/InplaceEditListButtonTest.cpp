@@ -84,6 +84,7 @@ TEST_F(InplaceEditListButtonTest, TheRightButtonDoesNotPressIt) {
   ShowEllipsis();
   QTest::mousePress(Edit().GetHandle(), Qt::RightButton, Qt::NoModifier, OnButton());
   EXPECT_FALSE(Edit().IsPressed());
+  QTest::mouseRelease(Edit().GetHandle(), Qt::RightButton, Qt::NoModifier, OnButton());
 }
 
 TEST_F(InplaceEditListButtonTest, APressLeavesTheSelectedTextSelected) {

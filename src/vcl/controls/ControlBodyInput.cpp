@@ -111,7 +111,8 @@ bool TControlBody::Key(QKeyEvent* event) {
   const bool isSystem = event->modifiers().testFlag(Qt::AltModifier);
   const quint32 msg = isDown ? (isSystem ? WM_SYSKEYDOWN : WM_KEYDOWN) : (isSystem ? WM_SYSKEYUP : WM_KEYUP);
   event->accept();
-  const qintptr shift = ShiftStateOf(event->modifiers(), QApplication::mouseButtons()).Bits();
+  // A key knows the modifiers alone: a mouse button that is held makes no other key of it.
+  const qintptr shift = ShiftStateOf(event->modifiers()).Bits();
   bool isTaken = FControl->SendKey(msg, VirtualKeyOf(*event), shift);
   if (isDown && TypesText(*event)) {
     const QString text = event->text();

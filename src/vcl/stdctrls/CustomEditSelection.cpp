@@ -47,8 +47,9 @@ void TCustomEdit::SetSelText(const QString& value) {
   QString text = WindowText();
   text.replace(FSelStart, FSelLength, value);
   const int caret = FSelStart + static_cast<int>(value.size());
-  SetText(text);
+  SetWindowText(text);
   FModified = true;
+  Perform(CM_TEXTCHANGED);
   SetSelStart(caret);
 }
 

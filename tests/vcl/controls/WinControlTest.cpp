@@ -33,7 +33,7 @@ class TSpy : public TControlProbe {
   }
   void Say(const QString& what) { Shared ? Shared->append(GetName() + u':' + what) : FLog.append(what); }
   void KeyDown(quint16& key, TShiftState shift) override {
-    Say(QStringLiteral("down(%1)").arg(key));
+    Say(QStringLiteral("down(%1%2)").arg(key).arg(shift.IsEmpty() ? QString() : QStringLiteral(" shifted")));
     TControlProbe::KeyDown(key, shift);
   }
   void KeyPress(QChar& key) override {
@@ -142,6 +142,19 @@ TEST(WinControlTest, AKeyThatMovesSendsNoCharacter) {
   TWindowProbe::Key(Qt::Key_Down);
   TWindowProbe::Key(Qt::Key_Delete);
   EXPECT_EQ(control->Log(), "down(40) down(46)");
+}
+
+TEST(WinControlTest, AHeldMouseButtonMakesNoOtherKey) {
+  auto control = Make<TSpy>();
+  TWindowProbe window(*control);
+  control->SetFocus();
+  QTest::mousePress(control->GetHandle(), Qt::RightButton);
+  control->Log();
+  TWindowProbe::Key(Qt::Key_Insert);
+  EXPECT_EQ(control->Log(), "down(45)");
+  TWindowProbe::Key(Qt::Key_Insert, Qt::ControlModifier);
+  EXPECT_EQ(control->Log(), "down(17 shifted) down(45 shifted)");
+  QTest::mouseRelease(control->GetHandle(), Qt::RightButton);
 }
 
 TEST(WinControlTest, AKeyOfTheChildIsNoKeyOfTheParent) {

@@ -223,11 +223,11 @@ TEST_F(MaskLineTest, DeletingASelectionKeepsLiterals) {
 }
 
 TEST_F(MaskLineTest, AMaskOfLiteralsAloneHasNowhereToGo) {
-  Begin(u"ab");
+  Begin(u"()");
   EXPECT_FALSE(Line().Insert(u"x"));
   Line().Move(TMaskLine::mvEnd, false);
   Line().Erase(TMaskLine::mvRight);
-  EXPECT_EQ(Shown(), "|ab");
+  EXPECT_EQ(Shown(), "|()");
 }
 
 TEST_F(MaskLineTest, TakesOverWhatWasInserted) {

@@ -42,7 +42,7 @@ INSTANTIATE_TEST_SUITE_P(All, MaskValueTest,
                                          TMaskRow{"FieldsFromTheRight", u"!99-99", u"1-2", u"_1-_2"},
                                          TMaskRow{"WithoutItsLiteralsFromTheRight", u"!99-99", u"123", u"_1-23"},
                                          TMaskRow{"LiteralsAtBothEnds", u"<>(9)", u"(4)", u"(4)"},
-                                         TMaskRow{"LiteralsAlone", u"abc", u"x", u"abc"}),
+                                         TMaskRow{"LiteralsAlone", u"(-)", u"x", u"(-)"}),
                          [](const auto& test) { return std::string(test.param.Name); });
 
 /// A mask, a masked text, and the value that it shows.
