@@ -1,5 +1,5 @@
 #include "kt/rtl/objects/Make.h"
-#include "kt/rtl/objects/UnhandledExceptions.h"
+#include "kt/vcl/forms/Application.h"
 #include "kt/vcl/grids/InplaceEdit.h"
 #include "kt/vcl/mask/MaskErrors.h"
 #include "support/Expect.h"
@@ -8,6 +8,8 @@
 
 #include <QLineEdit>
 #include <QPushButton>
+
+#include <gtest/gtest.h>
 
 namespace kt {
 namespace {
@@ -30,12 +32,13 @@ class InplaceEditMaskTest : public testing::Test {
     Grid.OnSetEditText = [this](TObject*, int col, int row, const QString& text) {
       FLog += QStringLiteral("set(%1,%2)=%3").arg(col).arg(row).arg(text);
     };
-    FOuter = SetExceptionHandler(
-        [this](std::exception_ptr error) { FLog += MessageOf<EDBEditError>([&] { std::rethrow_exception(error); }); });
+    Application().OnException = [this](TObject*, const Exception& error) {
+      FLog += dynamic_cast<const EDBEditError*>(&error) ? error.Message() : QStringLiteral("another error");
+    };
     FWindow = std::make_unique<TWindowProbe>(Grid);
     Grid.SetFocus();
   }
-  ~InplaceEditMaskTest() override { SetExceptionHandler(FOuter); }
+  ~InplaceEditMaskTest() override { Application().OnException = nullptr; }
 
   void EditAlways() { Grid.SetOptions(Grid.GetOptions() + TGridOptions{goAlwaysShowEditor}); }
   TInplaceEdit& Editor() { return *Grid.InplaceEditor(); }
@@ -53,7 +56,6 @@ class InplaceEditMaskTest : public testing::Test {
   std::unique_ptr<TGridProbe> FGrid = Make<TGridProbe>();
   TGridProbe& Grid = *FGrid;
   std::unique_ptr<TWindowProbe> FWindow;
-  TExceptionHandler FOuter;
   QStringList FLog;
 };
 
