@@ -40,6 +40,17 @@ int ErrorOfSync([[maybe_unused]] const QFileDevice& file) {
 #endif
 }
 
+/// Some file systems tell only at closing that bytes are lost. Closes a second handle, as committing does not listen
+/// when it closes the file's own; the system's error number, or 0.
+int ErrorOfClose([[maybe_unused]] const QFileDevice& file) {
+#ifdef Q_OS_UNIX
+  const int second = ::dup(file.handle());
+  return second >= 0 && ::close(second) == 0 ? 0 : errno;
+#else
+  return 0;
+#endif
+}
+
 /// A disk that fills up takes a part first; only the attempt to write the rest tells the reason.
 bool WriteAll(QFileDevice& file, QByteArrayView bytes) {
   while (!bytes.isEmpty()) {
@@ -86,8 +97,10 @@ void SaveBytesToFile(const QString& fileName, QByteArrayView bytes) {
   // Unbuffered: committing does not notice that its buffer could not be written in full.
   if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) RaiseFileError<EFCreateError>(SFCreateError, file);
   if (!WriteAll(file, bytes)) RaiseFileError<EWriteError>(SFWriteError, file);
-  // Committing does not notice this either.
-  if (const int error = ErrorOfSync(file)) RaiseFileError<EWriteError>(SFWriteError, file, qt_error_string(error));
+  // Committing does not notice these either.
+  const int syncError = ErrorOfSync(file);
+  const int error = syncError != 0 ? syncError : ErrorOfClose(file);
+  if (error != 0) RaiseFileError<EWriteError>(SFWriteError, file, qt_error_string(error));
   if (!file.commit()) RaiseFileError<EWriteError>(SFWriteError, file);
 }
 
