@@ -13,8 +13,17 @@ struct TNamedEncoding {
   kt::TEightBitEncoding Encoding;
 };
 
-constexpr std::array<TNamedEncoding, 3> kEncodings{{
+constexpr std::array<TNamedEncoding, 12> kEncodings{{
     {"windows-1252", kt::eeWindows1252},
+    {"windows-1250", kt::eeWindows1250},
+    {"windows-1251", kt::eeWindows1251},
+    {"windows-1253", kt::eeWindows1253},
+    {"windows-1254", kt::eeWindows1254},
+    {"windows-1255", kt::eeWindows1255},
+    {"windows-1256", kt::eeWindows1256},
+    {"windows-1257", kt::eeWindows1257},
+    {"windows-1258", kt::eeWindows1258},
+    {"windows-874", kt::eeWindows874},
     {"latin1", kt::eeLatin1},
     {"utf-8", kt::eeUtf8},
 }};
@@ -50,10 +59,15 @@ kt::TEightBitEncoding TakeEncoding(QStringList& arguments) {
   return encoding;
 }
 
-QString EncodingNames() {
-  QStringList names;
-  for (const TNamedEncoding& encoding : kEncodings) names << QString::fromLatin1(encoding.Name);
-  return names.join(QStringLiteral(", "));
+QString EncodingNames(qsizetype perLine) {
+  QString names;
+  qsizetype count = 0;
+  for (const TNamedEncoding& encoding : kEncodings) {
+    if (count > 0) names += perLine > 0 && count % perLine == 0 ? QStringLiteral(",\n") : QStringLiteral(", ");
+    names += QLatin1String(encoding.Name);
+    ++count;
+  }
+  return names;
 }
 
 }  // namespace ktform

@@ -11,7 +11,7 @@ namespace ktform {
 /// Throws EUsageError for a name that nobody knows, or none.
 kt::TEightBitEncoding TakeEncoding(QStringList& arguments);
 
-/// The names that it takes, for messages and the help.
-QString EncodingNames();
+/// The names that it takes, for messages and the help; in lines of so many, or in one.
+QString EncodingNames(qsizetype perLine = 0);
 
 }  // namespace ktform

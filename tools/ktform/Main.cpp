@@ -25,10 +25,11 @@ QString Usage() {
              "resource header before the form. set leaves a text file as it is but for the lines that change.\n"
              "\n--encoding says what bytes beyond ASCII mean in text that has no byte-order mark and is no valid "
              "UTF-8,\n"
-             "and in the 8-bit strings of binary forms: one of %1.\n"
-             "The first of them is taken when nothing is said; with utf-8 such bytes are an error.\n"
+             "and in the 8-bit strings of binary forms; it takes\n%1.\n"
+             "The first of them is taken when nothing is said; with utf-8 such bytes are an error. Code pages with\n"
+             "several bytes a character (Chinese, Japanese, Korean) are not known: turn such text into UTF-8 first.\n"
              "\nExit status: 0 done, 1 failed, 2 wrong usage.")
-             .arg(EncodingNames());
+             .arg(EncodingNames(7));
 }
 
 TExitStatus WrongUsage(const QString& what) {

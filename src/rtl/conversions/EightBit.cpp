@@ -1,16 +1,11 @@
 #include "kt/rtl/conversions/EightBit.h"
 
-#include <array>
+#include "kt/rtl/conversions/CodePages.h"
+
 #include <cstring>
 
 namespace kt {
 namespace {
-
-/// Bytes 128 to 159 of Windows-1252; from 160 on byte n is character n.
-constexpr std::array<char16_t, 32> kWindows1252{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
-                                                0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
-                                                0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
-                                                0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 /// Widens into `text` and tells whether all was ASCII.
 bool Widen(QByteArrayView bytes, QString& text) {
@@ -26,9 +21,9 @@ bool Widen(QByteArrayView bytes, QString& text) {
   return seen < 0x80;
 }
 
-void MapWindows1252(QString& text) {
+void MapUpperHalf(QString& text, const char16_t* characters) {
   for (QChar& c : text)
-    if (c.unicode() >= 0x80 && c.unicode() < 0xA0) c = QChar(kWindows1252[c.unicode() - 0x80]);
+    if (c.unicode() >= 0x80) c = QChar(characters[c.unicode() - 0x80]);
 }
 
 bool DecodeUtf8(QByteArrayView bytes, QString& text) {
@@ -78,13 +73,14 @@ qsizetype FindInvalidUtf8(QByteArrayView bytes) {
 bool DecodeEightBit(QByteArrayView bytes, TEightBitEncoding encoding, QString& text) {
   if (Widen(bytes, text)) return true;
   if (encoding == eeUtf8) return DecodeUtf8(bytes, text);
-  if (encoding == eeWindows1252) MapWindows1252(text);
+  if (const char16_t* characters = UpperHalfOf(encoding)) MapUpperHalf(text, characters);
   return true;
 }
 
 void DecodeName(QByteArrayView bytes, TEightBitEncoding encoding, QString& text) {
   if (Widen(bytes, text) || DecodeUtf8(bytes, text)) return;
-  if (encoding != eeLatin1) MapWindows1252(text);
+  const char16_t* characters = UpperHalfOf(encoding == eeUtf8 ? eeWindows1252 : encoding);
+  if (characters) MapUpperHalf(text, characters);
 }
 
 }  // namespace kt

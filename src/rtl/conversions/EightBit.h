@@ -8,10 +8,19 @@ namespace kt {
 /// How text with bytes from 128 up is read where a form does not say: old forms hold text in their author's 8-bit
 /// encoding.
 enum TEightBitEncoding : quint8 {
-  eeWindows1252,  ///< Western European; its five unassigned bytes become the C1 control of the same number, so nothing
-                  ///< is lost.
+  eeWindows1252,  ///< Western European. Here and below a byte without a character becomes that of the same number, so
+                  ///< nothing is lost.
   eeLatin1,       ///< Byte n is character n.
   eeUtf8,         ///< UTF-8; anything else is an error.
+  eeWindows1250,  ///< Central European.
+  eeWindows1251,  ///< Cyrillic.
+  eeWindows1253,  ///< Greek.
+  eeWindows1254,  ///< Turkish.
+  eeWindows1255,  ///< Hebrew.
+  eeWindows1256,  ///< Arabic.
+  eeWindows1257,  ///< Baltic.
+  eeWindows1258,  ///< Vietnamese.
+  eeWindows874,   ///< Thai.
 };
 
 /// Decodes into `text`, whose memory is used again. False when the bytes are not valid in that encoding.

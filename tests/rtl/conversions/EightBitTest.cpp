@@ -1,6 +1,10 @@
 #include "kt/rtl/conversions/EightBit.h"
 #include "support/FormTesting.h"
 
+#include <QSet>
+
+#include <numeric>
+
 namespace kt {
 namespace {
 
@@ -30,6 +34,62 @@ TEST(EightBitTest, UnassignedBytesBecomeControlsSoThatNothingIsLost) {
 }
 
 TEST(EightBitTest, Latin1IsTheByteItself) { EXPECT_EQ(QStringLiteral("\u0080\u00e9"), Decoded("\x80\xE9", eeLatin1)); }
+
+struct TCodePageCase {
+  const char* Name;
+  TEightBitEncoding Encoding;
+  const char* Bytes;
+  QString Text;
+};
+
+void PrintTo(const TCodePageCase& value, std::ostream* out) { *out << value.Name; }
+
+class EightBitCodePageTest : public ::testing::TestWithParam<TCodePageCase> {};
+
+TEST_P(EightBitCodePageTest, HasItsOwnLetters) {
+  EXPECT_EQ(GetParam().Text, Decoded(GetParam().Bytes, GetParam().Encoding));
+  EXPECT_EQ(GetParam().Text, DecodedName(GetParam().Bytes, GetParam().Encoding));
+}
+
+TEST_P(EightBitCodePageTest, LosesNothing) {
+  QByteArray bytes(256, Qt::Uninitialized);
+  std::iota(bytes.begin(), bytes.end(), char(0));
+  const QString text = Decoded(bytes, GetParam().Encoding);
+  EXPECT_EQ(256, QSet<QChar>(text.begin(), text.end()).size());
+  EXPECT_EQ(QString::fromLatin1(bytes.first(128)), text.first(128));
+}
+
+// Each word ends with the first or the last byte beyond ASCII that the page has a character for.
+INSTANTIATE_TEST_SUITE_P(Pages, EightBitCodePageTest,
+                         ::testing::Values(TCodePageCase{"Central", eeWindows1250, "\x8Alut\xFD \x9Er\xFF",
+                                                         QStringLiteral("\u0160lut\u00FD \u017Er\u02D9")},
+                                           TCodePageCase{"Cyrillic", eeWindows1251, "\xCF\xF0\xB8 \x80\xFF",
+                                                         QStringLiteral("\u041F\u0440\u0451 \u0402\u044F")},
+                                           TCodePageCase{"Western", eeWindows1252,
+                                                         "Stra\xDF"
+                                                         "e \x80\xFF",
+                                                         QStringLiteral("Stra\u00DFe \u20AC\u00FF")},
+                                           TCodePageCase{"Greek", eeWindows1253, "\xC1\xF9\xB6 \x80\xFE",
+                                                         QStringLiteral("\u0391\u03C9\u00B6 \u20AC\u03CE")},
+                                           TCodePageCase{
+                                               "Turkish", eeWindows1254, "\xDD\xFD\xDE\xFE\xD0\xF0 \x80\xFF",
+                                               QStringLiteral("\u0130\u0131\u015E\u015F\u011E\u011F \u20AC\u00FF")},
+                                           TCodePageCase{"Hebrew", eeWindows1255, "\xF9\xEC\xE5\xED \xA4",
+                                                         QStringLiteral("\u05E9\u05DC\u05D5\u05DD \u20AA")},
+                                           TCodePageCase{"Arabic", eeWindows1256, "\xD3\xE1\xC7\xE3 \x81\xFF",
+                                                         QStringLiteral("\u0633\u0644\u0627\u0645 \u067E\u06D2")},
+                                           TCodePageCase{"Baltic", eeWindows1257, "\xE8\xF0\xFE \x80\xFF",
+                                                         QStringLiteral("\u010D\u0161\u017E \u20AC\u02D9")},
+                                           TCodePageCase{"Vietnamese", eeWindows1258, "\xD0\xF5\xFE \xCC",
+                                                         QStringLiteral("\u0110\u01A1\u20AB \u0300")},
+                                           TCodePageCase{"Thai", eeWindows874, "\xE4\xB7\xC2 \x80\xFB",
+                                                         QStringLiteral("\u0E44\u0E17\u0E22 \u20AC\u0E5B")}),
+                         [](const auto& page) { return page.param.Name; });
+
+TEST(EightBitTest, AByteWithoutACharacterBecomesThatOfTheSameNumber) {
+  EXPECT_EQ(QStringLiteral("\u00AA\u00D2\u00FF"), Decoded("\xAA\xD2\xFF", eeWindows1253));
+  EXPECT_EQ(QStringLiteral("\u0098"), Decoded("\x98", eeWindows1251));
+}
 
 TEST(EightBitTest, Utf8MustBeValid) {
   EXPECT_EQ(QStringLiteral("\u00e9"), Decoded("\xC3\xA9", eeUtf8));

@@ -68,6 +68,18 @@ TEST_F(KtFormEncodingTest, SetWritesInTheEncodingThatItReads) {
   EXPECT_EQ("object A: TA\n  X = #8364\nend\n", Content("b.dfm"));
 }
 
+TEST_F(KtFormEncodingTest, CyrillicTextIsReadAndWrittenInItsCodePage) {
+  Write("a.dfm", "object A: TA\n  X = '\xC4\xE0'\n  Y = 1\nend\n");
+  EXPECT_EQ("object A: TA\n  X = #1044#1072\n  Y = 1\nend\n", ToText({"--encoding=windows-1251", "a.dfm"}));
+  EXPECT_EQ(0,
+            Run({"set", "--encoding=windows-1251", "a.dfm", "a.dfm", QStringLiteral("X=\u041D\u0435\u0442")}).Status);
+  EXPECT_EQ("object A: TA\n  X = '\xCD\xE5\xF2'\n  Y = 1\nend\n", Content("a.dfm"));
+}
+
+TEST_F(KtFormEncodingTest, StringsOfABinaryFormAreReadInItsCodePage) {
+  EXPECT_EQ("object A: TA\n  X = #1026#1081\nend\n", ToText({"--encoding=windows-1251", "a.bin"}));
+}
+
 TEST_F(KtFormEncodingTest, AnUnknownNameIsWrongUsage) {
   const TRun run = Run({"check", "--encoding", "morse", "a.dfm"});
   EXPECT_EQ(2, run.Status);
@@ -81,7 +93,9 @@ TEST_F(KtFormEncodingTest, AMissingNameIsWrongUsage) {
 }
 
 TEST_F(KtFormEncodingTest, TheHelpNamesTheEncodings) {
-  EXPECT_TRUE(Run({"--help"}).Output.contains("one of windows-1252, latin1, utf-8"));
+  const QByteArray help = Run({"--help"}).Output;
+  EXPECT_TRUE(help.contains("it takes\nwindows-1252, windows-1250, windows-1251, ")) << help.data();
+  EXPECT_TRUE(help.contains("windows-1258, windows-874, latin1, utf-8.\n")) << help.data();
 }
 
 }  // namespace
