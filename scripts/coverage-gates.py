@@ -11,10 +11,14 @@ from pathlib import PurePosixPath
 # Folder: percent of lines, percent of branches. A folder counts with everything below it.
 GATES = {
     "src/rtl": (95.0, 85.0),
-    "src/rtl/streams": (98.0, 95.0),
+    "the stream parsers": (98.0, 95.0),
     "src/vcl": (90.0, 75.0),
     "the product": (90.0, 80.0),
 }
+# What reads bytes that nobody vouches for. The other files of the folder put values into objects, and have many casts and
+# asserts, each a branch of which one side cannot be.
+PARSERS = re.compile(
+    r"src/rtl/streams/(Binary(FormParser|Format|Reader)|ByteSource|Form(Conversion|Numbers|Path)|Text(Encoding|Lexer|Parser))\.")
 KEYS = ("line_covered", "line_total", "branch_covered", "branch_total")
 WORST_FILES = 15
 
@@ -29,6 +33,8 @@ def folders_of(source):
     folders = [str(parent) for parent in PurePosixPath(source).parents if str(parent).startswith("src/")]
     if re.match(r"src/(KT|ktcommon)", source):
         folders.append("the product")
+    if PARSERS.match(source):
+        folders.append("the stream parsers")
     return folders
 
 
