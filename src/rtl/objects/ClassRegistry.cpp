@@ -1,6 +1,7 @@
 #include "kt/rtl/objects/ClassRegistry.h"
 
 #include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/conversions/Text.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/objects/Persistent.h"
@@ -27,7 +28,7 @@ TRegistry& Registry() {
 bool AddClass(const TClassInfo* classInfo) {
   TRegistry& registry = Registry();
   const std::lock_guard lock(registry.Mutex);
-  const TClassInfo*& entry = registry.Classes[classInfo->ClassName().toLower()];
+  const TClassInfo*& entry = registry.Classes[LowerCase(classInfo->ClassName())];
   if (entry == classInfo) return false;
   if (entry) throw EFilerError(Format(SDuplicateClass, {classInfo->ClassName()}));
   entry = classInfo;
@@ -49,7 +50,7 @@ void RegisterClasses(std::initializer_list<const TClassInfo*> classInfos) {
 void UnRegisterClass(const TClassInfo* classInfo) {
   TRegistry& registry = Registry();
   const std::lock_guard lock(registry.Mutex);
-  const auto entry = registry.Classes.find(classInfo->ClassName().toLower());
+  const auto entry = registry.Classes.find(LowerCase(classInfo->ClassName()));
   if (entry != registry.Classes.end() && *entry == classInfo) registry.Classes.erase(entry);
 }
 
@@ -60,7 +61,7 @@ void UnRegisterClasses(std::initializer_list<const TClassInfo*> classInfos) {
 const TClassInfo* GetClass(QStringView name) {
   TRegistry& registry = Registry();
   const std::lock_guard lock(registry.Mutex);
-  return registry.Classes.value(name.toString().toLower());
+  return registry.Classes.value(LowerCase(name));
 }
 
 const TClassInfo* FindClass(QStringView name) {

@@ -14,7 +14,7 @@ int TOwnedComponents::IndexOf(const TComponent* component) const {
 
 TComponent* TOwnedComponents::Find(QStringView name) const {
   EnsureIndex();
-  const auto entry = FByName.find(name.toString().toLower());
+  const auto entry = FByName.find(LowerCase(name));
   return entry == FByName.end() ? nullptr : entry->second;
 }
 
@@ -65,7 +65,7 @@ const std::vector<TComponent*>& TOwnedComponents::Listeners() {
 }
 
 void TOwnedComponents::Renamed(TComponent* component, const QString& from, const QString& to) {
-  if (from.toLower() == to.toLower()) return;
+  if (SameText(from, to)) return;
   IndexName(component, to);
   ForgetName(component, from);
 }
@@ -82,7 +82,7 @@ void TOwnedComponents::EnsureIndex() const {
   bool hasEqualNames = false;
   for (TComponent* component : FList) {
     if (component->GetName().isEmpty()) continue;
-    hasEqualNames |= !byName.try_emplace(component->GetName().toLower(), component).second;
+    hasEqualNames |= !byName.try_emplace(LowerCase(component->GetName()), component).second;
   }
   FByName.swap(byName);
   FHasEqualNames = hasEqualNames;
@@ -91,13 +91,13 @@ void TOwnedComponents::EnsureIndex() const {
 
 void TOwnedComponents::IndexName(TComponent* component, const QString& name) {
   if (name.isEmpty() || !FIsIndexed) return;
-  const bool isNew = FByName.try_emplace(name.toLower(), component).second;
+  const bool isNew = FByName.try_emplace(LowerCase(name), component).second;
   if (!isNew) FHasEqualNames = true;
 }
 
 void TOwnedComponents::ForgetName(TComponent* component, const QString& name) {
   if (!FIsIndexed) return;
-  const auto entry = FByName.find(name.toLower());
+  const auto entry = FByName.find(LowerCase(name));
   if (name.isEmpty() || entry == FByName.end() || entry->second != component) return;
   if (!FHasEqualNames) {
     FByName.erase(entry);

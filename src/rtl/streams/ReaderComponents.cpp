@@ -89,6 +89,8 @@ TComponent* TReader::AtPlace(qint64 offset, const TFormObjectHeader& header, con
     throw EClassNotFound(AtOffset(error.Message(), offset, PlaceOf(header)));
   } catch (const EComponentError& error) {
     throw EComponentError(AtOffset(error.Message(), offset, PlaceOf(header)));
+  } catch (const EInvalidCast& error) {
+    throw EInvalidCast(AtOffset(error.Message(), offset, PlaceOf(header)));
   } catch (const EReadError& error) {
     throw EReadError(AtOffset(error.Message(), offset, PlaceOf(header)));
   }
@@ -175,23 +177,23 @@ void TReader::SetComponentName(TComponent* component, QString name) {
   if (OnSetName) OnSetName(component, name);
   CheckNothingLost();
   // A stand-in gives back what it was given, whatever makes a good name here.
-  if (dynamic_cast<TUnknownComponent*>(component)) return component->ChangeName(name);
+  if (AsUnknown(component)) return component->ChangeName(name);
   if (!name.isEmpty()) component->SetName(name);
 }
 
 /// Tells a component its parent, and remembers where a stand-in belongs.
 void TReader::PlaceChild(TComponent* child, const TFormObjectHeader& header) {
-  if (auto* unknownParent = dynamic_cast<TUnknownComponent*>(FParent)) {
+  if (auto* unknownParent = AsUnknown(FParent)) {
     EnsureKeptData(child).StandInParent = unknownParent;
     unknownParent->FChildren.push_back(child);
   }
-  auto* unknown = dynamic_cast<TUnknownComponent*>(child);
+  auto* unknown = AsUnknown(child);
   if (!unknown) {
     if (!header.Flags.testFlag(ffInherited)) child->SetParentComponent(FParent);
     return;
   }
   unknown->FStreamParent = FParent;
-  if (FParent && !dynamic_cast<TUnknownComponent*>(FParent)) {
+  if (FParent && !AsUnknown(FParent)) {
     EnsureKeptData(FParent).Children.push_back({FChildIndex, unknown});
   }
 }

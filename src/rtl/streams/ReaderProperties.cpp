@@ -38,7 +38,7 @@ void TReader::ReadProperty(TPersistent* instance) {
   const TPropPath place{instance, path, FInput.Position()};
   const TPropPath outer = std::exchange(FPropPath, place);
   try {
-    if (dynamic_cast<TUnknownComponent*>(instance)) {
+    if (AsUnknown(instance)) {
       KeepProperty();
     } else {
       ReadPropertyPath(instance, path);

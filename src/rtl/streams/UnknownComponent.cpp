@@ -28,6 +28,11 @@ void TUnknownComponent::GetChildren(const TGetChildProc& proc, TComponent*) {
   for (TComponent* child : std::vector(FChildren)) proc(child);
 }
 
+TUnknownComponent* AsUnknown(TObject* object) {
+  const bool isUnknown = object && object->InheritsFrom(TUnknownComponent::Class());
+  return isUnknown ? static_cast<TUnknownComponent*>(object) : nullptr;
+}
+
 void ForgetStandIns(TPersistent* object) {
   const TKeptData* kept = FindKeptData(object);
   if (!kept) return;

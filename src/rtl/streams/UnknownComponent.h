@@ -39,6 +39,10 @@ class TUnknownComponent : public TComponent {
   std::vector<TComponent*> FChildren;
 };
 
+/// The object as a stand-in; null when it is none, or null. Asked for each property that is read, where dynamic_cast
+/// takes a fifth of the time.
+TUnknownComponent* AsUnknown(TObject* object);
+
 /// Takes an object that is being destroyed from the stand-ins that know it, and forgets what was kept for it. Every
 /// persistent object does this.
 void ForgetStandIns(TPersistent* object);

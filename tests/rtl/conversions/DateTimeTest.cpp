@@ -123,6 +123,21 @@ TEST(DateTimeTest, AMomentFallsApartIntoDateAndTime) {
   EXPECT_EQ(-2.75, ComposeDateTime(-2, 0.75));
 }
 
+TEST(DateTimeTest, AMomentFallsApartIntoSingleNumbersToo) {
+  const TDateTime value = EncodeDate(2006, 7, 8) + EncodeTime(13, 14, 15, 16);
+  int year = 0;
+  int month = 0;
+  int day = 0;
+  DecodeDate(value, year, month, day);
+  EXPECT_EQ("2006-7-8", QStringLiteral("%1-%2-%3").arg(year).arg(month).arg(day));
+  int hour = 0;
+  int minute = 0;
+  int second = 0;
+  int msec = 0;
+  DecodeTime(value, hour, minute, second, msec);
+  EXPECT_EQ("13:14:15.16", QStringLiteral("%1:%2:%3.%4").arg(hour).arg(minute).arg(second).arg(msec));
+}
+
 TEST(DateTimeTest, ReplacingTheDateKeepsTheTime) {
   TDateTime value = 100.25;
   ReplaceDate(value, -3.5);

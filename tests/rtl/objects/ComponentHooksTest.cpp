@@ -133,5 +133,28 @@ TEST_F(ComponentHooksTest, AComponentThatIsConstructedAsksInItsConstruction) {
   EXPECT_EQ(QStringLiteral("-.container(O) O.insert(-) O.rename(- ->-)"), TStrict::Take());
 }
 
+/// Takes every name.
+class TLax : public TComponent {
+ public:
+  using Inherited = TComponent;
+
+ protected:
+  explicit TLax(TComponent* owner = nullptr) : TComponent(owner) {}
+  void ValidateRename(TComponent*, const QString&, const QString&) override {}
+};
+
+TEST_F(ComponentHooksTest, WhereEqualNamesAreAllowedTheNextOfThemIsFoundWhenOneGoes) {
+  const auto owner = Make<TLax>();
+  auto* first = New<TLax>(owner.get());
+  auto* second = New<TLax>(owner.get());
+  first->SetName(QStringLiteral("Same"));
+  second->SetName(QStringLiteral("SAME"));
+  EXPECT_EQ(first, owner->FindComponent(u"same"));
+  delete first;
+  EXPECT_EQ(second, owner->FindComponent(u"same"));
+  second->SetName(QStringLiteral("Other"));
+  EXPECT_EQ(nullptr, owner->FindComponent(u"same"));
+}
+
 }  // namespace
 }  // namespace kt

@@ -64,6 +64,8 @@ TEST(FormConversionTest, AResourceBecomesText) {
   EXPECT_EQ(kText, text);
 }
 
+TEST(FormConversionTest, AResourceHasTheEventsOfItsForm) { EXPECT_EQ(Events(kText), Events(Resource())); }
+
 TEST(FormConversionTest, APaddedResourceBecomesText) {
   QByteArray text;
   ObjectResourceToText(Resource() + QByteArray(3, '\0'), text);

@@ -141,6 +141,43 @@ TEST_F(RoundTripTest, ADescendantWritesOnlyWhatDiffersFromItsAncestor) {
       TextOf(writer.Data()));
 }
 
+TEST_F(RoundTripTest, ADescendantDoesNotWriteTheHandlerThatItInherits) {
+  const auto ancestor = Make<TSample>();
+  TReader(BinaryOf("object Form1: TSample\n  OnAction = HandleAction\nend\n")).ReadRootComponent(ancestor.get());
+  const auto descendant = Copy(ancestor.get());
+  TWriter same;
+  same.WriteRootComponent(descendant.get(), ancestor.get());
+  EXPECT_EQ("inherited Form1: TSample\nend\n", TextOf(same.Data()));
+  ancestor->OnAction = {};
+  TWriter different;
+  different.WriteRootComponent(descendant.get(), ancestor.get());
+  EXPECT_EQ("inherited Form1: TSample\n  OnAction = HandleAction\nend\n", TextOf(different.Data()));
+}
+
+TEST_F(RoundTripTest, ADescendantWritesThatItHasNoObjectWhereItsAncestorHas) {
+  const auto ancestor = Make<TSample>();
+  ancestor->SetName(QStringLiteral("Form1"));
+  const auto partner = Make<TSample>();
+  partner->SetName(QStringLiteral("Other"));
+  const auto descendant = Copy(ancestor.get());
+  ancestor->Partner = partner.get();
+  TWriter writer;
+  writer.WriteRootComponent(descendant.get(), ancestor.get());
+  EXPECT_EQ("inherited Form1: TSample\n  Partner = nil\nend\n", TextOf(writer.Data()));
+  ancestor->Partner = nullptr;
+}
+
+TEST_F(RoundTripTest, AReferenceIntoAnotherComponentIsAPathOfOwners) {
+  const auto sample = Make<TSample>();
+  sample->SetName(QStringLiteral("Form1"));
+  auto* frame = New<TSample>(sample.get());
+  frame->SetName(QStringLiteral("Frame"));
+  auto* button = New<TSample>(frame);
+  button->SetName(QStringLiteral("Button"));
+  sample->Partner = button;
+  EXPECT_NE(std::string::npos, TextOf(sample.get()).find("\n  Partner = Frame.Button\n"));
+}
+
 TEST_F(RoundTripTest, ADescendantsChildrenAreInheritedOrNew) {
   const auto ancestor = Make<TSample>();
   ancestor->SetName(QStringLiteral("Form1"));

@@ -1,6 +1,8 @@
 #include "kt/rtl/streams/TextParser.h"
 #include "support/FormTesting.h"
 
+#include <QStringConverter>
+
 namespace kt {
 namespace {
 
@@ -173,16 +175,18 @@ INSTANTIATE_TEST_SUITE_P(
 
 INSTANTIATE_TEST_SUITE_P(
     Encodings, TextParserErrorTest,
-    ::testing::Values(TCase{"Nul", QByteArray("object A: TA\n  X\0\nend", 21), "Invalid character on line 2, column 4"},
-                      TCase{"InvalidUtf8BehindAMark", "\xEF\xBB\xBFobject A: TA\n X = '\xC3('\nend",
-                            "Invalid UTF-8 text on line 2, column 7"},
-                      TCase{"OddUtf16", QByteArray("\xFF\xFEo\0b", 5), "Invalid UTF-16 text on line 1, column 2"},
-                      TCase{"LoneSurrogate", QByteArray("\xFE\xFF\0\n\xD8\0\0x", 8),
-                            "Invalid UTF-16 text on line 2, column 1"},
-                      TCase{"ColumnsAreCharacters", "object A: TA X = '\xC3\xA9\xC3\xA9' 5",
-                            "Identifier expected on line 1, column 23"},
-                      TCase{"CarriageReturnsCount", "object A: TA\r\r  5", "Identifier expected on line 3, column 3"},
-                      TCase{"PairsCountOnce", "object A: TA\r\n\r\n  5", "Identifier expected on line 3, column 3"}),
+    ::testing::Values(
+        TCase{"Nul", QByteArray("object A: TA\n  X\0\nend", 21), "Invalid character on line 2, column 4"},
+        TCase{"InvalidUtf8BehindAMark", "\xEF\xBB\xBFobject A: TA\n X = '\xC3('\nend",
+              "Invalid UTF-8 text on line 2, column 7"},
+        TCase{"OddUtf16", QByteArray("\xFF\xFEo\0b", 5), "Invalid UTF-16 text on line 1, column 2"},
+        TCase{"LoneSurrogate", QByteArray("\xFE\xFF\0\n\xD8\0\0x", 8), "Invalid UTF-16 text on line 2, column 1"},
+        TCase{"SecondOfAPairFirst", QByteArray("\xFF\xFEo\0\x00\xDC", 6), "Invalid UTF-16 text on line 1, column 2"},
+        TCase{"FirstOfAPairAtTheEnd", QByteArray("\xFF\xFEo\0\x3D\xD8", 6), "Invalid UTF-16 text on line 1, column 2"},
+        TCase{"ColumnsAreCharacters", "object A: TA X = '\xC3\xA9\xC3\xA9' 5",
+              "Identifier expected on line 1, column 23"},
+        TCase{"CarriageReturnsCount", "object A: TA\r\r  5", "Identifier expected on line 3, column 3"},
+        TCase{"PairsCountOnce", "object A: TA\r\n\r\n  5", "Identifier expected on line 3, column 3"}),
     CaseName);
 
 TEST(TextParserTest, ReadsHeadersOfEveryKind) {
@@ -235,6 +239,17 @@ TEST(TextParserTest, Utf16IsReadInBothOrders) {
   const QByteArray big("\xFE\xFF\0o\0b\0j\0e\0c\0t\0 \0\xE9\0 \0e\0n\0d", 26);
   EXPECT_EQ(QStringLiteral("object : \u00e9 | end object"), Events(little));
   EXPECT_EQ(QStringLiteral("object : \u00e9 | end object"), Events(big));
+}
+
+TEST(TextParserTest, Utf16MayHavePairs) {
+  QStringEncoder encoder(QStringConverter::Utf16LE, QStringConverter::Flag::WriteBom);
+  const QByteArray form = encoder.encode(QString::fromUtf8(FormWith("'\xF0\x9F\x98\x80'")));
+  EXPECT_EQ(QStringLiteral("string 2 \U0001F600"), ValuePart(Events(form)));
+}
+
+TEST(TextParserTest, NamesMayHaveLettersOfEveryLength) {
+  const QByteArray text("object \xE4\xB8\xAD\xF0\xA0\x80\x80: T\xC3\xA9\xE4\xB8\xAD\nend\n");
+  EXPECT_EQ(text, ToText(ToBinary(text)));
 }
 
 TEST(TextParserTest, AStringMayBeVeryLong) {

@@ -45,6 +45,17 @@ TEST_F(UndoLogTest, LinesComeBackWithTheirObjects) {
   EXPECT_EQ(FRoom.get(), FRoom->GetLines().GetObjects(1));
 }
 
+TEST_F(UndoLogTest, ObjectsComeBackAlsoWhereTheLinesAreTheSame) {
+  EXPECT_EQ(kFailed, FailAfter("  Lines.Strings = ('one' 'two')"));
+  EXPECT_EQ(FRoom.get(), FRoom->GetLines().GetObjects(1));
+}
+
+TEST_F(UndoLogTest, ASilentEndIsNoErrorOfThePropertyAndIsUndoneAsWell) {
+  FRoom->OnSetFragile = [] { throw EAbort(QStringLiteral("stop")); };
+  EXPECT_EQ(u"stop", ReadOver(BinaryOf("object Changed: TRoom\n  Whole = 99\n  Fragile = 1\nend\n")));
+  EXPECT_EQ(FBefore, TextOf(FRoom.get()));
+}
+
 TEST_F(UndoLogTest, WhatASetterChangesBesideItsOwnPropertyComesBackToo) {
   EXPECT_EQ(kFailed, FailAfter("  Shade = 3"));
   EXPECT_TRUE(FRoom->IsFollowing());
