@@ -386,6 +386,8 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   bool HoldsBackName(const QString& value);
 
   std::unique_ptr<TKTItemProps> FItems;
+  /// Stands for an object that an item does without, while that item is written.
+  std::unique_ptr<TPersistent> FStandIn;
   std::unique_ptr<TKTItemStrings> FStrings;
   std::unique_ptr<TStringList> FTitleCaptions;
   std::unique_ptr<TKTCustomDeltaFont> FValueFont;

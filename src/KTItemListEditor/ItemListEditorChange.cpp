@@ -12,8 +12,10 @@ int TKTCustomItemListEditor::InsertItem(const QString& name, const QString& valu
   const int line = GetGridCount(gcCurrentLine);
   const int fixed = GetGridCount(gcFixedLines);
   if (line <= GetVisibleItemCount() && IsEmptyItem()) {
-    SetPropNames(line - fixed, name);
-    SetPropValues(line - fixed, value);
+    // The value goes to the item that gets the name, wherever that takes it.
+    TItemWatch reused(GetSelected());
+    reused->SetName(name);
+    if (reused) reused->SetValueLine(0, value);
     return line;
   }
   // The number of the line counts rows; at the top level there may be fewer items.

@@ -64,8 +64,8 @@ int TKTCustomItemListEditor::IndexOfName(TStrings& strings, int startIndex, cons
 TKTItemProp* TKTCustomItemListEditor::GetSelected() const { return FindItemProp(GetCol(), GetRow(), true); }
 
 void TKTCustomItemListEditor::SetSelected(TKTItemProp* item) {
-  if (!item) return HideEditor();
   if (item == GetSelected()) return;
+  if (!item) return HideEditor();
   const TItemWatch selected(item);
   for (TItemWatch parent(item->GetParent()); parent;) {
     parent->Expand();

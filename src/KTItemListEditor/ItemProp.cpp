@@ -7,7 +7,10 @@
 #include "kt/KTItemListEditor/ItemRows.h"
 #include "kt/KTItemListEditor/ItemWatch.h"
 #include "kt/rtl/conversions/Text.h"
+#include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
+
+#include <vector>
 
 namespace kt {
 
@@ -32,7 +35,7 @@ const TClassInfo* TKTItemProp::Class() {
                                      .Default(true)
                                      .Property<&T::GetName, &T::SetName>("Name")
                                      .Property<&T::GetValue, &T::SetValue>("Value")
-                                     .Property<&T::GetValues, &T::SetValues>("Values")
+                                     .Property<&T::GetPublishedValues, &T::SetValues>("Values")
                                      .Property<&T::GetHint, &T::SetHint>("Hint")
                                      .Property<&T::IsReadOnly, &T::SetReadOnly>("ReadOnly")
                                      .Default(false)
@@ -49,7 +52,7 @@ const TClassInfo* TKTItemProp::Class() {
                                      .Property<&T::GetPickList, &T::SetPickList>("PickList")
                                      .Stored(&T::HasPickList)
                                      .Property<&T::GetExpressionMask, &T::SetExpressionMask>("ExpressionMask")
-                                     .Property<&T::GetItems, &T::SetItems>("Items")
+                                     .Property<&T::GetPublishedItems, &T::SetItems>("Items")
                                      .Property<&T::GetTag, &T::SetTag>("Tag")
                                      .Creatable()
                                      .Done();
@@ -65,6 +68,29 @@ void TKTItemProp::Construct() {
   SetVisible(true);
   // Last, so that whoever hears of the new item finds it complete.
   TCollectionItem::Construct();
+}
+
+void TKTItemProp::BeforeDestruction() {
+  TCollectionItem::BeforeDestruction();
+  if (TObjectLife::IsDeep() && HasItems()) FreeItemsFromLeaves();
+}
+
+/// What an item tells climbs from parent to parent, in time and stack in proportion to its level: so deep down nobody
+/// is told, and the lists lose all of it in one step.
+void TKTItemProp::FreeItemsFromLeaves() {
+  TKTCustomItemListEditor* editor = GetEditor();
+  if (editor && !editor->HasState(csDestroying)) GuardedCall([&] { editor->UpdatingItemProp(this); });
+  TItemRows::LeaveBelow(*this);
+  std::vector<std::unique_ptr<TKTItemProps>> levels;
+  levels.push_back(std::move(FItems));
+  for (size_t i = 0; i < levels.size(); ++i) {
+    TKTItemProps& items = *levels[i];
+    items.FOwnerItem = nullptr;
+    for (int j = 0; j < items.GetCount(); ++j) {
+      if (items.GetItem(j)->FItems) levels.push_back(std::move(items.GetItem(j)->FItems));
+    }
+  }
+  while (!levels.empty()) levels.pop_back();
 }
 
 void TKTItemProp::Destruct() {
@@ -146,11 +172,19 @@ TItemSpan TKTItemProp::Span() const {
 
 TKTItemProps& TKTItemProp::EnsureItems() {
   if (!FItems) {
-    TKTCustomItemListEditor* editor = GetEditor();
-    FItems = editor ? editor->CreateItems(this) : CreateItems();
-    FItems->StoreSorted(FSortsItems);
+    FItems = MakeItems();
+    // It is stale, too, where everything at its level is.
+    const TKTItemProps* level = GetCollection();
+    FItems->FAllStale = FItems->FIsStaleBelow = level && level->FIsStaleBelow;
   }
   return *FItems;
+}
+
+std::unique_ptr<TKTItemProps> TKTItemProp::MakeItems() {
+  TKTCustomItemListEditor* editor = GetEditor();
+  std::unique_ptr<TKTItemProps> items = editor ? editor->CreateItems(this) : CreateItems();
+  items->StoreSorted(FSortsItems);
+  return items;
 }
 
 std::unique_ptr<TKTItemProps> TKTItemProp::CreateItems() { return Make<TKTItemProps>(this, TKTItemProp::Class()); }

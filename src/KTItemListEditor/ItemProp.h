@@ -139,6 +139,9 @@ class TKTItemProp : public TCollectionItem {
   explicit TKTItemProp(TCollection* collection);
 
   void Construct() override;
+  /// Deep inside other destructions everything below goes at once, from the leaves, and without a word to anybody
+  /// above.
+  void BeforeDestruction() override;
   void Destruct() override;
 
   // What descendants can override, in its fixed order.
@@ -235,6 +238,15 @@ class TKTItemProp : public TCollectionItem {
   /// What few items have.
   TRare& Rare();
   TKTItemProps& EnsureItems();
+  std::unique_ptr<TKTItemProps> MakeItems();
+  std::unique_ptr<TKTItemPropValueStrings> MakeValues();
+  void FreeItemsFromLeaves();
+  void TellItemsReplaced();
+  // What is published. An item that is written for the first time does not keep the lists that it is asked for.
+  TKTItemPropValueStrings& GetPublishedValues();
+  TKTItemProps& GetPublishedItems();
+  template <class T, class F>
+  T* StandIn(F make);
   void FontChanged(TObject* sender);
   void ValuesChanged(TObject*);
   void TellParentFontChanged(TKTItemProp* source);

@@ -1,3 +1,4 @@
+#include "kt/KTItemListEditor/ItemListEditor.h"
 #include "kt/KTItemListEditor/ItemPropRare.h"
 #include "kt/KTItemListEditor/ItemPropValueStrings.h"
 #include "kt/KTItemListEditor/ItemProps.h"
@@ -77,10 +78,18 @@ void TKTItemProp::AssignItems(TKTItemProp& source) {
   if (source.FItems) {
     SetItems(*source.FItems);
   } else if (FItems) {
-    FItems->GetCategories().Clear();
-    if (self) FItems->Clear();
-    if (self) FItems->StoreSorted(FSortsItems);
+    SetItems(*source.MakeItems());
+  } else {
+    TellItemsReplaced();
   }
+}
+
+/// What the copying of no items would tell, if there were collections.
+void TKTItemProp::TellItemsReplaced() {
+  const TItemWatch self(this);
+  TKTCustomItemListEditor* editor = GetEditor();
+  if (editor && !editor->IsEditUpdateLocked()) editor->UpdatingItemProp(nullptr);
+  if (self) UpdateItemProp(nullptr);
 }
 
 }  // namespace kt

@@ -21,10 +21,15 @@ QString AsLine(const QString& text) { return text.isNull() ? QStringLiteral("") 
 
 }  // namespace
 
-TKTItemPropValueStrings& TKTItemProp::GetValues() {
-  if (FValues) return *FValues;
+std::unique_ptr<TKTItemPropValueStrings> TKTItemProp::MakeValues() {
   auto values = Make<TKTItemPropValueStrings>(*this);
   if (!FSingleValue.isNull()) values->Add(FSingleValue);
+  return values;
+}
+
+TKTItemPropValueStrings& TKTItemProp::GetValues() {
+  if (FValues) return *FValues;
+  auto values = MakeValues();
   values->OnChange = {this, &TKTItemProp::ValuesChanged};
   FSingleValue = QString();
   FValues = std::move(values);

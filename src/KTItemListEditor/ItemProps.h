@@ -154,6 +154,8 @@ class TKTItemProps : public TOwnedCollection {
   bool FSorted = false;
   /// All items may take other rows than the counts say.
   bool FAllStale = false;
+  /// So may all items below them, at every level.
+  bool FIsStaleBelow = false;
   TKTItemProp* FDefaultCategory = nullptr;
   std::unique_ptr<TStringList> FCategories;
   QString FDefaultCategoryName;

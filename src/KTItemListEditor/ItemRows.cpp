@@ -3,6 +3,10 @@
 #include "kt/KTItemListEditor/ItemProps.h"
 #include "kt/KTItemListEditor/ItemSums.h"
 
+#include <QVarLengthArray>
+
+#include <vector>
+
 namespace kt {
 
 void TItemRows::AddUp(TKTItemProp& item, TItemSpan change) {
@@ -35,6 +39,13 @@ void TItemRows::Leave(TKTItemProp& item) {
   if (items->FStale == &item) items->FStale = nullptr;
 }
 
+void TItemRows::LeaveBelow(TKTItemProp& item) {
+  if (!item.FIsCounted) return;
+  const TItemSpan below{item.FItems->FSpan.Items, item.FRows > 1 ? item.FRows - 1 : 0};
+  AddUp(item, -below);
+  item.FRows -= below.Rows;
+}
+
 void TItemRows::EnterAgain(TKTItemProp& item) {
   if (!item.FIsCounted) Enter(item);
   Settle(item);
@@ -54,12 +65,19 @@ void TItemRows::MarkStale(TKTItemProp& item) {
   }
 }
 
+// Trees are as deep as their builders like: no recursion where an item is moved with all below it.
+
 void TItemRows::MarkAllStale(TKTItemProps& items) {
-  if (items.GetCount() == 0) return;
-  items.FAllStale = true;
   if (items.FOwnerItem) MarkStale(*items.FOwnerItem);
-  for (int i = 0; i < items.GetCount(); ++i) {
-    if (TKTItemProps* below = items.GetItem(i)->FItems.get()) MarkAllStale(*below);
+  std::vector<TKTItemProps*> pending{&items};
+  while (!pending.empty()) {
+    TKTItemProps& next = *pending.back();
+    pending.pop_back();
+    if (next.FIsStaleBelow) continue;
+    next.FAllStale = next.FIsStaleBelow = true;
+    for (int i = 0; i < next.GetCount(); ++i) {
+      if (TKTItemProps* below = next.GetItem(i)->FItems.get()) pending.push_back(below);
+    }
   }
 }
 
@@ -69,7 +87,6 @@ int TItemRows::WantedRows(TKTItemProp& item) {
 }
 
 void TItemRows::RecountOne(TKTItemProp& item) {
-  if (item.FItems) Recount(*item.FItems);
   const TItemSpan change{0, WantedRows(item) - item.FRows};
   TKTItemProps* items = item.GetCollection();
   item.FRows += change.Rows;
@@ -82,21 +99,37 @@ void TItemRows::RecountAll(TKTItemProps& items) {
   int rows = 0;
   for (int i = 0; i < items.GetCount(); ++i) {
     TKTItemProp& item = *items.GetItem(i);
-    if (item.FItems) Recount(*item.FItems);
     item.FRows = WantedRows(item);
     rows += item.FRows;
   }
   items.FSpan.Rows = rows;
 }
 
+bool TItemRows::IsStale(const TKTItemProps* items) { return items && (items->FAllStale || items->FStale); }
+
 void TItemRows::Recount(TKTItemProps& items) {
-  if (items.FAllStale) {
-    RecountAll(items);
-  } else if (items.FStale) {
-    RecountOne(*items.FStale);
+  if (!IsStale(&items)) return;
+  // Parents before what is below them; counted are the lowest first.
+  QVarLengthArray<TKTItemProps*, 32> stale{&items};
+  for (qsizetype i = 0; i < stale.size(); ++i) {
+    TKTItemProps& next = *stale[i];
+    next.FIsStaleBelow = false;
+    const int count = next.FAllStale ? next.GetCount() : 1;
+    for (int j = 0; j < count; ++j) {
+      TKTItemProps* below = (next.FAllStale ? next.GetItem(j) : next.FStale)->FItems.get();
+      if (IsStale(below)) stale.push_back(below);
+    }
   }
-  items.FAllStale = false;
-  items.FStale = nullptr;
+  for (qsizetype i = stale.size() - 1; i >= 0; --i) {
+    TKTItemProps& next = *stale[i];
+    if (next.FAllStale) {
+      RecountAll(next);
+    } else {
+      RecountOne(*next.FStale);
+    }
+    next.FAllStale = false;
+    next.FStale = nullptr;
+  }
 }
 
 void TItemRows::Settle(TKTItemProp& item) {

@@ -22,6 +22,8 @@ class TItemRows {
   /// `item` has become, or is about to be no longer, part of its collection.
   static void Enter(TKTItemProp& item);
   static void Leave(TKTItemProp& item);
+  /// Everything below `item`, which has children, is about to be taken from it.
+  static void LeaveBelow(TKTItemProp& item);
   /// An exception has kept `item` in its collection, whether it was about to leave or had just entered.
   static void EnterAgain(TKTItemProp& item);
   /// `item` may take another number of rows than before.
@@ -47,6 +49,7 @@ class TItemRows {
   static int WantedRows(TKTItemProp& item);
   static void RecountAll(TKTItemProps& items);
   static void RecountOne(TKTItemProp& item);
+  static bool IsStale(const TKTItemProps* items);
   static TItemSpan Before(const TKTItemProp& item);
   static TKTItemProp* FindIn(const TKTItemProps& items, int TItemSpan::*what, int& number);
   static TKTItemProp* Find(const TKTItemProps& items, int TItemSpan::*what, int number);

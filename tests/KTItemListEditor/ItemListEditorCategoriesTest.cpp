@@ -88,6 +88,23 @@ TEST_F(ItemListEditorCategoriesTest, ACategoryOfANameIsFoundOrAdded) {
   EXPECT_TRUE(category->IsReadOnly());
 }
 
+TEST_F(ItemListEditorCategoriesTest, ADefaultCategoryThatIsThereCountsWhateverItsName) {
+  Fill("a");
+  TKTItemProp* other = Items().AddCategory("Other", false);
+  Items().SetDefaultCategory(other);
+  EXPECT_EQ(other, FEditor->Categorize(&Item("a"), "a", Map("")));
+  EXPECT_EQ("a Other", TreeText());
+}
+
+TEST_F(ItemListEditorCategoriesTest, ANewEditorIsAskedForItsCategoryMapOnce) {
+  struct TFillingEditor : TKTItemListEditor {
+    using TKTItemListEditor::TKTItemListEditor;
+    void FillCategories() override { GetItems().GetCategories().Add("a=A"); }
+  };
+  const auto editor = Make<TFillingEditor>();
+  EXPECT_EQ("a=A", editor->GetItems().GetCategories().GetCommaText());
+}
+
 // Moving.
 
 TEST_F(ItemListEditorCategoriesTest, ItemsKeepTheirOrderInsideTheirCategories) {
@@ -192,6 +209,17 @@ TEST_F(ItemListEditorCategoriesTest, ACategoryIsNotMovedIntoItselfOrBelow) {
   EXPECT_EQ("X [Y] Miscellaneous", TreeText());
   FEditor->Categorize(Item("X").GetItems(), Map("Y=X"), false);
   EXPECT_EQ("X [Y] Miscellaneous", TreeText());
+}
+
+TEST_F(ItemListEditorCategoriesTest, TheCursorStaysOnItsItemWhileACategoryAboveOpensAndCloses) {
+  Fill("a b z");
+  FEditor->Categorize(&Item("a"), Map("a=A"), false);
+  Item("A").SetIndex(0);
+  FEditor->SetSelected(&Item("z"));
+  Item("A").Expand();
+  EXPECT_EQ("A | a | b | >z | Miscellaneous", RowsText());
+  Item("A").Collapse();
+  EXPECT_EQ("A | b | >z | Miscellaneous", RowsText());
 }
 
 // Renaming.

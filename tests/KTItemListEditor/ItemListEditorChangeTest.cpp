@@ -66,6 +66,34 @@ TEST_F(ItemListEditorChangeTest, AnEmptyEditorTakesItsFirstItemEitherWay) {
   EXPECT_EQ("a=1", DisplayNames());
 }
 
+TEST_F(ItemListEditorChangeTest, TheValueFollowsANameThatTakesTheReusedItemElsewhere) {
+  FEditor->SetSorted(true);
+  Fill("a b");
+  Items().Insert(0);
+  FEditor->SetSelected(Items().GetItem(0));
+  EXPECT_EQ(1, FEditor->InsertItem("c", "1", true));
+  EXPECT_EQ("a= b= c=1", DisplayNames());
+}
+
+TEST_F(ItemListEditorChangeTest, WhereColumnsAreItemsAnItemIsInsertedBeforeTheCursorsColumn) {
+  Fill("a b");
+  FEditor->SetOrientation(goHorizontal);
+  FEditor->SetCol(2);
+  EXPECT_EQ(2, FEditor->InsertItem("x", "1", false));
+  EXPECT_EQ("a= x=1 b=", DisplayNames());
+  EXPECT_EQ(4, FEditor->InsertItem("y", "2", true));
+  EXPECT_EQ("a= x=1 b= y=2", DisplayNames());
+}
+
+TEST_F(ItemListEditorChangeTest, WhereColumnsAreItemsTheEmptyItemUnderTheCursorIsReused) {
+  Fill("a b");
+  FEditor->SetOrientation(goHorizontal);
+  FEditor->SetCol(2);
+  Items().GetItem(1)->SetName({});
+  EXPECT_EQ(2, FEditor->InsertItem("x", "1", true));
+  EXPECT_EQ("a= x=1", DisplayNames());
+}
+
 // Deleting.
 
 TEST_F(ItemListEditorChangeTest, DeletingARowDeletesItsItemWithAllBelow) {
@@ -247,6 +275,14 @@ TEST_F(ItemListEditorChangeTest, FullCollapseThenFullExpandRestoresEveryRowWithO
   EXPECT_EQ(rows, RowsText());
   EXPECT_EQ(1, QString::fromStdString(collapse).count("editor.SizeChanged"));
   EXPECT_EQ(1, QString::fromStdString(expand).count("editor.SizeChanged"));
+}
+
+TEST_F(ItemListEditorChangeTest, AnEditorThatDiesHearsOfItsItemsWithoutTouchingTheGrid) {
+  Fill("a [b c] d");
+  FEditor->FullExpand();
+  const std::string log = Heard([&] { FEditor.reset(); });
+  EXPECT_NE(std::string::npos, log.find("[].Notify(a,cnExtracting)"));
+  EXPECT_EQ(std::string::npos, log.find("editor."));
 }
 
 }  // namespace

@@ -109,12 +109,19 @@ TEST_F(ItemPropAssignTest, ADisabledTargetStaysDisabled) {
   EXPECT_FALSE(Target().GetEnabled());
 }
 
-TEST_F(ItemPropAssignTest, EventsAreNotCopied) {
-  Item("s").SetOnEditButtonClick([](TObject*) {});
-  Item("s").SetOnValidate([](TObject*, TKTItemProp*, int) {});
+TEST_F(ItemPropAssignTest, NoneOfTheFiveEventsIsCopied) {
+  TKTItemProp& s = Item("s");
+  s.SetOnEditButtonClick([](TObject*) {});
+  s.SetOnGetPickList([](TObject*, const QString&, TStrings&) {});
+  s.SetOnValidate([](TObject*, TKTItemProp*, int) {});
+  s.SetOnValidated([](TObject*, TKTItemProp*, int) {});
+  s.SetOnValidateError([](TObject*, TKTItemProp*, int, const Exception&) {});
   Copy();
   EXPECT_FALSE(Target().GetOnEditButtonClick());
+  EXPECT_FALSE(Target().GetOnGetPickList());
   EXPECT_FALSE(Target().GetOnValidate());
+  EXPECT_FALSE(Target().GetOnValidated());
+  EXPECT_FALSE(Target().GetOnValidateError());
 }
 
 TEST_F(ItemPropAssignTest, AssignEventsCopiesThreeOfTheFiveDeliberately) {
@@ -212,6 +219,15 @@ TEST_F(ItemPropAssignTest, AnotherSourceIsAnError) {
 TEST_F(ItemPropAssignTest, AnItemAssignedToItselfStaysAsItIs) {
   Item("s").Assign(&Item("s"));
   EXPECT_EQ("s [x [y] z] t", TreeText());
+}
+
+TEST_F(ItemPropAssignTest, ALeafThatIsAssignedToALeafIsAStructuralChangeLikeAnyOther) {
+  FEditor = Make<TProbeEditor>();
+  Fill("a b");
+  EXPECT_EQ("editor.AdjustGridCount editor.Invalidate [].Update(nil) b.UpdateItemProp(nil) [].Update(b)",
+            QString::fromStdString(Heard([&] { Item("a").Assign(&Item("b")); }))
+                .section(QStringLiteral("VisibleChanged "), -1)
+                .toStdString());
 }
 
 // Whole collections.

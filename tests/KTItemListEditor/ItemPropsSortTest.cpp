@@ -1,4 +1,5 @@
 #include "kt/KTItemListEditor/ItemProps.h"
+#include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/strings/StringList.h"
 #include "support/Expect.h"
 #include "support/ItemLists.h"
@@ -149,6 +150,24 @@ TEST_F(ItemPropsSortTest, SwitchingSortedOnRefreshesTheGridAfterTheSort) {
       Heard([&] { FEditor->SetSorted(true); }));
   EXPECT_EQ("", Heard([&] { FEditor->SetSorted(true); }));
   EXPECT_EQ("", Heard([&] { FEditor->SetSorted(false); }));
+}
+
+TEST_F(ItemPropsSortTest, AnEmptyCollectionIsSortedWithoutAWord) {
+  FEditor = Make<TProbeEditor>();
+  const auto compare = [](TKTItemProps&, int, int) -> int { throw EListError(QStringLiteral("compared")); };
+  EXPECT_EQ("", Heard([&] { Items().CustomSort(compare, false); }));
+}
+
+TEST_F(ItemPropsSortTest, CaseSensitivityOfASortedListCountsForLaterFindsAndItems) {
+  Fill("a B c");
+  FEditor->SetSorted(true);
+  EXPECT_EQ(1, Items().IndexOf("b"));
+  FEditor->SetCaseSensitive(true);
+  EXPECT_EQ(-1, Items().IndexOf("b"));
+  FindIndex("B");
+  EXPECT_FALSE(FFound);
+  Items().Add("A", {});
+  EXPECT_EQ("A a B c", TreeText());
 }
 
 // Find.

@@ -1,5 +1,6 @@
 #include "kt/KTItemListEditor/ItemProps.h"
 #include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "support/Expect.h"
 #include "support/ItemLists.h"
 #include "support/ItemProbe.h"
@@ -225,6 +226,77 @@ TEST_F(ItemPropsTest, AnIndexBehindTheLastItemIsCreated) {
   Items().FindItemProp(1, true)->SetName("b");
   EXPECT_EQ("a b", TreeText());
   EXPECT_EQ("List index out of bounds (3)", MessageOf<EListError>([&] { Items().FindItemProp(3, true); }));
+}
+
+TEST_F(ItemPropsTest, AnIndexBeforeTheFirstItemRaisesTheListErrorDeliberately) {
+  Fill("a");
+  EXPECT_EQ("List index out of bounds (-1)", MessageOf<EListError>([&] { Items().FindItemProp(-1, false); }));
+  EXPECT_EQ("List index out of bounds (-1)", MessageOf<EListError>([&] { Items().FindItemProp(-1, true); }));
+  EXPECT_EQ("a", TreeText());
+}
+
+// Who hears of which items.
+
+/// Writes down what it hears, with the number of items that the editor has then.
+class TListeningItems : public TKTItemProps {
+ public:
+  using Inherited = TKTItemProps;
+  static const TClassInfo* Class() {
+    static const TClassInfo info = TClassBuilder<TListeningItems>("TListeningItems").Done();
+    return &info;
+  }
+  const TClassInfo* ClassType() const override { return Class(); }
+  static inline QStringList Log;
+
+ protected:
+  explicit TListeningItems(TPersistent* owner) : TKTItemProps(owner, TKTItemProp::Class()) {}
+
+  void Hear(const QString& what) {
+    const QString name = GetParent() ? GetParent()->GetName() : QString();
+    Log += QStringLiteral("[%1].%2:%3").arg(name, what).arg(GetEditor()->GetItemCount());
+  }
+  void Notify(TCollectionItem* item, TCollectionNotification action) override {
+    TKTItemProps::Notify(item, action);
+    Hear(NameOf(action));
+  }
+  void Added(TCollectionItem*) override { Hear(QStringLiteral("Added")); }
+  void Deleting(TCollectionItem*) override { Hear(QStringLiteral("Deleting")); }
+};
+
+class TListeningEditor : public TKTItemListEditor {
+ public:
+  using TKTItemListEditor::TKTItemListEditor;
+
+ protected:
+  std::unique_ptr<TKTItemProps> CreateItems(TPersistent* owner) override { return Make<TListeningItems>(owner); }
+};
+
+class ItemPropsNotifyTest : public TItemListTest {
+ protected:
+  ItemPropsNotifyTest() {
+    FEditor = Make<TListeningEditor>();
+    Fill("a [b] c");
+    Log();
+  }
+  static std::string Log() { return std::exchange(TListeningItems::Log, {}).join(u' ').toStdString(); }
+};
+
+TEST_F(ItemPropsNotifyTest, OnlyItsOwnItemsAreAddedToACollectionHoweverManyItIsToldOf) {
+  Item("a").GetItems().Add();
+  EXPECT_EQ("[a].Added:4 [].cnAdded:4 [a].cnAdded:4", Log());
+}
+
+TEST_F(ItemPropsNotifyTest, AnItemThatIsAboutToBeDeletedStillCountsAndOneThatLeavesDoesNot) {
+  Item("a").GetItems().Delete(0);
+  EXPECT_EQ("[a].Deleting:3 [].cnDeleting:3 [a].cnDeleting:3 [].cnExtracting:2 [a].cnExtracting:2", Log());
+}
+
+// Painting.
+
+TEST_F(ItemPropsTest, ItemsThatChangePlacesArePaintedAnew) {
+  Fill("a b c");
+  EXPECT_TRUE(QString::fromStdString(Heard([&] { Items().Exchange(0, 2); })).contains("editor.Invalidate"));
+  EXPECT_TRUE(QString::fromStdString(Heard([&] { Item("a").SetIndex(0); })).contains("editor.Invalidate"));
 }
 
 }  // namespace

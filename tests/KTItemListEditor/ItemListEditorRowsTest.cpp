@@ -1,0 +1,102 @@
+#include "KTItemListEditor/InplaceEditListFixture.h"
+
+#include <functional>
+
+namespace kt::tests {
+namespace {
+
+/// What the in-place editor and the picture do when items change.
+class ItemListEditorRowsTest : public TInplaceEditListTest {
+ protected:
+  bool IsOpen() { return Editor.IsEditorMode() && Editor.InplaceEditor() && Editor.InplaceEditor()->Visible(); }
+  /// The rows that are painted anew because of `change`, each once.
+  std::string Painted(const std::function<void()>& change) {
+    Settle();
+    QStringList rows;
+    Editor.OnDrawCell = [&](TObject*, int, int row, const QRect&, TGridDrawState) {
+      if (const QString text = QString::number(row); !rows.contains(text)) rows += text;
+    };
+    change();
+    Settle();
+    Editor.OnDrawCell = nullptr;
+    return rows.join(u' ').toStdString();
+  }
+  void ShowWithoutEditor() {
+    Editor.SetOptions(Editor.GetOptions() - TGridOptions{goAlwaysShowEditor});
+    Show();
+    Editor.SetEditorMode(false);
+  }
+};
+
+TEST_F(ItemListEditorRowsTest, AnItemThatIsAboutToChangeHidesTheInplaceEditor) {
+  Show();
+  EXPECT_TRUE(IsOpen());
+  Item(1).SetName("n");
+  EXPECT_FALSE(IsOpen());
+}
+
+TEST_F(ItemListEditorRowsTest, AnItemThatChangesWhileTheEditorIsLockedLeavesTheInplaceEditorAlone) {
+  Show();
+  Editor.DisableEditUpdate();
+  Item(1).SetName("n");
+  EXPECT_TRUE(IsOpen());
+  Editor.EnableEditUpdate();
+}
+
+TEST_F(ItemListEditorRowsTest, SelectingNothingHidesTheInplaceEditor) {
+  Show();
+  Editor.SetSelected(nullptr);
+  EXPECT_FALSE(IsOpen());
+}
+
+TEST_F(ItemListEditorRowsTest, SelectingTheSelectedItemLeavesTheInplaceEditorAlone) {
+  Show();
+  Editor.SetSelected(&Item(0));
+  EXPECT_TRUE(IsOpen());
+}
+
+TEST_F(ItemListEditorRowsTest, RefreshingTheRowsHidesTheInplaceEditorAndShowsItAnew) {
+  Show();
+  Type("x");
+  EXPECT_TRUE(Edit().IsModified());
+  Editor.SetEditorMode(false);
+  Editor.RefreshVisibleItems();
+  EXPECT_TRUE(IsOpen());
+  EXPECT_EQ("x", Edit().GetText());
+}
+
+TEST_F(ItemListEditorRowsTest, AStructuralChangeLeavesTheInplaceEditorOpenOnTheSelectedItem) {
+  Show();
+  Editor.GetItems().Exchange(1, 2);
+  EXPECT_TRUE(IsOpen());
+  EXPECT_EQ("1", Edit().GetText());
+}
+
+TEST_F(ItemListEditorRowsTest, AChangedValueShowsInTheOpenInplaceEditor) {
+  Show();
+  Item(0).SetValuesText("7");
+  EXPECT_TRUE(IsOpen());
+  EXPECT_EQ("7", Edit().GetText());
+}
+
+TEST_F(ItemListEditorRowsTest, AnItemThatIsEnabledOrDisabledIsPaintedAnewAlone) {
+  ShowWithoutEditor();
+  EXPECT_EQ("3", Painted([&] { Item(2).SetEnabled(false); }));
+}
+
+TEST_F(ItemListEditorRowsTest, AnItemWhoseFontChangesIsPaintedAnewAlone) {
+  ShowWithoutEditor();
+  Item(2).GetFont();
+  Item(1).GetValueFont();
+  EXPECT_EQ("3", Painted([&] { Item(2).GetFont().SetColor(clRed); }));
+  EXPECT_EQ("2", Painted([&] { Item(1).GetValueFont().SetColor(clRed); }));
+}
+
+TEST_F(ItemListEditorRowsTest, ItemsThatChangePlacesArePainted) {
+  ShowWithoutEditor();
+  EXPECT_EQ("0 1 2 3", Painted([&] { Editor.GetItems().Exchange(0, 2); }));
+  EXPECT_EQ("0 1 2 3", Painted([&] { Item(0).SetIndex(1); }));
+}
+
+}  // namespace
+}  // namespace kt::tests
