@@ -16,6 +16,7 @@ TKTItemProp* TKTCustomItemListEditor::Categorize(TKTItemProp* item, const QStrin
   const TItemWatch watched(item);
   TKTItemProps& level = LevelOf(*item);
   if (!level.GetDefaultCategory()) level.CreateDefaultCategory();
+  if (!watched) return nullptr;
   const int line = categoryMap.IndexOfName(propName);
   QString name = line < 0 ? QString() : categoryMap.GetValueFromIndex(line);
   OnCategorize(this, item, propName, name);

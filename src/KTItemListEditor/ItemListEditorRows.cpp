@@ -34,8 +34,10 @@ void TKTCustomItemListEditor::ItemNotify(TKTItemProp* item, TCollectionNotificat
   // An editor that dies tells nobody about cells any more.
   if (HasState(csDestroying)) return;
   if (action == cnAdded) VisibleChanged(item);
-  if (action == cnExtracting) UpdatingItemProp(item);
-  Refresh();
+  if (action != cnExtracting) return Refresh();
+  // What leaves is still in its collection, and half dead perhaps: nothing for handlers to meet. The grid follows when
+  // the collection tells that it has changed.
+  UpdatingItemProp(item);
 }
 
 void TKTCustomItemListEditor::UpdatingItemProp(TKTItemProp*) {

@@ -7,9 +7,13 @@
 #include "kt/KTItemListEditor/ItemRows.h"
 #include "kt/KTItemListEditor/ItemWatch.h"
 #include "kt/rtl/conversions/Text.h"
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/LifeWatch.h"
+#include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 
+#include <exception>
 #include <vector>
 
 namespace kt {
@@ -111,10 +115,34 @@ TKTItemProps* TKTItemProp::GetCollection() const {
   return static_cast<TKTItemProps*>(TCollectionItem::GetCollection());
 }
 
+/// To a collection that may die while the item leaves its own: then the item does, too.
+static void MoveTo(TKTItemProp& item, TCollection& target) {
+  const TItemWatch watched(&item);
+  const TLifeWatch watchOfTarget(&target);
+  std::exception_ptr error;
+  try {
+    item.TCollectionItem::SetCollection(nullptr);
+  } catch (...) {
+    if (!watched || item.GetCollection()) throw;
+    error = std::current_exception();
+  }
+  if (!watched) return;
+  if (!watchOfTarget.IsAlive()) {
+    delete &item;
+    throw EInvalidOperation(SObjectFreed.toString());
+  }
+  item.TCollectionItem::SetCollection(&target);
+  if (error) std::rethrow_exception(error);
+}
+
 void TKTItemProp::SetCollection(TCollection* value) {
   const TItemWatch self(this);
   try {
-    TCollectionItem::SetCollection(value);
+    if (value && GetCollection() && GetCollection() != value && InheritsFrom(value->GetItemClass())) {
+      MoveTo(*this, *value);
+    } else {
+      TCollectionItem::SetCollection(value);
+    }
   } catch (...) {
     if (!self || !GetCollection()) throw;
     // The dying go all the same.

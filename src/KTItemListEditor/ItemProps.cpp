@@ -8,7 +8,9 @@
 #include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/conversions/Text.h"
+#include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/LifeWatch.h"
+#include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/strings/StringList.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 
@@ -67,19 +69,27 @@ TStringList& TKTItemProps::GetCategories() {
 
 void TKTItemProps::SetCategories(TStrings& value) { GetCategories().Assign(&value); }
 
+/// For code that goes on after a call-out.
+static void CheckAlive(const TLifeWatch& watch) {
+  if (!watch.IsAlive()) throw EInvalidOperation(SObjectFreed.toString());
+}
+
 TKTItemProp* TKTItemProps::AddNewItem() { return static_cast<TKTItemProp*>(TOwnedCollection::Add()); }
 
 TKTItemProp* TKTItemProps::Add() {
+  const TLifeWatch self(this);
   Changing();
+  CheckAlive(self);
   TItemWatch item(AddNewItem());
-  TOwnedCollection::Changed();
+  if (self.IsAlive()) TOwnedCollection::Changed();
   return item.Get();
 }
 
 TKTItemProp* TKTItemProps::Add(const QString& name, const QString& value) {
   IsValid(name, true);
-  Changing();
   const TLifeWatch self(this);
+  Changing();
+  CheckAlive(self);
   TItemWatch item(AddNewItem());
   item->SetName(name);
   if (item) item->SetValuesText(value);
@@ -88,20 +98,21 @@ TKTItemProp* TKTItemProps::Add(const QString& name, const QString& value) {
 }
 
 TKTItemProp* TKTItemProps::Insert(int index) {
+  const TLifeWatch self(this);
   Changing();
+  CheckAlive(self);
   TItemWatch item(static_cast<TKTItemProp*>(TOwnedCollection::Insert(index)));
-  TOwnedCollection::Changed();
+  if (self.IsAlive()) TOwnedCollection::Changed();
   return item.Get();
 }
 
 void TKTItemProps::Exchange(int index1, int index2) {
-  TKTItemProp* first = GetItem(index1);
-  TKTItemProp* second = GetItem(index2);
+  const TItemWatch first(GetItem(index1));
+  const TItemWatch second(GetItem(index2));
   const TLifeWatch self(this);
-  const TItemWatch watched(second);
   Changing();
-  first->SetIndex(index2);
-  if (watched) second->SetIndex(index1);
+  if (first) first->SetIndex(index2);
+  if (second) second->SetIndex(index1);
   if (self.IsAlive()) TOwnedCollection::Changed();
 }
 
@@ -133,15 +144,23 @@ void TKTItemProps::Changing() {
 }
 
 void TKTItemProps::BeginUpdate() {
+  const TLifeWatch self(this);
   Changing();
+  CheckAlive(self);
   TOwnedCollection::BeginUpdate();
 }
 
 void TKTItemProps::Notify(TCollectionItem* item, TCollectionNotification action) {
   auto* prop = static_cast<TKTItemProp*>(item);
   const bool isOwn = prop->TCollectionItem::GetCollection() == this;
+  const TItemWatch watched(prop);
   if (isOwn && action == cnAdded) TItemRows::Enter(*prop);
-  if (isOwn && action == cnExtracting) Leave(*prop);
+  if (isOwn && action != cnAdded) {
+    Leave(*prop);
+    // Handlers may have freed or moved it.
+    if (!watched || prop->TCollectionItem::GetCollection() != this) return;
+  }
+  if (action == cnExtracting && isOwn) TItemRows::Leave(*prop);
   if (action == cnAdded && FSorted) Sort(true);
   if (action == cnExtracting && FDefaultCategory == prop) SetDefaultCategory(nullptr);
   if (isOwn) TOwnedCollection::Notify(item, action);
@@ -149,10 +168,9 @@ void TKTItemProps::Notify(TCollectionItem* item, TCollectionNotification action)
 }
 
 void TKTItemProps::Leave(TKTItemProp& item) {
-  // The in-place editor writes back what it holds while its row is still that of its item.
+  // The in-place editor writes back what it holds while its row is still that of its item, and before anything dies.
   TKTCustomItemListEditor* editor = GetEditor();
   if (editor && !editor->HasState(csDestroying)) editor->UpdatingItemProp(&item);
-  TItemRows::Leave(item);
 }
 
 void TKTItemProps::TellOwner(TKTItemProp* item, TCollectionNotification action) {

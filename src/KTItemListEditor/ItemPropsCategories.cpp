@@ -2,7 +2,9 @@
 #include "kt/KTItemListEditor/ItemProps.h"
 #include "kt/KTItemListEditor/ItemWatch.h"
 #include "kt/KTItemListEditor/Messages.h"
+#include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/LifeWatch.h"
+#include "kt/rtl/objects/Messages.h"
 
 namespace kt {
 
@@ -17,8 +19,9 @@ TKTItemProp* TKTItemProps::AddCategory(const QString& name, bool allowDuplicate)
   if (!allowDuplicate) {
     if (const int index = IndexOfCategory(name); index >= 0) return GetItem(index);
   }
-  Changing();
   const TLifeWatch self(this);
+  Changing();
+  if (!self.IsAlive()) throw EInvalidOperation(SObjectFreed.toString());
   TItemWatch item(AddNewItem());
   item->SetCategory(true);
   if (item) item->SetReadOnly(true);
@@ -64,9 +67,10 @@ void TKTItemProps::DefaultCategoryChanged(TKTItemProp* item) {
 
 void TKTItemProps::CreateDefaultCategory() {
   if (FDefaultCategoryName.isEmpty()) return;
+  const TLifeWatch self(this);
   const int index = IndexOfCategory(FDefaultCategoryName);
   TKTItemProp* category = index >= 0 ? GetItem(index) : AddCategory(FDefaultCategoryName, true);
-  if (category) SetDefaultCategory(category);
+  if (category && self.IsAlive()) SetDefaultCategory(category);
 }
 
 void TKTItemProps::SetDefaultCategoryName(const QString& value) {

@@ -4,7 +4,9 @@
 #include "kt/KTItemListEditor/Messages.h"
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/conversions/Text.h"
+#include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/LifeWatch.h"
+#include "kt/rtl/objects/Messages.h"
 
 namespace kt {
 
@@ -74,6 +76,7 @@ TKTItemProp* TKTItemProps::FindItemByFullPathName(const QString& path) {
 TKTItemProp* TKTItemProps::AddFullPath(const QString& path, const QString& value, bool allowDuplicate) {
   const TLifeWatch self(this);
   Changing();
+  if (!self.IsAlive()) throw EInvalidOperation(SObjectFreed.toString());
   const TPathHead head = SplitPath(path);
   TItemWatch item(head.HasRest || !allowDuplicate ? GetItemByName(head.Name) : nullptr);
   if (!item) {

@@ -2,6 +2,8 @@
 
 #include "kt/KTItemListEditor/ItemListEditor.h"
 #include "kt/KTItemListEditor/ItemProps.h"
+#include "kt/KTItemListEditor/ItemWatch.h"
+#include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/rtl/conversions/Text.h"
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
@@ -43,7 +45,12 @@ void TKTItemStrings::Insert(int index, const QString& text) {
   FEditor.GetItems().AddFullPath(name, value, !FEditor.GetPropertyOptions().Has(propUnique));
 }
 
-void TKTItemStrings::Delete(int index) { delete &ItemAt(index); }
+void TKTItemStrings::Delete(int index) {
+  // Whoever hears that something is going to change may free it first.
+  const TItemWatch item(&ItemAt(index));
+  const TUpdateBracket bracket(FEditor.GetItems());
+  delete item.Get();
+}
 
 void TKTItemStrings::Clear() { FEditor.GetItems().Clear(); }
 

@@ -62,7 +62,7 @@ TEST_F(ItemListEditorRowsTest, RefreshingTheRowsHidesTheInplaceEditorAndShowsItA
   Editor.SetEditorMode(false);
   Editor.RefreshVisibleItems();
   EXPECT_TRUE(IsOpen());
-  EXPECT_EQ("x", Edit().GetText());
+  EXPECT_EQ("1x", Edit().GetText());
 }
 
 TEST_F(ItemListEditorRowsTest, AStructuralChangeLeavesTheInplaceEditorOpenOnTheSelectedItem) {

@@ -101,7 +101,15 @@ TEST_P(EditorRoundTripTest, APropertyOfTheEditorComesBack) {
   EXPECT_TRUE(Has(Written(Line()), Expected()));
 }
 
-constexpr const char* EditorLines[] = {"Align = alClient",
+constexpr const char* EditorLines[] = {"Tag = 7",
+                                       "Left = 5",
+                                       "Top = 6",
+                                       "Width = 99",
+                                       "Height = 98",
+                                       "Cursor = crHandPoint",
+                                       "Hint = 'h'",
+                                       "HelpContext = 7",
+                                       "Align = alClient",
                                        "Anchors = [akRight]",
                                        "BiDiMode = bdRightToLeft",
                                        "BorderStyle = bsNone",
@@ -212,7 +220,7 @@ constexpr const char* ItemLines[] = {"Font.Color = clRed",
 
 INSTANTIATE_TEST_SUITE_P(Lines, ItemRoundTripTest, testing::ValuesIn(ItemLines));
 
-/// The tables above leave out no property. Glyphs are pictures, TabOrder needs a parent, and Strings are not streamed.
+/// The properties that no line of a table names.
 QStringList Untested(const TClassInfo* type, const QStringList& lines) {
   QStringList names;
   for (const TPropInfo* property : type->Props()) {
@@ -231,8 +239,11 @@ QStringList ToList(const char* const* begin, size_t count) {
   return list;
 }
 
-TEST(RoundTripTablesTest, EveryPropertyOfTheEditorIsInTheTable) {
-  EXPECT_EQ("", Untested(TKTItemListEditor::Class(), ToList(EditorLines, std::size(EditorLines))).join(u' '));
+/// The number of rows follows the items, the tab order needs a parent, glyphs are pictures, and strings are not
+/// streamed.
+TEST(RoundTripTablesTest, EveryPropertyOfTheEditorIsInTheTableButForThose) {
+  EXPECT_EQ("Name RowCount TabOrder MinusGlyph PlusGlyph Strings",
+            Untested(TKTItemListEditor::Class(), ToList(EditorLines, std::size(EditorLines))).join(u' '));
 }
 
 TEST(RoundTripTablesTest, EveryPropertyOfAnItemIsInTheTable) {

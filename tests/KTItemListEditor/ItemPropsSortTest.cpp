@@ -164,7 +164,7 @@ TEST_F(ItemPropsSortTest, CaseSensitivityOfASortedListCountsForLaterFindsAndItem
   EXPECT_EQ(1, Items().IndexOf("b"));
   FEditor->SetCaseSensitive(true);
   EXPECT_EQ(-1, Items().IndexOf("b"));
-  FindIndex("B");
+  FindIndex("b");
   EXPECT_FALSE(FFound);
   Items().Add("A", {});
   EXPECT_EQ("A a B c", TreeText());

@@ -122,7 +122,7 @@ inline const TItemScenario ItemScenarios[] = {
     {"InsertItemReusing",
      [](TKTItemListEditor& editor) {
        At(editor, "e").SetName({});
-       editor.GetSelected()->SetValuesText({});
+       At(editor, "").SetValuesText({});
        editor.InsertItem("n", "1", true);
      }},
     {"DeleteRow", [](TKTItemListEditor& editor) { DeleteRowOf(editor, editor.GetRow()); }},
@@ -139,7 +139,6 @@ inline const TItemScenario ItemScenarios[] = {
     {"DeleteLineOfCursor",
      [](TKTItemListEditor& editor) { editor.GetStrings().Delete(editor.GetStrings().IndexOfName(u"e")); }},
     {"PropNames", [](TKTItemListEditor& editor) { editor.SetPropNames(0, "n"); }},
-    {"Orientation", [](TKTItemListEditor& editor) { editor.SetOrientation(goHorizontal); }},
 };
 
 /// Runs scenarios on an editor whose handlers do something unexpected, and sees that the lists, the counts and the

@@ -251,7 +251,7 @@ class TItemTreeModel {
 
   /// The grid follows when nothing keeps it from that any more.
   void CheckLineCount(size_t rows) {
-    if (FEditor->IsEditUpdateLocked()) return;
+    if (FEditor->IsEditUpdateLocked() || !FLevelBrackets.empty()) return;
     EXPECT_EQ(std::max<size_t>(rows, 1) + FEditor->GetGridCount(gcFixedLines),
               static_cast<size_t>(FEditor->GetGridCount(gcLineCount)));
   }
