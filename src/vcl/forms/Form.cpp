@@ -67,6 +67,9 @@ void TCustomForm::SetActiveControl(TWinControl* value) {
   if (value && (value == this || !ContainsControl(value))) {
     throw EInvalidOperation(QStringLiteral("Cannot focus a disabled or invisible window"));
   }
+  // Who counts as active looks different.
+  if (FActiveControl) FActiveControl->Invalidate();
+  if (value) value->Invalidate();
   FActiveControl = value;
   if (value) value->FreeNotification(this);
   if (IsShowing()) FocusActiveControl();

@@ -201,7 +201,8 @@ class TCustomGrid : public TCustomControl {
   void MoveAnchor(TGridCoord cell);
   /// What the mouse is doing.
   TGridState GetGridState() const { return FGridState; }
-  /// Whether the grid has the focus, itself or by its editor.
+  /// Whether the grid is where the keys go: its form's ActiveControl, be the form active or not; without a form,
+  /// whether the focus is in the grid's window. Its editor counts as the grid.
   bool IsActiveControl() const;
   /// The sum of all column widths, without lines. Takes time for the columns of unusual width only.
   qint64 GetColWidthsSum() const { return FCols.Sizes.Sum(0, FCols.Count - 1); }

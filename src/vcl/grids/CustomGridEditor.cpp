@@ -1,8 +1,11 @@
 // What TCustomGrid has to do with its in-place editor.
 #include "kt/rtl/objects/Make.h"
 #include "kt/vcl/controls/Focus.h"
+#include "kt/vcl/forms/Form.h"
 #include "kt/vcl/grids/CustomGrid.h"
 #include "kt/vcl/grids/InplaceEdit.h"
+
+#include <QApplication>
 
 namespace kt {
 
@@ -20,7 +23,16 @@ QString TCustomGrid::GetEditMask(int, int) { return {}; }
 
 TEditStyle TCustomGrid::GetEditStyle(int, int) { return esSimple; }
 
-bool TCustomGrid::IsActiveControl() const { return TFocus::Current() == this; }
+bool TCustomGrid::IsActiveControl() const {
+  if (const TCustomForm* form = GetParentForm(const_cast<TCustomGrid*>(this))) {
+    const TWinControl* active = form->GetActiveControl();
+    return active == this || (active && active == FInplaceEdit);
+  }
+  if (!HandleAllocated()) return false;
+  // No widget has the focus while another program's window is active: then it is who gets it back.
+  const QWidget* const focused = QApplication::focusWidget();
+  return focused ? focused == Window() || Window()->isAncestorOf(focused) : TFocus::Current() == this;
+}
 
 bool TCustomGrid::CanEditShow() {
   if (!FOptions.Has(goEditing) || FOptions.Has(goRowSelect) || !FEditorMode) return false;

@@ -34,8 +34,9 @@ void TCustomGrid::KeyDown(quint16& key, TShiftState shift) {
   const TGridDrawInfo info = CalcDrawInfo();
   TKeyMove move{FCurrent,
                 {FCols.First, FRows.First},
-                info.Horz.LastFullVisibleCell - FCols.First,
-                info.Vert.LastFullVisibleCell - FRows.First,
+                // A page is never less than a cell, however little of it is in view.
+                std::max(info.Horz.LastFullVisibleCell - FCols.First, 1),
+                std::max(info.Vert.LastFullVisibleCell - FRows.First, 1),
                 UseRightToLeftAlignment() ? -1 : 1};
   const bool isKnown = shift.Has(ssCtrl) ? MoveByCtrlKey(key, move, info) : MoveByKey(key, shift, move);
   if (!isKnown) return;

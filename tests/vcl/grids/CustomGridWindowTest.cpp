@@ -262,6 +262,48 @@ TEST_F(CustomGridWindowTest, AFixedCellIsDraggedToMoveItsRow) {
   EXPECT_EQ(Grid.Log(), "RowMoved(2,4)");
 }
 
+TEST_F(CustomGridWindowTest, AFixedCellIsDraggedToMoveItsColumn) {
+  Grid.SetOptions(Grid.GetOptions() + TGridOptions{goColMoving});
+  FWindow->Press(At(2, 0));
+  FWindow->MoveTo(At(4, 0));
+  FWindow->Release(At(4, 0));
+  EXPECT_EQ(Grid.Log(), "ColumnMoved(2,4)");
+}
+
+TEST_F(CustomGridWindowTest, AColumnThatIsDroppedWhereItWasDoesNotMove) {
+  Grid.SetOptions(Grid.GetOptions() + TGridOptions{goColMoving});
+  FWindow->Press(At(2, 0));
+  FWindow->MoveTo(At(4, 0));
+  FWindow->MoveTo(At(2, 0));
+  FWindow->Release(At(2, 0));
+  EXPECT_EQ(Grid.Log(), "");
+}
+
+TEST_F(CustomGridWindowTest, WithoutItsOptionAColumnIsNotMoved) {
+  FWindow->Press(At(2, 0));
+  FWindow->MoveTo(At(4, 0));
+  FWindow->Release(At(4, 0));
+  EXPECT_EQ(Grid.Log(), "");
+}
+
+TEST_F(CustomGridWindowTest, TellsOnceWhenItScrolls) {
+  QStringList told;
+  Grid.OnTopLeftChanged = [&](TObject*) { told += Grid.Where(); };
+  Grid.SetTopRow(5);
+  Grid.SetTopRow(5);
+  Grid.SetLeftCol(2);
+  EXPECT_EQ(told.join(u'|'), "1,1 sel 1,1-1,1 at 1,5|1,1 sel 1,1-1,1 at 2,5");
+}
+
+TEST_F(CustomGridWindowTest, TellsThatTheCurrentCellWasScrolledIntoView) {
+  int count = 0;
+  Grid.OnTopLeftChanged = [&](TObject*) { ++count; };
+  Grid.SetRow(3);
+  EXPECT_EQ(count, 0);
+  Grid.SetRow(50);
+  EXPECT_EQ(count, 1);
+}
+
 TEST_F(CustomGridWindowTest, FromRightToLeftTheKeysFollowTheEye) {
   Grid.SetBiDiMode(bdRightToLeft);
   Focus();
