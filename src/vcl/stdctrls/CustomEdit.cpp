@@ -5,8 +5,8 @@
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/controls/ControlBody.h"
 #include "kt/vcl/controls/VirtualKeys.h"
-#include "kt/vcl/graphics/QtColor.h"
 #include "kt/vcl/graphics/RealFont.h"
+#include "kt/vcl/stdctrls/WindowColors.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -59,7 +59,6 @@ void TCustomEdit::CreateWnd() {
   FLineEdit->setReadOnly(FReadOnly);
   FLineEdit->setAccessibleName(FAccessibleName);
   FLineEdit->setContextMenuPolicy(Qt::DefaultContextMenu);
-  FLineEdit->setFocusPolicy(IsTabStop() ? Qt::StrongFocus : Qt::ClickFocus);
   ShowText();
   FLineEdit->setModified(FModified);
   Select(FSelStart, FSelStart + FSelLength);
@@ -91,10 +90,15 @@ void TCustomEdit::PaintWindow(const QRect& clip) {
 void TCustomEdit::UpdateColors() {
   if (!FLineEdit || !HandleAllocated()) return;
   FLineEdit->setFont(QtFont(GetFont()));
-  QPalette palette = FLineEdit->parentWidget() ? FLineEdit->parentWidget()->palette() : QPalette();
-  palette.setColor(QPalette::Base, QtColor(GetColor(), palette));
-  palette.setColor(QPalette::Text, QtColor(GetFont().GetColor(), palette));
-  FLineEdit->setPalette(palette);
+  const bool outer = std::exchange(FIsUpdatingColors, true);
+  FLineEdit->setPalette(PaletteOf(*FLineEdit, GetColor(), GetFont().GetColor()));
+  FIsUpdatingColors = outer;
+}
+
+bool TCustomEdit::WindowEvent(QEvent& event) {
+  // System colours are other ones now.
+  if (event.type() == QEvent::PaletteChange && !FIsUpdatingColors) UpdateColors();
+  return TWinControl::WindowEvent(event);
 }
 
 void TCustomEdit::CMFontChanged(TMessage& message) {

@@ -68,6 +68,7 @@ class TCustomEdit : public TWinControl {
   void CreateWnd() override;
   void DestroyWnd() override;
   void PaintWindow(const QRect& clip) override;
+  bool WindowEvent(QEvent& event) override;
   bool InputText(const QString&) override { return false; }
   void CMTextChanged(TMessage& message) override;
   void CMFontChanged(TMessage& message) override;
@@ -116,6 +117,7 @@ class TCustomEdit : public TWinControl {
   bool FModified = false;
   bool FReadOnly = false;
   bool FIsSettingText = false;
+  bool FIsUpdatingColors = false;
 };
 
 }  // namespace kt

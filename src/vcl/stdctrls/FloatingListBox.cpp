@@ -72,6 +72,7 @@ QWidget* TFloatingListBox::CreateBody(QWidget*) {
   // The kind of window that no platform activates, and that all of them place where they are told.
   view->setWindowFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus);
   view->setAttribute(Qt::WA_ShowWithoutActivating);
+  view->setAttribute(Qt::WA_WindowPropagation);
   view->setAttribute(Qt::WA_X11NetWmWindowTypeCombo);
   return view;
 }

@@ -70,6 +70,7 @@ class TCustomListBox : public TWinControl {
   void DestroyWnd() override;
   QMargins GetClientMargins() const override;
   void Resize() override;
+  bool WindowEvent(QEvent& event) override;
   bool WantsKey(quint16 key) override;
   void CMFontChanged(TMessage& message) override;
   void CMColorChanged(TMessage& message) override;
@@ -108,6 +109,7 @@ class TCustomListBox : public TWinControl {
   bool FSorted = false;
   bool FIsTracking = false;
   bool FIsSelecting = false;
+  bool FIsUpdatingLook = false;
 };
 
 /// The list of lines that forms use.

@@ -1,8 +1,8 @@
 // The window of TCustomListBox, and what the user does with it.
 #include "kt/vcl/controls/VirtualKeys.h"
-#include "kt/vcl/graphics/QtColor.h"
 #include "kt/vcl/graphics/RealFont.h"
 #include "kt/vcl/stdctrls/ListBoxView.h"
+#include "kt/vcl/stdctrls/WindowColors.h"
 
 #include <algorithm>
 
@@ -16,7 +16,6 @@ TCustomListBox::TView* TCustomListBox::View() const { return static_cast<TView*>
 
 void TCustomListBox::CreateWnd() {
   TWinControl::CreateWnd();
-  View()->setFocusPolicy(IsTabStop() ? Qt::StrongFocus : Qt::ClickFocus);
   UpdateLook();
   // Lines have another height from now on.
   View()->Model().Reset();
@@ -37,14 +36,21 @@ void TCustomListBox::UpdateLook() {
   if (!view) return;
   view->SetBordered(FBorderStyle == bsSingle);
   view->setFont(QtFont(GetFont()));
-  QPalette palette = view->parentWidget() ? view->parentWidget()->palette() : QPalette();
-  palette.setColor(QPalette::Base, QtColor(GetColor(), palette));
-  palette.setColor(QPalette::Text, QtColor(GetFont().GetColor(), palette));
+  QPalette palette = PaletteOf(*view, GetColor(), GetFont().GetColor());
+  const QPalette around = PaletteAround(*view);
   // The selected line stands out as well while the keyboard is elsewhere.
-  palette.setBrush(QPalette::Inactive, QPalette::Highlight, palette.brush(QPalette::Active, QPalette::Highlight));
-  palette.setBrush(QPalette::Inactive, QPalette::HighlightedText,
-                   palette.brush(QPalette::Active, QPalette::HighlightedText));
+  for (auto role : {QPalette::Highlight, QPalette::HighlightedText}) {
+    palette.setBrush(QPalette::Inactive, role, around.brush(QPalette::Active, role));
+  }
+  const bool outer = std::exchange(FIsUpdatingLook, true);
   view->setPalette(palette);
+  FIsUpdatingLook = outer;
+}
+
+bool TCustomListBox::WindowEvent(QEvent& event) {
+  // System colours are other ones now.
+  if (event.type() == QEvent::PaletteChange && !FIsUpdatingLook) UpdateLook();
+  return TWinControl::WindowEvent(event);
 }
 
 void TCustomListBox::CMFontChanged(TMessage& message) {
