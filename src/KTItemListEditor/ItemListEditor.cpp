@@ -160,6 +160,7 @@ void PublishGrid(TClassBuilder<TKTItemListEditor>& builder) {
   Publish::ParentColor(builder, false);
   Publish::ParentFont(builder);
   Publish::ParentShowHint(builder);
+  Publish::PopupMenu(builder);
   Publish::ScrollBars(builder);
   Publish::ShowHint(builder);
   Publish::TabOrder(builder);

@@ -2,6 +2,7 @@
 
 #include "kt/vcl/forms/FormsRegistration.h"
 #include "kt/vcl/graphics/GraphicsRegistration.h"
+#include "kt/vcl/menus/MenusRegistration.h"
 #include "kt/vcl/stdctrls/StdCtrlsRegistration.h"
 
 namespace kt {
@@ -9,6 +10,7 @@ namespace kt {
 void RegisterVisualPlatform() {
   RegisterGraphics();
   RegisterForms();
+  RegisterMenus();
   RegisterStdCtrls();
 }
 

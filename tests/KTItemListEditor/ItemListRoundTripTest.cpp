@@ -107,6 +107,8 @@ constexpr const char* EditorLines[] = {"Tag = 7",
                                        "Width = 99",
                                        "Height = 98",
                                        "Cursor = crHandPoint",
+                                       "HelpType = htKeyword",
+                                       "HelpKeyword = 'grids'",
                                        "Hint = 'h'",
                                        "HelpContext = 7",
                                        "Align = alClient",
@@ -239,10 +241,10 @@ QStringList ToList(const char* const* begin, size_t count) {
   return list;
 }
 
-/// The number of rows follows the items, the tab order needs a parent, glyphs are pictures, and strings are not
-/// streamed.
+/// The number of rows follows the items, a menu is another component, the tab order needs a parent, the place of a menu
+/// has no handler here, glyphs are pictures, and strings are not streamed.
 TEST(RoundTripTablesTest, EveryPropertyOfTheEditorIsInTheTableButForThose) {
-  EXPECT_EQ("Name RowCount TabOrder MinusGlyph PlusGlyph Strings",
+  EXPECT_EQ("Name RowCount PopupMenu TabOrder OnContextPopup MinusGlyph PlusGlyph Strings",
             Untested(TKTItemListEditor::Class(), ToList(EditorLines, std::size(EditorLines))).join(u' '));
 }
 

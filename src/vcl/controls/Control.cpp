@@ -3,6 +3,7 @@
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/controls/MessageAddress.h"
 #include "kt/vcl/controls/WinControl.h"
+#include "kt/vcl/menus/PopupMenu.h"
 
 namespace kt {
 
@@ -15,6 +16,9 @@ const TClassInfo* TControl::Class() {
                                      .Property<&TControl::GetCursor, &TControl::SetCursor>("Cursor")
                                      .Default(crDefault)
                                      .Property<&TControl::GetHint, &TControl::SetHint>("Hint")
+                                     .Property<&TControl::GetHelpType, &TControl::SetHelpType>("HelpType")
+                                     .Default(htContext)
+                                     .Property<&TControl::GetHelpKeyword, &TControl::SetHelpKeyword>("HelpKeyword")
                                      .Property<&TControl::GetHelpContext, &TControl::SetHelpContext>("HelpContext")
                                      .Default(0)
                                      .Done();
@@ -47,6 +51,26 @@ void TControl::Destruct() {
 void TControl::Loaded() {
   TComponent::Loaded();
   RememberAnchorBase();
+}
+
+void TControl::Notification(TComponent* component, TOperation operation) {
+  TComponent::Notification(component, operation);
+  if (operation == opRemove && component == FPopupMenu) FPopupMenu = nullptr;
+}
+
+void TControl::SetPopupMenu(TPopupMenu* value) {
+  FPopupMenu = value;
+  if (value) value->FreeNotification(this);
+}
+
+void TControl::SetHelpKeyword(const QString& value) {
+  FHelpKeyword = value;
+  if (!HasState(csLoading) && !value.isEmpty()) FHelpType = htKeyword;
+}
+
+void TControl::SetHelpContext(int value) {
+  FHelpContext = value;
+  if (!HasState(csLoading) && value != 0) FHelpType = htContext;
 }
 
 TComponent* TControl::GetParentComponent() { return FParent; }

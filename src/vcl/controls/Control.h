@@ -18,6 +18,7 @@
 namespace kt {
 
 class TMessageAddress;
+class TPopupMenu;
 class TWinControl;
 
 /// Something with a place on a form, a look, and the mouse.
@@ -106,8 +107,19 @@ class TControl : public TComponent {
   void SetShowHint(bool value);
   bool IsParentShowHint() const { return FParentShowHint; }
   void SetParentShowHint(bool value);
+  THelpType GetHelpType() const { return FHelpType; }
+  void SetHelpType(THelpType value) { FHelpType = value; }
+  /// Setting a word that is not empty makes it the one that help goes by; a number that is not 0 likewise.
+  const QString& GetHelpKeyword() const { return FHelpKeyword; }
+  void SetHelpKeyword(const QString& value);
   int GetHelpContext() const { return FHelpContext; }
-  void SetHelpContext(int value) { FHelpContext = value; }
+  void SetHelpContext(int value);
+
+  // The menu.
+  /// Opens with the right mouse button and the menu key, here and in children without a menu of their own; its short
+  /// cuts work while the keyboard is in here. Not owned.
+  TPopupMenu* GetPopupMenu() const { return FPopupMenu; }
+  void SetPopupMenu(TPopupMenu* value);
 
   // Dragging.
   TDragKind GetDragKind() const { return FDragKind; }
@@ -136,6 +148,7 @@ class TControl : public TComponent {
   bool IsShowHintStored() const { return !FParentShowHint; }
 
   TNotifyEvent OnClick;
+  TContextPopupEvent OnContextPopup;
   TNotifyEvent OnDblClick;
   TMouseEvent OnMouseDown;
   TMouseMoveEvent OnMouseMove;
@@ -155,6 +168,7 @@ class TControl : public TComponent {
   void Construct() override;
   void Destruct() override;
   void Loaded() override;
+  void Notification(TComponent* component, TOperation operation) override;
   void SetParentComponent(TComponent* value) override;
 
   /// The one way that every message takes; overrides see them first.
@@ -176,6 +190,8 @@ class TControl : public TComponent {
   /// Sets Visible without telling anybody; CM_VISIBLECHANGED has to follow.
   void SetVisibleFlag(bool value) { FVisible = value; }
 
+  /// Before the menu opens; `handled` keeps it from doing so.
+  virtual void DoContextPopup(const QPoint& position, bool& handled) { OnContextPopup(this, position, handled); }
   virtual void Click();
   virtual void DblClick() { OnDblClick(this); }
   virtual void MouseDown(TMouseButton button, TShiftState shift, int x, int y) {
@@ -214,9 +230,11 @@ class TControl : public TComponent {
   void ApplyAnchors(QSize parentSize);
 
   TWinControl* FParent = nullptr;
+  TPopupMenu* FPopupMenu = nullptr;
   std::unique_ptr<TSizeConstraints> FConstraints;
   std::unique_ptr<TFont> FFont;
   std::unique_ptr<TMessageAddress> FAddress;
+  QString FHelpKeyword;
   QString FHint;
   QString FText;
   int FLeft = 0;
@@ -231,6 +249,7 @@ class TControl : public TComponent {
   TCursor FCursor = crDefault;
   TCursor FDragCursor = crDrag;
   TAlign FAlign = alNone;
+  THelpType FHelpType = htContext;
   TBiDiMode FBiDiMode = bdLeftToRight;
   TDragKind FDragKind = dkDrag;
   TDragMode FDragMode = dmManual;

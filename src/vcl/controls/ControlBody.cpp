@@ -95,6 +95,8 @@ bool TControlBody::Translate(QEvent* event) {
       return Wheel(static_cast<QWheelEvent*>(event));
     case QEvent::InputMethod:
       return Input(static_cast<QInputMethodEvent*>(event));
+    case QEvent::ContextMenu:
+      return OpenMenu(static_cast<QContextMenuEvent*>(event));
     case QEvent::FocusIn:
     case QEvent::FocusOut:
       return Focus(static_cast<QFocusEvent*>(event)), true;
@@ -126,6 +128,7 @@ bool TControlBody::Translate(QEvent* event) {
 }
 
 bool TControlBody::MoveFocusPastOwner(bool next) {
+  if (FControl) FControl->TabsNeeded();
   TWinControl* const owner = FControl ? FControl->FocusOwner() : nullptr;
   QWidget* const start = owner && owner != FControl ? owner->Window() : nullptr;
   if (!start) return false;

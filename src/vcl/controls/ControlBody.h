@@ -7,6 +7,7 @@
 
 #include <functional>
 
+class QContextMenuEvent;
 class QFocusEvent;
 class QInputMethodEvent;
 class QKeyEvent;
@@ -63,6 +64,7 @@ class TControlBody {
   bool PressKey(QKeyEvent* event);
   bool Wheel(QWheelEvent* event);
   bool Paint(QEvent* event);
+  bool OpenMenu(QContextMenuEvent* event);
   void Focus(QFocusEvent* event);
   bool Input(QInputMethodEvent* event);
   void Geometry();

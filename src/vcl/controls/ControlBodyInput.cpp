@@ -6,6 +6,7 @@
 #include "kt/vcl/controls/WinControl.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -96,6 +97,8 @@ bool TControlBody::TypesText(const QKeyEvent& event) {
 bool TControlBody::PressKey(QKeyEvent* event) {
   if (IsPassing(event, *FWidget)) return PassOn(event, FWidget), true;
   const quint16 key = VirtualKeyOf(*event);
+  if (key != 0 && FControl->IsMenuKey(key, ShiftStateOf(event->modifiers()))) return event->accept(), true;
+  if (!FControl) return true;
   if (FControl->OfferToParents(key, event->modifiers())) return true;
   if (IsSpecialKey(key) && FControl && !FControl->WantsKey(key)) {
     if (FControl->OfferToForm(key, event->modifiers())) return true;
@@ -136,6 +139,15 @@ bool TControlBody::Wheel(QWheelEvent* event) {
     event->accept();
   }
   return true;
+}
+
+bool TControlBody::OpenMenu(QContextMenuEvent* event) {
+  const bool isKey = event->reason() == QContextMenuEvent::Keyboard;
+  const QPoint point = event->globalPos();
+  const bool isDone = FControl->Perform(WM_CONTEXTMENU, 0, isKey ? -1 : MessagePoint(point.x(), point.y())) != 0;
+  // Else the widget has its way with it, or passes it on to its parent.
+  if (isDone || !FControl) event->accept();
+  return isDone || !FControl;
 }
 
 bool TControlBody::Input(QInputMethodEvent* event) { return FControl->InputText(event->commitString()); }

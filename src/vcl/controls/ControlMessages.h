@@ -14,7 +14,9 @@ inline constexpr quint32 WM_SETTEXT = 0x000C;    ///< LParam: const QString*
 inline constexpr quint32 WM_PAINT = 0x000F;
 inline constexpr quint32 WM_CANCELMODE = 0x001F;
 inline constexpr quint32 WM_SETCURSOR = 0x0020;  ///< Result 1: the cursor was set
-inline constexpr quint32 WM_KEYDOWN = 0x0100;    ///< WParam: virtual key code; LParam: bits of TShiftState
+/// WParam: 0; LParam: MessagePoint() on the screen, or -1 for the menu key; Result 1: a menu was open
+inline constexpr quint32 WM_CONTEXTMENU = 0x007B;
+inline constexpr quint32 WM_KEYDOWN = 0x0100;  ///< WParam: virtual key code; LParam: bits of TShiftState
 inline constexpr quint32 WM_KEYUP = 0x0101;
 inline constexpr quint32 WM_CHAR = 0x0102;  ///< WParam: UTF-16 code unit
 inline constexpr quint32 WM_SYSKEYDOWN = 0x0104;
@@ -63,5 +65,6 @@ inline constexpr quint32 CM_RECREATEWND = CM_BASE + 51;
 inline constexpr quint32 CM_CONTROLCHANGE = CM_BASE + 54;  ///< as CM_CONTROLLISTCHANGE, before or after the list
 inline constexpr quint32 CM_BIDIMODECHANGED = CM_BASE + 60;
 inline constexpr quint32 CM_PARENTBIDIMODECHANGED = CM_BASE + 61;
+inline constexpr quint32 CM_ORDERTABS = CM_BASE + 200;  ///< the windows are to be visited in another order
 
 }  // namespace kt

@@ -4,6 +4,8 @@
 #include "kt/rtl/typeinfo/Set.h"
 #include "kt/rtl/typeinfo/TypeOf.h"
 
+#include <QPoint>
+
 namespace kt {
 
 /// The side of the parent that a control keeps to.
@@ -18,6 +20,9 @@ enum TBiDiMode { bdLeftToRight, bdRightToLeft, bdRightToLeftNoAlign, bdRightToLe
 
 enum TDragMode { dmManual, dmAutomatic };
 enum TDragKind { dkDrag, dkDock };
+
+/// How help finds what is to be said: by the word of HelpKeyword, or the number of HelpContext.
+enum THelpType { htKeyword, htContext };
 
 enum TMouseButton { mbLeft, mbRight, mbMiddle };
 
@@ -79,6 +84,12 @@ struct TMouseEvent : TEvent<TObject*, TMouseButton, TShiftState, int, int> {
   using TEvent::TEvent;
   static constexpr char TypeName[] = "TMouseEvent";
 };
+/// A menu is asked for at a place of the client area, (-1, -1) with the keyboard; a handler that sets the last one to
+/// true has seen to it.
+struct TContextPopupEvent : TEvent<TObject*, const QPoint&, bool&> {
+  using TEvent::TEvent;
+  static constexpr char TypeName[] = "TContextPopupEvent";
+};
 struct TMouseMoveEvent : TEvent<TObject*, TShiftState, int, int> {
   using TEvent::TEvent;
   static constexpr char TypeName[] = "TMouseMoveEvent";
@@ -110,6 +121,11 @@ template <>
 struct TEnumNames<TDragKind> {
   static constexpr char Name[] = "TDragKind";
   static constexpr const char* Values[] = {"dkDrag", "dkDock"};
+};
+template <>
+struct TEnumNames<THelpType> {
+  static constexpr char Name[] = "THelpType";
+  static constexpr const char* Values[] = {"htKeyword", "htContext"};
 };
 template <>
 struct TEnumNames<TFormBorderStyle> {

@@ -2,6 +2,7 @@
 
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/controls/WinControl.h"
+#include "kt/vcl/menus/PopupMenu.h"
 
 /// What controls have but leave to their final classes to publish, a line each; together with the defaults and stored
 /// predicates that stay the same from class to class.
@@ -71,6 +72,10 @@ void ParentShowHint(TClassBuilder<T>& builder) {
   builder.template Property<&TControl::IsParentShowHint, &TControl::SetParentShowHint>("ParentShowHint").Default(true);
 }
 template <class T>
+void PopupMenu(TClassBuilder<T>& builder) {
+  builder.template Property<&TControl::GetPopupMenu, &TControl::SetPopupMenu>("PopupMenu");
+}
+template <class T>
 void ShowHint(TClassBuilder<T>& builder) {
   builder.template Property<&TControl::IsShowHint, &TControl::SetShowHint>("ShowHint")
       .Stored(&TControl::IsShowHintStored);
@@ -92,6 +97,7 @@ void Visible(TClassBuilder<T>& builder) {
 template <class T>
 void MouseEvents(TClassBuilder<T>& builder) {
   builder.template Property<&TControl::OnClick>("OnClick");
+  builder.template Property<&TControl::OnContextPopup>("OnContextPopup");
   builder.template Property<&TControl::OnDblClick>("OnDblClick");
   builder.template Property<&TControl::OnMouseDown>("OnMouseDown");
   builder.template Property<&TControl::OnMouseEnter>("OnMouseEnter");

@@ -40,7 +40,8 @@ void TWinControl::InsertControl(TControl* control) {
   control->FParent = this;
   if (auto* window = dynamic_cast<TWinControl*>(control)) {
     FTabList.push_back(window);
-    if (HandleAllocated()) window->HandleNeeded();
+    window->TakeWindowAlong();
+    TabsChanged();
   }
   if (!control->HasState(csReading)) {
     control->Perform(CM_PARENTCOLORCHANGED);
@@ -86,6 +87,7 @@ void TWinControl::UpdateTabOrder(int value) {
   auto& list = GetParent()->FTabList;
   std::erase(list, this);
   list.insert(list.begin() + std::min<int>(value, static_cast<int>(list.size())), this);
+  TabsChanged();
 }
 
 void TWinControl::FixupTabList() {

@@ -17,7 +17,8 @@ class TControlBody;
 /// then everything else works without. The handle of a control without parent can be put into any Qt layout or window;
 /// when Qt destroys it together with its surroundings, the control lives on without a window and can make another one.
 ///
-/// Tabs: the children are visited in the order of their TabOrder.
+/// Tabs: the children are visited in the order of their TabOrder, whoever the window around them belongs to. A new
+/// order holds for the next key that is pressed in here, and everywhere else when control is back at the event queue.
 class TWinControl : public TControl {
  public:
   using Inherited = TControl;
@@ -108,7 +109,11 @@ class TWinControl : public TControl {
   /// Makes the widget itself. `parent` may be null.
   virtual QWidget* CreateBody(QWidget* parent);
   void DestroyHandle();
+  /// Makes the window anew, in the place where it was: in the parent, or in the layout that it was embedded in. In
+  /// surroundings without a layout it gets the old parent widget and geometry.
   void RecreateWnd();
+  /// Whether the window appears on the screen by itself when it has no parent, and not with what it is embedded in.
+  virtual bool StandsAlone() const { return false; }
   /// Paints the window; what the widget shows by itself is painted by the inherited one. `clip` lies in the window.
   virtual void PaintWindow(const QRect& clip);
   /// Any event of Qt's that is not turned into a message; true when nothing is left to do.
@@ -139,9 +144,15 @@ class TWinControl : public TControl {
   /// Turns of the wheel, in eighths of a degree; true when used.
   virtual bool DoMouseWheel(TShiftState shift, int delta, bool isHorizontal, QPoint position);
 
+  /// Whether a menu here or further out has the key as a short cut; clicks its item.
+  virtual bool IsMenuKey(quint16 key, TShiftState shift);
+
+  /// Result 1: a menu was open, or a handler has seen to it.
+  virtual void WMContextMenu(TMessage& message);
   virtual void CMEnter(TMessage&) { DoEnter(); }
   virtual void CMExit(TMessage&) { DoExit(); }
   virtual void CMShowingChanged(TMessage&) {}
+  virtual void CMTabStopChanged(TMessage& message);
   /// Result 1: the control wants a key that would move the focus otherwise.
   virtual void CMWantSpecialKey(TMessage&) {}
   virtual void WMSetFocus(TMessage& message) { DefaultHandler(message); }
@@ -162,7 +173,16 @@ class TWinControl : public TControl {
   void AlignSide(TAlign align, QRect& rect);
   void UpdateTabOrder(int value);
   void FixupTabList();
+  /// The order of the tabs, or who is among them, has changed.
+  void TabsChanged();
+  void BringTabsUpToDate();
+  /// Has the topmost control do it.
+  void TabsNeeded();
+  void OrderTabs(QWidget*& last) const;
   void InitializeWindow();
+  void UpdateFocusPolicy();
+  void TakeWindowAlong();
+  void RecreateEmbedded();
   void UpdateWindowBounds();
   void UpdateWindowVisible();
   void WindowDestroyed();
@@ -184,6 +204,8 @@ class TWinControl : public TControl {
   bool FIsAligning = false;
   bool FAlignNeeded = false;
   bool FShowing = false;
+  /// BringTabsUpToDate() has something to do; kept by the topmost control.
+  bool FAreTabsOld = false;
   /// The window is being told its place, or tells it.
   bool FIsMovingWindow = false;
   /// A key message came to DefaultHandler().

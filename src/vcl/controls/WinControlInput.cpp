@@ -1,11 +1,11 @@
 // Keys, focus and the wheel of TWinControl.
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/vcl/controls/ControlBody.h"
-#include "kt/vcl/controls/CursorShapes.h"
 #include "kt/vcl/controls/Focus.h"
 #include "kt/vcl/controls/KeyCodes.h"
 #include "kt/vcl/controls/VirtualKeys.h"
 #include "kt/vcl/controls/WinControl.h"
+#include "kt/vcl/graphics/QtCursor.h"
 
 #include <QLatin1StringView>
 
@@ -31,6 +31,8 @@ void TWinControl::Dispatch(TMessage& message) {
       return WMKillFocus(message);
     case WM_CANCELMODE:
       return WMCancelMode(message);
+    case WM_CONTEXTMENU:
+      return WMContextMenu(message);
     case CM_ENTER:
       return CMEnter(message);
     case CM_EXIT:
@@ -45,6 +47,10 @@ void TWinControl::Dispatch(TMessage& message) {
     case CM_DIALOGKEY:
       for (int i = 0; i < GetControlCount() && message.Result == 0; ++i) GetControls(i)->WndProc(message);
       return;
+    case CM_TABSTOPCHANGED:
+      return CMTabStopChanged(message);
+    case CM_ORDERTABS:
+      return BringTabsUpToDate();
     case CM_RECREATEWND:
       return RecreateWnd();
     default:
@@ -138,6 +144,10 @@ bool TWinControl::CanFocus() const {
 void TWinControl::SetFocus() {
   if (!CanFocus()) throw EInvalidOperation(SCannotFocus);
   GetHandle()->setFocus();
+  if (FWindow->isActiveWindow()) return;
+  // The keyboard comes when the window is activated; until then the form has to know for whom.
+  TWinControl* const owner = FocusOwner();
+  for (TWinControl* parent = owner; parent; parent = parent->GetParent()) parent->ControlFocused(owner);
 }
 
 void TWinControl::CMCursorChanged(TMessage&) { ShowCursor(GetCursor()); }
@@ -147,7 +157,7 @@ void TWinControl::ShowCursor(TCursor cursor) {
   if (cursor == crDefault) {
     FWindow->unsetCursor();
   } else {
-    FWindow->setCursor(CursorShapeOf(cursor));
+    FWindow->setCursor(QtCursorShape(cursor));
   }
 }
 

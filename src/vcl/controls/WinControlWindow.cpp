@@ -5,6 +5,9 @@
 #include "kt/vcl/forms/Application.h"
 
 #include <QCoreApplication>
+#include <QLayout>
+
+#include <memory>
 
 namespace kt {
 
@@ -12,6 +15,11 @@ namespace {
 
 /// The control that captured the mouse beyond the press of a button.
 TWinControl* Captured = nullptr;
+
+/// False when `from` is not in the layout.
+bool Replace(QLayout& layout, QWidget* from, QWidget* to) {
+  return std::unique_ptr<QLayoutItem>(layout.replaceWidget(from, to)) != nullptr;
+}
 
 }  // namespace
 
@@ -39,11 +47,23 @@ void TWinControl::CreateWnd() {
   for (int i = 0; i < GetControlCount(); ++i) {
     if (auto* child = dynamic_cast<TWinControl*>(FControls[i])) child->HandleNeeded();
   }
+  TabsChanged();
+}
+
+/// The window follows its control to another parent, which has one already or will make it.
+void TWinControl::TakeWindowAlong() {
+  if (!GetParent()->HandleAllocated()) return DestroyHandle();
+  if (!HandleAllocated()) return HandleNeeded();
+  FIsMovingWindow = true;
+  FWindow->setParent(GetParent()->FWindow);
+  FIsMovingWindow = false;
+  UpdateWindowBounds();
+  UpdateWindowVisible();
 }
 
 void TWinControl::InitializeWindow() {
   FWindow->setAttribute(Qt::WA_OpaquePaintEvent, FControlStyle.Has(csOpaque));
-  FWindow->setFocusPolicy(FTabStop ? Qt::TabFocus : Qt::NoFocus);
+  UpdateFocusPolicy();
   FWindow->setMouseTracking(true);
   FWindow->setAttribute(Qt::WA_InputMethodEnabled);
   FWindow->setEnabled(IsEnabled());
@@ -81,18 +101,50 @@ void TWinControl::WindowDestroyed() {
 void TWinControl::RecreateWnd() {
   if (!HandleAllocated()) return;
   const bool isFocused = Focused();
-  DestroyHandle();
-  HandleNeeded();
+  if (!GetParent() && !FWindow->isWindow()) {
+    RecreateEmbedded();
+  } else {
+    const bool isShown = IsShowing() && !GetParent();
+    const QPoint position = FWindow->pos();
+    DestroyHandle();
+    HandleNeeded();
+    if (isShown) FWindow->move(position);
+    if (isShown) FWindow->show();
+  }
   if (isFocused) SetFocus();
 }
 
+/// Somebody else's layout keeps the new window in the place of the old one.
+void TWinControl::RecreateEmbedded() {
+  QWidget* const host = FWindow->parentWidget();
+  const QRect geometry = FWindow->geometry();
+  const auto place = std::make_unique<QWidget>();
+  const bool isInLayout = host->layout() && Replace(*host->layout(), FWindow, place.get());
+  DestroyHandle();
+  HandleNeeded();
+  if (isInLayout) {
+    Replace(*host->layout(), place.get(), FWindow);
+  } else {
+    FWindow->setParent(host);
+    FWindow->setGeometry(geometry);
+  }
+  if (IsVisible()) FWindow->show();
+}
+
 void TWinControl::UpdateWindowVisible() {
-  // A window of its own is shown by whoever has embedded it.
-  if (GetParent()) FWindow->setVisible(IsVisible());
+  // Without a parent it is shown by whoever embeds it, who does not show what was hidden on purpose.
+  if (GetParent() || !IsVisible()) FWindow->setVisible(IsVisible());
 }
 
 void TWinControl::CMVisibleChanged(TMessage&) {
-  if (HandleAllocated()) FWindow->setVisible(IsVisible());
+  if (!HandleAllocated()) return;
+  const bool isEmbeddedLater = !GetParent() && FWindow->isWindow() && !StandsAlone();
+  if (IsVisible() && isEmbeddedLater) {
+    // No longer hidden on purpose: appears with its surroundings.
+    FWindow->setAttribute(Qt::WA_WState_ExplicitShowHide, false);
+  } else {
+    FWindow->setVisible(IsVisible());
+  }
 }
 
 void TWinControl::CMEnabledChanged(TMessage& message) {
@@ -103,6 +155,7 @@ void TWinControl::CMEnabledChanged(TMessage& message) {
 void TWinControl::WindowShown(bool isShown) {
   if (FShowing == isShown) return;
   FShowing = isShown;
+  if (isShown && !GetParent()) BringTabsUpToDate();
   Perform(CM_SHOWINGCHANGED);
 }
 
@@ -176,6 +229,7 @@ void TWinControl::PaintWindow(const QRect&) { FBody->RunInherited(); }
 
 void TWinControl::SetMouseCapture(bool value) {
   if (value == HasMouseCapture()) return;
+  if (value) HandleNeeded();
   if (Captured && Captured->FWindow) Captured->FWindow->releaseMouse();
   Captured = value ? this : nullptr;
   // A press already brings all events here until the button is released.

@@ -80,6 +80,7 @@ class TCustomForm : public TCustomControl {
   void CreateWnd() override;
   QWidget* CreateBody(QWidget* parent) override;
   bool WindowEvent(QEvent& event) override;
+  bool StandsAlone() const override { return true; }
   void Paint() override { OnPaint(this); }
   void CMShowingChanged(TMessage& message) override;
   void CMTextChanged(TMessage& message) override;
@@ -92,7 +93,6 @@ class TCustomForm : public TCustomControl {
  private:
   Qt::WindowFlags WindowFlags() const;
   void PlaceWindow();
-  void OrderTabs(TWinControl& parent, QWidget*& last);
   void FocusActiveControl();
 
   TFormBorderStyle FBorderStyle = bsSizeable;

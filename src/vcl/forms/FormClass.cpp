@@ -24,6 +24,8 @@ const TClassInfo* TForm::Class() {
     builder.Property<&TControl::GetClientWidth, &TControl::SetClientWidth>("ClientWidth");
     Publish::Color(builder);
     Publish::Constraints(builder);
+    Publish::DragKind(builder);
+    Publish::DragMode(builder);
     Publish::Enabled(builder);
     Publish::Font(builder);
     builder.Property<&TForm::IsKeyPreview, &TForm::SetKeyPreview>("KeyPreview").Default(false);
@@ -31,6 +33,7 @@ const TClassInfo* TForm::Class() {
     Publish::ParentBiDiMode(builder);
     Publish::ParentFont(builder, false);
     builder.Property<&TForm::GetPixelsPerInch, &TForm::SetPixelsPerInch>("PixelsPerInch");
+    Publish::PopupMenu(builder);
     builder.Property<&TForm::GetPosition, &TForm::SetPosition>("Position").Default(poDefaultPosOnly);
     Publish::ShowHint(builder);
     builder.Property<&TForm::GetTextHeight, &TForm::SetTextHeight>("TextHeight");

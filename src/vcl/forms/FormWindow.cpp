@@ -94,22 +94,9 @@ void TCustomForm::PlaceWindow() {
   Window()->move(place.topLeft());
 }
 
-/// The windows are visited in the order of the controls' TabOrder.
-void TCustomForm::OrderTabs(TWinControl& parent, QWidget*& last) {
-  for (TWinControl* control : parent.GetTabList()) {
-    if (!control->HandleAllocated()) continue;
-    QWidget* const window = control->GetHandle();
-    if (last) QWidget::setTabOrder(last, window);
-    last = window;
-    OrderTabs(*control, last);
-  }
-}
-
 void TCustomForm::CMShowingChanged(TMessage& message) {
   TCustomControl::CMShowingChanged(message);
   if (!IsShowing()) return OnHide(this);
-  QWidget* last = nullptr;
-  OrderTabs(*this, last);
   FocusActiveControl();
 }
 

@@ -5,8 +5,8 @@
 #include "kt/rtl/objects/Make.h"
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
-#include "kt/vcl/controls/CursorShapes.h"
 #include "kt/vcl/controls/Focus.h"
+#include "kt/vcl/graphics/QtCursor.h"
 
 #include <QApplication>
 #include <QFontDatabase>
@@ -41,7 +41,7 @@ void TScreen::SetCursor(TCursor value) {
   if (FCursor == value) return;
   if (FCursor != crDefault) QGuiApplication::restoreOverrideCursor();
   FCursor = value;
-  if (FCursor != crDefault) QGuiApplication::setOverrideCursor(CursorShapeOf(value));
+  if (FCursor != crDefault) QGuiApplication::setOverrideCursor(QtCursorShape(value));
 }
 
 QStringList TScreen::GetFonts() const {

@@ -38,6 +38,7 @@ const TClassInfo* TDrawGrid::Class() {
     Publish::ParentColor(builder, false);
     Publish::ParentFont(builder);
     Publish::ParentShowHint(builder);
+    Publish::PopupMenu(builder);
     Publish::ScrollBars(builder);
     Publish::ShowHint(builder);
     Publish::TabOrder(builder);

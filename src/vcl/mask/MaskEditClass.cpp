@@ -36,6 +36,7 @@ const TClassInfo* TMaskEdit::Class() {
     Publish::ParentColor(builder, false);
     Publish::ParentFont(builder);
     Publish::ParentShowHint(builder);
+    Publish::PopupMenu(builder);
     builder.Property<&TMaskEdit::IsReadOnly, &TMaskEdit::SetReadOnly>("ReadOnly").Default(false);
     Publish::ShowHint(builder);
     Publish::TabOrder(builder);

@@ -96,8 +96,9 @@ void TCustomEdit::UpdateColors() {
 }
 
 bool TCustomEdit::WindowEvent(QEvent& event) {
-  // System colours are other ones now.
-  if (event.type() == QEvent::PaletteChange && !FIsUpdatingColors) UpdateColors();
+  const bool isPaletteChange = event.type() == QEvent::PaletteChange && !FIsUpdatingColors && FLineEdit;
+  // System colours are other ones now. What somebody else has set besides is left to him.
+  if (isPaletteChange && !HasColors(*FLineEdit, GetColor(), GetFont().GetColor())) UpdateColors();
   return TWinControl::WindowEvent(event);
 }
 

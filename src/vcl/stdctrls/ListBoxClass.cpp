@@ -32,6 +32,7 @@ const TClassInfo* TListBox::Class() {
     Publish::ParentColor(builder, false);
     Publish::ParentFont(builder);
     Publish::ParentShowHint(builder);
+    Publish::PopupMenu(builder);
     Publish::ShowHint(builder);
     builder.Property<&T::IsSorted, &T::SetSorted>("Sorted").Default(false);
     Publish::TabOrder(builder);

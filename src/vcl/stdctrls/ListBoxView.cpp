@@ -116,6 +116,9 @@ void TCustomListBox::TView::focusInEvent(QFocusEvent* event) {
 }
 
 bool TCustomListBox::TView::viewportEvent(QEvent* event) {
+  if (event->type() == QEvent::ContextMenu) {
+    return HandleEvent(event, [this](QEvent* passed) { return QListView::viewportEvent(passed); });
+  }
   if (!IsMouse(*event)) return QListView::viewportEvent(event);
   auto* mouse = static_cast<QMouseEvent*>(event);
   // Positions are those in the control, and not in the part of it that scrolls.

@@ -48,8 +48,13 @@ void TCustomListBox::UpdateLook() {
 }
 
 bool TCustomListBox::WindowEvent(QEvent& event) {
-  // System colours are other ones now.
-  if (event.type() == QEvent::PaletteChange && !FIsUpdatingLook) UpdateLook();
+  if (event.type() == QEvent::PaletteChange && !FIsUpdatingLook && View()) {
+    // System colours are other ones now. What somebody else has set besides is left to him.
+    const QPalette& palette = View()->palette();
+    const bool isSelectionOld =
+        palette.brush(QPalette::Inactive, QPalette::Highlight) != palette.brush(QPalette::Active, QPalette::Highlight);
+    if (isSelectionOld || !HasColors(*View(), GetColor(), GetFont().GetColor())) UpdateLook();
+  }
   return TWinControl::WindowEvent(event);
 }
 

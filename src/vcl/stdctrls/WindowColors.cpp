@@ -19,4 +19,10 @@ QPalette PaletteOf(const QWidget& widget, TColor ground, TColor text) {
   return palette;
 }
 
+bool HasColors(const QWidget& widget, TColor ground, TColor text) {
+  const QPalette around = PaletteAround(widget);
+  return widget.palette().color(QPalette::Active, QPalette::Base) == QtColor(ground, around) &&
+         widget.palette().color(QPalette::Active, QPalette::Text) == QtColor(text, around);
+}
+
 }  // namespace kt

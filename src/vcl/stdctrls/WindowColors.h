@@ -15,5 +15,7 @@ QPalette PaletteAround(const QWidget& widget);
 /// colours are those of the present surroundings; they have to be asked for anew when the widget hears
 /// QEvent::PaletteChange.
 QPalette PaletteOf(const QWidget& widget, TColor ground, TColor text);
+/// Whether the widget shows them.
+bool HasColors(const QWidget& widget, TColor ground, TColor text);
 
 }  // namespace kt

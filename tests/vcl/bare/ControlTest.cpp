@@ -237,6 +237,20 @@ TEST_F(ControlTest, NegativePositionsSurviveTheirMessage) {
   EXPECT_EQ(PointOfMessage(MessagePoint(-3, -70)), QPoint(-3, -70));
 }
 
+TEST_F(ControlTest, HelpGoesByWhatWasSetLast) {
+  EXPECT_EQ(Child.GetHelpType(), htContext);
+  Child.SetHelpKeyword(QStringLiteral("grids"));
+  EXPECT_EQ(Child.GetHelpType(), htKeyword);
+  Child.SetHelpContext(7);
+  EXPECT_EQ(Child.GetHelpType(), htContext);
+}
+
+TEST_F(ControlTest, HelpThatIsTakenAwayDoesNotChangeWhatItGoesBy) {
+  Child.SetHelpKeyword(QStringLiteral("grids"));
+  Child.SetHelpContext(0);
+  EXPECT_EQ(Child.GetHelpType(), htKeyword);
+}
+
 TEST_F(ControlTest, AskingForAPaintNeedsNoWindow) {
   Child.Invalidate();
   Child.Repaint();

@@ -82,6 +82,13 @@ TEST_F(WindowColorsTest, AnEditThatGoesBackToTheSystemColorFollowsAgain) {
   EXPECT_EQ(Colors(Edit), "#202020 #e0e0e0");
 }
 
+TEST_F(WindowColorsTest, WhatSomebodySetsBesidesStays) {
+  QPalette palette = Edit.GetHandle()->palette();
+  palette.setColor(QPalette::ButtonText, Qt::red);
+  Edit.GetHandle()->setPalette(palette);
+  EXPECT_EQ(Edit.GetHandle()->palette().color(QPalette::ButtonText), QColor(Qt::red));
+}
+
 TEST_F(WindowColorsTest, AListFollowsItsSurroundings) {
   Darken();
   EXPECT_EQ(Colors(List), "#202020 #e0e0e0");
@@ -112,9 +119,11 @@ TEST_F(WindowColorsTest, AllFollowThePaletteOfTheProgram) {
   const QPalette before = QApplication::palette();
   Edit.SetColor(clBtnFace);
   QApplication::setPalette(Dark());
+  TWindowProbe::Settle();
   const QString edit = Colors(Edit);
   const QString list = Colors(List);
   QApplication::setPalette(before);
+  TWindowProbe::Settle();
   EXPECT_EQ(edit, "#404040 #e0e0e0");
   EXPECT_EQ(list, "#202020 #e0e0e0");
 }

@@ -1,0 +1,168 @@
+#include "kt/vcl/menus/MenuItem.h"
+
+#include "kt/rtl/objects/LifeWatch.h"
+#include "kt/rtl/typeinfo/ClassBuilder.h"
+#include "kt/vcl/menus/Menu.h"
+
+#include <algorithm>
+
+namespace kt {
+
+namespace {
+
+constexpr QLatin1StringView SMenuIndexError{"Menu index out of range"};
+constexpr QLatin1StringView SMenuReinserted{"Menu inserted twice"};
+constexpr QLatin1StringView SMenuNotFound{"Sub-menu is not in menu"};
+
+QString WithoutHotkey(QString caption) { return caption.remove(u'&'); }
+
+}  // namespace
+
+const TClassInfo* TMenuItem::Class() {
+  using T = TMenuItem;
+  static const TClassInfo info = [] {
+    TClassBuilder<T> builder("TMenuItem");
+    builder.Property<&T::IsAutoCheck, &T::SetAutoCheck>("AutoCheck").Default(false);
+    builder.Property<&T::GetCaption, &T::SetCaption>("Caption");
+    builder.Property<&T::IsChecked, &T::SetChecked>("Checked").Default(false);
+    builder.Property<&T::IsDefault, &T::SetDefault>("Default").Default(false);
+    builder.Property<&T::IsEnabled, &T::SetEnabled>("Enabled").Default(true);
+    builder.Property<&T::GetGroupIndex, &T::SetGroupIndex>("GroupIndex").Default(0);
+    builder.Property<&T::GetHelpContext, &T::SetHelpContext>("HelpContext").Default(0);
+    builder.Property<&T::GetHint, &T::SetHint>("Hint");
+    builder.Property<&T::IsRadioItem, &T::SetRadioItem>("RadioItem").Default(false);
+    builder.Property<&T::GetShortCut, &T::SetShortCut>("ShortCut", &ShortCutTypeInfo).Default(0);
+    builder.Property<&T::IsVisible, &T::SetVisible>("Visible").Default(true);
+    builder.Property<&T::OnClick>("OnClick");
+    return builder.Creatable().Done();
+  }();
+  return &info;
+}
+
+void TMenuItem::Destruct() {
+  Destroying();
+  if (FParent) FParent->Remove(this);
+  Clear();
+  TComponent::Destruct();
+}
+
+void TMenuItem::CheckIndex(int index, int end) const {
+  if (index < 0 || index >= end) throw EMenuError(SMenuIndexError);
+}
+
+TMenuItem* TMenuItem::GetItems(int index) const {
+  CheckIndex(index, GetCount());
+  return FItems[index];
+}
+
+void TMenuItem::Insert(int index, TMenuItem* item) {
+  CheckIndex(index, GetCount() + 1);
+  if (item->FParent) throw EMenuError(SMenuReinserted);
+  FItems.insert(FItems.begin() + index, item);
+  item->FParent = this;
+}
+
+void TMenuItem::Delete(int index) {
+  GetItems(index)->FParent = nullptr;
+  FItems.erase(FItems.begin() + index);
+}
+
+void TMenuItem::Remove(TMenuItem* item) {
+  const int index = IndexOf(item);
+  if (index < 0) throw EMenuError(SMenuNotFound);
+  Delete(index);
+}
+
+void TMenuItem::Clear() {
+  // An item takes itself out.
+  while (!FItems.empty()) delete FItems.back();
+}
+
+int TMenuItem::IndexOf(const TMenuItem* item) const {
+  const auto found = std::find(FItems.begin(), FItems.end(), item);
+  return found == FItems.end() ? -1 : static_cast<int>(found - FItems.begin());
+}
+
+TMenuItem* TMenuItem::Find(const QString& caption) const {
+  for (TMenuItem* item : FItems) {
+    if (WithoutHotkey(item->FCaption).compare(WithoutHotkey(caption), Qt::CaseInsensitive) == 0) return item;
+  }
+  return nullptr;
+}
+
+bool TMenuItem::Contains(const TMenuItem* item) const {
+  return std::any_of(FItems.begin(), FItems.end(),
+                     [item](const TMenuItem* below) { return below == item || below->Contains(item); });
+}
+
+TMenuItem* TMenuItem::FindShortCut(TShortCut shortCut) {
+  if (shortCut == scNone || !FEnabled) return nullptr;
+  if (FShortCut == shortCut && FItems.empty()) return this;
+  for (TMenuItem* item : FItems) {
+    if (TMenuItem* found = item->FindShortCut(shortCut)) return found;
+  }
+  return nullptr;
+}
+
+void TMenuItem::UncheckGroup() {
+  if (!FParent) return;
+  for (TMenuItem* item : FParent->FItems) {
+    if (item != this && item->FRadioItem && item->FGroupIndex == FGroupIndex) item->FChecked = false;
+  }
+}
+
+void TMenuItem::SetChecked(bool value) {
+  FChecked = value;
+  if (value && FRadioItem) UncheckGroup();
+}
+
+void TMenuItem::SetRadioItem(bool value) {
+  FRadioItem = value;
+  if (FChecked && value) UncheckGroup();
+}
+
+void TMenuItem::SetGroupIndex(quint8 value) {
+  FGroupIndex = value;
+  if (FChecked && FRadioItem) UncheckGroup();
+}
+
+void TMenuItem::SetDefault(bool value) {
+  FDefault = value;
+  if (!value || !FParent) return;
+  for (TMenuItem* item : FParent->FItems) {
+    if (item != this) item->FDefault = false;
+  }
+}
+
+void TMenuItem::Click() {
+  if (!FEnabled) return;
+  // A radio item that is checked stays so: another one of its group has to take the check over.
+  if (FAutoCheck && !(FRadioItem && FChecked)) SetChecked(!FChecked);
+  OnClick(this);
+}
+
+TComponent* TMenuItem::GetParentComponent() {
+  if (FParent && FParent->FMenu) return FParent->FMenu;
+  return FParent;
+}
+
+void TMenuItem::SetParentComponent(TComponent* value) {
+  if (FParent) FParent->Remove(this);
+  if (auto* menu = dynamic_cast<TMenu*>(value)) {
+    menu->GetItems().Add(this);
+  } else if (auto* item = dynamic_cast<TMenuItem*>(value)) {
+    item->Add(this);
+  }
+}
+
+void TMenuItem::GetChildren(const TGetChildProc& proc, TComponent*) {
+  for (TMenuItem* item : std::vector<TMenuItem*>(FItems)) proc(item);
+}
+
+void TMenuItem::SetChildOrder(TComponent* child, int order) {
+  auto* item = dynamic_cast<TMenuItem*>(child);
+  if (std::erase(FItems, item) == 0) return;
+  FItems.insert(FItems.begin() + std::clamp(order, 0, GetCount()), item);
+}
+
+}  // namespace kt

@@ -1,0 +1,121 @@
+#pragma once
+
+#include "kt/rtl/objects/Component.h"
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/typeinfo/Event.h"
+#include "kt/vcl/menus/ShortCut.h"
+
+#include <vector>
+
+namespace kt {
+
+class TMenu;
+
+/// A menu item cannot be where it was asked to be.
+class EMenuError : public Exception {
+  using Exception::Exception;
+};
+
+/// An entry of a menu, which may have a menu of its own below it. A caption of "-" makes a line between entries; the
+/// letter behind "&" is the one that chooses the entry.
+///
+/// Frees the items below it when it is destroyed.
+class TMenuItem : public TComponent {
+ public:
+  using Inherited = TComponent;
+
+  static const TClassInfo* Class();
+  const TClassInfo* ClassType() const override { return Class(); }
+
+  const QString& GetCaption() const { return FCaption; }
+  void SetCaption(const QString& value) { FCaption = value; }
+  /// Whether a click changes Checked.
+  bool IsAutoCheck() const { return FAutoCheck; }
+  void SetAutoCheck(bool value) { FAutoCheck = value; }
+  bool IsChecked() const { return FChecked; }
+  /// Checking a radio item takes the check from the others of its group.
+  void SetChecked(bool value);
+  /// Shown in bold. One of its neighbours at most.
+  bool IsDefault() const { return FDefault; }
+  void SetDefault(bool value);
+  bool IsEnabled() const { return FEnabled; }
+  void SetEnabled(bool value) { FEnabled = value; }
+  /// Radio items next to each other with the same number belong together.
+  quint8 GetGroupIndex() const { return FGroupIndex; }
+  void SetGroupIndex(quint8 value);
+  int GetHelpContext() const { return FHelpContext; }
+  void SetHelpContext(int value) { FHelpContext = value; }
+  /// Its long share goes to the application while the entry is highlighted.
+  const QString& GetHint() const { return FHint; }
+  void SetHint(const QString& value) { FHint = value; }
+  bool IsRadioItem() const { return FRadioItem; }
+  void SetRadioItem(bool value);
+  TShortCut GetShortCut() const { return FShortCut; }
+  void SetShortCut(TShortCut value) { FShortCut = value; }
+  bool IsVisible() const { return FVisible; }
+  void SetVisible(bool value) { FVisible = value; }
+
+  // The items below.
+  int GetCount() const { return static_cast<int>(FItems.size()); }
+  /// Raises EMenuError "Menu index out of range", as do the others that take an index.
+  TMenuItem* GetItems(int index) const;
+  void Add(TMenuItem* item) { Insert(GetCount(), item); }
+  /// Raises EMenuError "Menu inserted twice" for an item that is in a menu.
+  void Insert(int index, TMenuItem* item);
+  /// Takes an item out, without freeing it.
+  void Delete(int index);
+  /// Raises EMenuError "Sub-menu is not in menu".
+  void Remove(TMenuItem* item);
+  /// Frees all items below.
+  void Clear();
+  int IndexOf(const TMenuItem* item) const;
+  /// The item below with a caption, compared without "&" and without regard to case; null when there is none.
+  TMenuItem* Find(const QString& caption) const;
+  /// Whether the item is somewhere below this one.
+  bool Contains(const TMenuItem* item) const;
+  /// The first item with a short cut that can be chosen, all levels searched; or null.
+  TMenuItem* FindShortCut(TShortCut shortCut);
+
+  TMenuItem* GetParent() const { return FParent; }
+  int GetMenuIndex() const { return FParent ? FParent->IndexOf(this) : -1; }
+  bool IsLine() const { return FCaption == u"-"; }
+  /// What choosing the entry does: checks it, if it does so by itself, and raises OnClick. Not while disabled.
+  virtual void Click();
+
+  TComponent* GetParentComponent() override;
+  bool HasParent() override { return FParent != nullptr; }
+
+  TNotifyEvent OnClick;
+
+ protected:
+  friend class TMenu;
+
+  explicit TMenuItem(TComponent* owner = nullptr) : TComponent(owner) {}
+
+  void Destruct() override;
+  void GetChildren(const TGetChildProc& proc, TComponent* root) override;
+  void SetChildOrder(TComponent* child, int order) override;
+  void SetParentComponent(TComponent* value) override;
+
+ private:
+  void CheckIndex(int index, int end) const;
+  void UncheckGroup();
+
+  std::vector<TMenuItem*> FItems;
+  TMenuItem* FParent = nullptr;
+  /// The menu whose root this is.
+  TMenu* FMenu = nullptr;
+  QString FCaption;
+  QString FHint;
+  int FHelpContext = 0;
+  TShortCut FShortCut = scNone;
+  quint8 FGroupIndex = 0;
+  bool FAutoCheck = false;
+  bool FChecked = false;
+  bool FDefault = false;
+  bool FEnabled = true;
+  bool FRadioItem = false;
+  bool FVisible = true;
+};
+
+}  // namespace kt
