@@ -25,7 +25,7 @@ void TKTInplaceEditList::Construct() {
 
 void TKTInplaceEditList::CreateWnd() {
   TInplaceEdit::CreateWnd();
-  if (FButtonWidth == 0) FButtonWidth = TEditButton::UsualWidth();
+  if (FButtonWidth < 0) FButtonWidth = TEditButton::UsualWidth();
 }
 
 void TKTInplaceEditList::Notification(TComponent* component, TOperation operation) {

@@ -5,6 +5,7 @@
 #include "kt/vcl/grids/GridTypes.h"
 #include "kt/vcl/grids/InplaceEdit.h"
 
+#include <algorithm>
 #include <memory>
 
 namespace kt {
@@ -39,7 +40,7 @@ class TKTInplaceEditList : public TInplaceEdit {
   const QString& GetExpression() const { return FMatcher->GetExpression(); }
   void SetExpression(const QString& value) { FMatcher->SetExpression(value); }
   /// In pixels.
-  int GetButtonWidth() const { return FButtonWidth; }
+  int GetButtonWidth() const { return std::max(FButtonWidth, 0); }
   void SetButtonWidth(int value) { FButtonWidth = value; }
   /// The most lines that the list shows without scrolling.
   int GetDropDownRows() const { return FDropDownRows; }
@@ -146,7 +147,8 @@ class TKTInplaceEditList : public TInplaceEdit {
   bool FPickListLoaded = false;
   bool FPressed = false;
   bool FTracking = false;
-  int FButtonWidth = 0;
+  /// Negative until the window knows the usual one, or somebody sets it.
+  int FButtonWidth = -1;
   int FDropDownRows = 0;
   TEditStyle FEditStyle = esSimple;
   TWinControl* FActiveList = nullptr;

@@ -74,7 +74,7 @@ bool TKTInplaceEditList::IsGridKey(quint16 key, TShiftState shift) {
 /// Whether Ctrl and an arrow move in the text rather than from cell to cell.
 bool TKTInplaceEditList::MovesByWord(quint16 key, TShiftState shift) const {
   if (!shift.Has(ssCtrl) || !GetGrid().GetOptions().Has(goAlwaysShowEditor)) return false;
-  const int size = static_cast<int>(GetText().size());
+  const int size = static_cast<int>(WindowText().size());
   const int start = GetSelStart();
   const int end = start + GetSelLength();
   if (key == VK_LEFT) return !(GetCaretPos() == 0 && start == 0 && (end == 0 || end == size));
@@ -85,7 +85,7 @@ bool TKTInplaceEditList::MovesByWord(quint16 key, TShiftState shift) const {
 void TKTInplaceEditList::ArrowKeys(quint16 key, TShiftState shift) {
   if (!shift.Has(ssCtrl)) return;
   const int caret = GetCaretPos();
-  const int target = key == VK_LEFT ? PreviousWord(GetText(), caret) : NextWord(GetText(), caret);
+  const int target = key == VK_LEFT ? PreviousWord(WindowText(), caret) : NextWord(WindowText(), caret);
   if (!shift.Has(ssShift)) return SetSelStart(target);
   const int start = GetSelStart();
   const int fixed = caret == start ? start + GetSelLength() : start;

@@ -50,7 +50,7 @@ void TKTInplaceEditList::TakeTypingBack() {
       Select(FAcceptedCaret, FAcceptedCaret);
     }
   }
-  TMessage changed{CM_TEXTCHANGED, 0, 0, 0};
+  TMessage changed{CM_TEXTCHANGED, kTextHasChanged, 0, 0};
   TInplaceEdit::CMTextChanged(changed);
 }
 

@@ -223,6 +223,10 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   void VisibleChanged(TKTItemProp* item);
   void InvalidateItem(const TKTItemProp& item);
 
+  /// Items by name, values by the name of their item.
+  TGridCellDescription DescribeCell(int col, int row) override;
+  void ToggleCell(int col, int row) override;
+
   // Editing. All of these take cells of the grid.
 
   /// Makes a TKTInplaceEditList.
@@ -247,14 +251,15 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   /// The item's mask when that is an expression.
   virtual QString GetExpressionMask(int col, int row);
 
+  /// Makes the columns fill the width, with doAutoColResize.
+  virtual void AdjustColWidths();
+  virtual void AdjustGridCount();
+
  public:
   /// Without regard to case unless CaseSensitive. All matching of names goes through it.
   virtual int CompareStrings(const QString& s1, const QString& s2);
 
  protected:
-  /// Makes the columns fill the width, with doAutoColResize.
-  virtual void AdjustColWidths();
-  virtual void AdjustGridCount();
   /// Fills the category map of Items.
   virtual void FillCategories() {}
 
@@ -334,8 +339,8 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   // Drawing.
   void UseCellFont(const TGridInfo& info, TKTItemProp* item);
   void Indent(TKTItemProp& item, QRect& rect);
-  QRect GlyphRect(const TKTItemProp& item, const QRect& cell) const;
-  void DrawGlyph(const TKTItemProp& item, const QRect& place);
+  QRect GlyphRect(const TKTItemProp& item, const QRect& cell, TPicture& glyph) const;
+  void DrawGlyph(const TKTItemProp& item, const QRect& cell);
   void DrawBox(const QRect& place, bool isExpanded);
   void UseSelectionColors(const QRect& rect, TGridDrawState state);
   void DrawCellText(const QRect& rect, const QString& text);
@@ -369,6 +374,7 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   template <class F>
   void ChangeAll(F change);
   void FreeItem(TKTItemProp* item);
+  void SwapCounts();
   TGridCoord CellOf(int row, int field) const;
   std::unique_ptr<TKTCustomDeltaFont> MakeFont();
   void ValueFontChanged(TObject*);

@@ -1,4 +1,5 @@
 #include "kt/KTItemListEditor/ItemListEditor.h"
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/strings/StringList.h"
 
 namespace kt {
@@ -84,6 +85,8 @@ void TKTCustomItemListEditor::SetCell(int col, int row, const QString& value) {
 }
 
 void TKTCustomItemListEditor::SetColumnTitles(bool value) {
+  // The cell of the editor is about to become that of another item.
+  HideEditor();
   const int fixed = value ? 1 : 0;
   if (FOrientation == goVertical) {
     if (value && GetRowCount() < 2) SetRowCount(2);
@@ -99,23 +102,28 @@ void TKTCustomItemListEditor::SetDisplayOptions(TILEDisplayOptions value) {
   const TILEDisplayOptions added = value - FDisplayOptions;
   const TILEDisplayOptions removed = FDisplayOptions - value;
   const TILEDisplayOptions changed = added + removed;
+  const bool reopens = changed.Has(doColumnTitles) && IsEditorMode();
   if (changed.Has(doColumnTitles)) SetColumnTitles(value.Has(doColumnTitles));
   if (removed.Has(doMultiColValues)) SetGridCount(gcFieldCount, 2);
   FDisplayOptions = value;
   AdjustColWidths();
+  // Both ways: read-only items come back as they went.
   if (changed.Has(doShowReadOnly)) RefreshVisibleItems();
   Refresh();
+  if (reopens) ShowEditor();
 }
 
 void TKTCustomItemListEditor::SetOrientation(TKTGridOrientation value) {
   if (FOrientation == value) return;
+  const TLifeWatch self(this);
+  // What is typed belongs to a cell of the grid as it was.
+  HideEditor();
+  if (!self.IsAlive()) return;
   FOrientation = value;
   OrientationChange();
 }
 
-void TKTCustomItemListEditor::OrientationChange() {
-  HideEditor();
-  const TGridRect selection = GetSelection();
+void TKTCustomItemListEditor::SwapCounts() {
   const int cols = GetColCount();
   if (FOrientation == goVertical) {
     SetColCount(GetRowCount());
@@ -125,10 +133,20 @@ void TKTCustomItemListEditor::OrientationChange() {
     SetRowCount(cols);
     SetColCount(rows);
   }
+}
+
+void TKTCustomItemListEditor::OrientationChange() {
+  HideEditor();
+  const TGridRect selection = GetSelection();
+  // The counts in a form are already those of the orientation in it.
+  if (!HasState(csReading)) SwapCounts();
   SetColumnTitles(FDisplayOptions.Has(doColumnTitles));
   // Left over from the title line, which was on the other axis.
   if (GetGridCount(gcFixedFields) == 1) SetGridCount(gcFixedFields, 0);
-  SetSelection({selection.Top, selection.Left, selection.Bottom, selection.Right});
+  const TGridRect turned{selection.Top, selection.Left, selection.Bottom, selection.Right};
+  // Handlers of the new current cell may have removed what was selected.
+  const bool isInside = turned.Right < GetColCount() && turned.Bottom < GetRowCount();
+  if (isInside && !HasState(csReading)) SetSelection(turned);
   Refresh();
   ShowEditor();
 }

@@ -125,7 +125,9 @@ bool TKTCustomItemListEditor::PressItem(TShiftState shift, TGridCoord cell, QPoi
 
 bool TKTCustomItemListEditor::PressGlyph(TGridCoord cell, QPoint point) {
   TKTItemProp* item = FindItemProp(cell.X, cell.Y, true);
-  if (!item || !item->IsExpandable() || !GlyphRect(*item, CellRect(cell.X, cell.Y)).contains(point)) return false;
+  if (!item || !item->IsExpandable()) return false;
+  // Deliberately of the expanded glyph's size, whichever shows.
+  if (!GlyphRect(*item, CellRect(cell.X, cell.Y), *FMinusGlyph).contains(point)) return false;
   item->SetExpanded(!item->IsExpanded());
   return true;
 }

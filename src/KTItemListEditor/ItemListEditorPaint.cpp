@@ -40,7 +40,7 @@ void TKTCustomItemListEditor::UseCellFont(const TGridInfo& info, TKTItemProp* it
 void TKTCustomItemListEditor::Indent(TKTItemProp& item, QRect& rect) {
   const bool hasGlyph = item.IsExpandable() && item.HasVisibleChildren();
   const int indent = item.GetLevel() * FIndent;
-  if (hasGlyph) DrawGlyph(item, GlyphRect(item, rect));
+  if (hasGlyph) DrawGlyph(item, rect);
   const int taken = indent + FIndent;
   if (UseRightToLeftAlignment()) {
     rect.setWidth(rect.width() - taken);
@@ -49,20 +49,18 @@ void TKTCustomItemListEditor::Indent(TKTItemProp& item, QRect& rect) {
   }
 }
 
-QRect TKTCustomItemListEditor::GlyphRect(const TKTItemProp& item, const QRect& cell) const {
+QRect TKTCustomItemListEditor::GlyphRect(const TKTItemProp& item, const QRect& cell, TPicture& glyph) const {
   const int indent = item.GetLevel() * FIndent;
-  const int width = FMinusGlyph->GetWidth();
-  const int x = UseRightToLeftAlignment() ? cell.left() + cell.width() - indent - width : cell.left() + indent;
-  return {x, cell.top() + (TCustomDrawGrid::GetDefaultRowHeight() - FMinusGlyph->GetHeight()) / 2, width,
-          FMinusGlyph->GetHeight()};
+  const QSize size(glyph.GetWidth(), glyph.GetHeight());
+  const int x = UseRightToLeftAlignment() ? cell.left() + cell.width() - indent - size.width() : cell.left() + indent;
+  return {{x, cell.top() + (TCustomDrawGrid::GetDefaultRowHeight() - size.height()) / 2}, size};
 }
 
-void TKTCustomItemListEditor::DrawGlyph(const TKTItemProp& item, const QRect& place) {
+void TKTCustomItemListEditor::DrawGlyph(const TKTItemProp& item, const QRect& cell) {
   TPicture& glyph = item.IsExpanded() ? *FMinusGlyph : *FPlusGlyph;
-  if (item.IsExpanded() ? FHasOwnMinusGlyph : FHasOwnPlusGlyph) {
-    const int top = place.top() + (FMinusGlyph->GetHeight() - glyph.GetHeight()) / 2;
-    return GetCanvas().Draw(place.left(), top, glyph.GetGraphic());
-  }
+  const QRect place = GlyphRect(item, cell, glyph);
+  const bool isOwn = item.IsExpanded() ? FHasOwnMinusGlyph : FHasOwnPlusGlyph;
+  if (isOwn) return GetCanvas().Draw(place.left(), place.top(), glyph.GetGraphic());
   DrawBox(place, item.IsExpanded());
 }
 
@@ -97,6 +95,33 @@ void TKTCustomItemListEditor::DrawCellText(const QRect& rect, const QString& tex
   int x = rect.left() + kTextInset;
   if (UseRightToLeftAlignment()) x = rect.left() + rect.width() - kTextInset - canvas.TextWidth(text);
   canvas.TextRect(rect, x, rect.top() + kTextInset, text);
+}
+
+// What those are told who cannot see it.
+
+TGridCellDescription TKTCustomItemListEditor::DescribeCell(int col, int row) {
+  TGridCellDescription description;
+  TKTItemProp* item = FindItemProp(col, row, true);
+  if (!item) {
+    description.Name = GetCell(col, row);
+    return description;
+  }
+  description.Name = item->GetName();
+  description.Hint = item->GetHint();
+  description.IsEnabled = item->GetEnabled();
+  if (IsValueCell(col, row)) {
+    description.Value = GetCell(col, row);
+    description.IsReadOnly = item->IsReadOnly();
+  } else {
+    description.IsReadOnly = !FPropertyOptions.Has(propEdit);
+    description.IsExpandable = item->IsExpandable() && item->HasVisibleChildren();
+    description.IsExpanded = item->IsExpanded();
+  }
+  return description;
+}
+
+void TKTCustomItemListEditor::ToggleCell(int col, int row) {
+  if (TKTItemProp* item = FindItemProp(col, row, true)) item->SetExpanded(!item->IsExpanded());
 }
 
 // What it is drawn with.

@@ -44,6 +44,17 @@ TEST_F(InplaceEditListKeysTest, LeavingByKeySelectsTheTextInALoadedList) {
   EXPECT_EQ("red green >blue", Lines());
 }
 
+TEST_F(InplaceEditListKeysTest, WordsOfAMaskedTextAreThoseThatShow) {
+  Item(0).SetValue(QStringLiteral("12"));
+  Item(0).SetEditMask(QStringLiteral("(000) 000-0000;0;_"));
+  Show();
+  Edit().SetSelStart(14);
+  Key(Qt::Key_Left, Qt::ControlModifier);
+  EXPECT_EQ(1, Edit().GetSelStart());
+  Key(Qt::Key_Right, Qt::ControlModifier);
+  EXPECT_EQ(14, Edit().GetSelStart());
+}
+
 TEST_F(InplaceEditListKeysTest, EnterWithAltLeavesTheListOpen) {
   ShowColors();
   OpenList();

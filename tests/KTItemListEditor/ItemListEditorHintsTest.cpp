@@ -1,6 +1,11 @@
+#include "kt/vcl/grids/InplaceEdit.h"
 #include "support/Expect.h"
 #include "support/ItemLists.h"
 #include "support/WindowProbe.h"
+
+#include <QEnterEvent>
+#include <QLabel>
+#include <QScrollBar>
 
 namespace kt::tests {
 namespace {
@@ -39,6 +44,14 @@ class ItemListEditorHintsTest : public TItemListTest {
     TKTHintWindow& window = FEditor->GetHintWindow();
     return window.IsShown() ? window.GetText() : QStringLiteral("-");
   }
+  /// Where the window of the hint is on the screen.
+  QPoint HintPlace() {
+    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+      const auto* label = qobject_cast<const QLabel*>(widget);
+      if (label && label->isVisible()) return label->geometry().topLeft();
+    }
+    return {-1, -1};
+  }
   int Asked() { return static_cast<THintedEditor&>(*FEditor).Asked; }
 
   static inline const QString kLong = QString(80, u'w');
@@ -61,13 +74,20 @@ TEST_F(ItemListEditorHintsTest, ATextThatIsCutOffIsShown) {
 
 TEST_F(ItemListEditorHintsTest, ANameThatIsCutOffIsShownOverItsText) {
   Show("a");
-  Item("a").SetName(kLong);
+  const QString name(30, u'w');
+  Item("a").SetName(name);
   MoveTo(0, 1);
-  EXPECT_EQ(kLong, Hint());
-  const QPoint at = FEditor->ClientToScreen(FEditor->CellRect(0, 1).topLeft());
-  const QWidget* label = FWindow->Body()->findChild<QWidget*>(QString(), Qt::FindChildrenRecursively);
-  EXPECT_NE(nullptr, label);
-  EXPECT_TRUE(at.x() >= 0);
+  EXPECT_EQ(name, Hint());
+  EXPECT_EQ(FEditor->ClientToScreen(FEditor->CellRect(0, 1).topLeft() + QPoint(FEditor->GetIndent(), 0)), HintPlace());
+}
+
+TEST_F(ItemListEditorHintsTest, AValueThatIsCutOffIsShownOverItsCell) {
+  Show("a");
+  const QString value(30, u'w');
+  Item("a").SetValue(value);
+  MoveTo(1, 1);
+  EXPECT_EQ(value, Hint());
+  EXPECT_EQ(FEditor->ClientToScreen(FEditor->CellRect(1, 1).topLeft()), HintPlace());
 }
 
 TEST_F(ItemListEditorHintsTest, IndentationCountsForNames) {
@@ -177,6 +197,23 @@ TEST_F(ItemListEditorHintsTest, LeavingTheControlHidesTheHintAtOnce) {
   MoveTo(1, 1);
   QEvent leave(QEvent::Leave);
   QApplication::sendEvent(FWindow->Body(), &leave);
+  EXPECT_EQ("-", Hint());
+}
+
+TEST_F(ItemListEditorHintsTest, ThePointerOverTheInplaceEditorOrAScrollBarHasLeftTheCells) {
+  Show("a b");
+  Item("a").SetName(kLong);
+  FEditor->SetOptions(FEditor->GetOptions() + TGridOptions{goAlwaysShowEditor});
+  FEditor->SetFocus();
+  FEditor->SetEditorMode(true);
+  MoveTo(0, 1);
+  EXPECT_EQ(kLong, Hint());
+  QEnterEvent entered({2, 2}, {2, 2}, {2, 2});
+  QApplication::sendEvent(FEditor->InplaceEditor()->GetHandle(), &entered);
+  EXPECT_EQ("-", Hint());
+  MoveTo(0, 1, 1);
+  EXPECT_EQ(kLong, Hint());
+  QApplication::sendEvent(FWindow->Body()->findChild<QScrollBar*>(), &entered);
   EXPECT_EQ("-", Hint());
 }
 

@@ -268,6 +268,18 @@ TEST_F(ItemListEditorInputTest, EnterOnAnUnchangedItemValidatesNothing) {
   EXPECT_EQ(0, count);
 }
 
+TEST_F(ItemListEditorInputTest, EnterOnAnUnchangedItemWritesNothing) {
+  Show("a b");
+  Item("a").SetValue("stored");
+  FEditor->OnGetEditText = [](TObject*, int, int, QString& text) { text = QStringLiteral("shown"); };
+  FEditor->OnSetEditText = [this](TObject*, int, int, const QString& text) { FErrors += text; };
+  FEditor->SetEditorMode(true);
+  FErrors.clear();
+  Key(Qt::Key_Return);
+  EXPECT_EQ(QStringList(), FErrors);
+  EXPECT_EQ("stored", Item("a").GetValue());
+}
+
 TEST_F(ItemListEditorInputTest, ARefusedValueKeepsTheCellAndIsTakenBack) {
   Show("a b");
   Item("a").SetValue("old");

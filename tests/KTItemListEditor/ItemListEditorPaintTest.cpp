@@ -136,6 +136,20 @@ TEST_F(ItemListEditorPaintTest, AGlyphOfOnesOwnIsDrawnAsItIs) {
   EXPECT_EQ("", Only("image", 0, 1));
 }
 
+TEST_F(ItemListEditorPaintTest, EachGlyphHasASizeOfItsOwn) {
+  Fill("a [b] c [d]");
+  const auto large = Make<TBitmap>();
+  large->SetSize(9, 15);
+  const auto picture = Make<TPicture>();
+  picture->SetGraphic(large.get());
+  FEditor->SetMinusGlyph(*picture);
+  EXPECT_TRUE(HasGlyphAt(0, 0, 1));
+  Item("a").Expand();
+  EXPECT_EQ("image 0,1 9x15", Only(QStringLiteral("image"), 0, 1));
+  FEditor->GetMinusGlyph().SetGraphic(nullptr);
+  EXPECT_TRUE(HasGlyphAt(0, 0, 3));
+}
+
 TEST_F(ItemListEditorPaintTest, ANegativeIndentIsIgnored) {
   FEditor->SetIndent(-1);
   EXPECT_EQ(11, FEditor->GetIndent());
@@ -173,6 +187,8 @@ TEST_F(ItemListEditorPaintTest, TitlesHaveTheirFont) {
 TEST_F(ItemListEditorPaintTest, CategoriesAreBoldAndPurple) {
   Items().AddCategory("c", false);
   EXPECT_EQ("text 13 'c' #800080", Text(0, 1));
+  EXPECT_EQ(TFontStyles{fsBold}, FEditor->GetCategoryFont().GetStyle());
+  EXPECT_EQ(TFontStyles{fsBold}, Item("c").GetFont().GetStyle());
 }
 
 TEST_F(ItemListEditorPaintTest, TheCurrentCellLooksLikeAnyOtherWhileTheEditorHasNoFocus) {

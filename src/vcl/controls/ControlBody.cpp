@@ -5,6 +5,7 @@
 #include "kt/vcl/controls/KeyCodes.h"
 #include "kt/vcl/controls/WinControl.h"
 
+#include <QCursor>
 #include <QHelpEvent>
 #include <QPaintEvent>
 
@@ -111,11 +112,13 @@ bool TControlBody::Translate(QEvent* event) {
       return true;
     case QEvent::Enter:
       HintControlChanged(FControl);
+      PointerCameTo(*FWidget);
       if (FControl) FControl->Perform(CM_MOUSEENTER);
       return false;
     case QEvent::Leave:
       HintControlChanged(FControl->GetParent());
       if (FControl) FControl->Perform(CM_MOUSELEAVE);
+      PointerWentFrom(*FWidget);
       return false;
     case QEvent::ToolTip: {
       const auto* help = static_cast<QHelpEvent*>(event);
@@ -125,6 +128,18 @@ bool TControlBody::Translate(QEvent* event) {
     default:
       return FControl->WindowEvent(*event);
   }
+}
+
+void TControlBody::PointerCameTo(const QWidget& child) {
+  const TControlBody* const body = child.isWindow() ? nullptr : Of(child.parentWidget());
+  if (body && body->FControl) body->FControl->Perform(CM_MOUSELEAVE);
+}
+
+void TControlBody::PointerWentFrom(const QWidget& child) {
+  QWidget* const parent = child.isWindow() ? nullptr : child.parentWidget();
+  const TControlBody* const body = Of(parent);
+  if (!body || !body->FControl || !parent->rect().contains(parent->mapFromGlobal(QCursor::pos()))) return;
+  body->FControl->Perform(CM_MOUSEENTER);
 }
 
 bool TControlBody::MoveFocusPastOwner(bool next) {

@@ -38,6 +38,11 @@ class TControlBody {
   /// Whether a key sends characters; keys that move or delete do not, whatever text they have.
   static bool TypesText(const QKeyEvent& event);
 
+  /// The pointer came to a child of a widget of ours, which it has left by that. Qt itself does not say so.
+  static void PointerCameTo(const QWidget& child);
+  /// The pointer went from a child; if not out of the parent as well, it is the parent's again.
+  static void PointerWentFrom(const QWidget& child);
+
   TWinControl* Control() const { return FControl; }
   /// The control lets go: the widget disappears, at once or when nothing of it is on the stack any more.
   void Retire();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kt/vcl/controls/CustomControl.h"
+#include "kt/vcl/grids/GridAccessibility.h"
 #include "kt/vcl/grids/GridAxis.h"
 #include "kt/vcl/grids/GridTypes.h"
 
@@ -108,6 +109,10 @@ class TCustomGrid : public TCustomControl {
 
  protected:
   friend class TInplaceEdit;
+  friend class TGridCellAccessible;
+  friend class TGridAccessible;
+  friend void GridAccessibility::TellCurrentCell(const TCustomGrid& grid);
+  friend void GridAccessibility::TellSize(const TCustomGrid& grid);
 
   explicit TCustomGrid(TComponent* owner = nullptr);
   ~TCustomGrid() override;
@@ -169,6 +174,11 @@ class TCustomGrid : public TCustomControl {
   /// with the distance of the position from there.
   virtual void CalcSizingState(int x, int y, TGridState& state, int& index, int& sizingPos, int& sizingOfs,
                                TGridDrawInfo& fixedInfo);
+
+  /// What assistive technology is told of a cell; here, that it has no text.
+  virtual TGridCellDescription DescribeCell(int col, int row);
+  /// Expands or collapses what the cell stands for.
+  virtual void ToggleCell(int, int) {}
 
   /// Makes a cell the current one, if SelectCell() allows it. `moveAnchor`: the selection becomes that cell alone.
   /// Raises EInvalidGridOperation "Grid index out of range".

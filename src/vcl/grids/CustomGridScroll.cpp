@@ -74,6 +74,7 @@ QMargins TCustomGrid::GetClientMargins() const {
 
 void TCustomGrid::CreateWnd() {
   TCustomControl::CreateWnd();
+  GridAccessibility::Install();
   FBarWidth = Window()->style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, Window());
   FHorzBar = new TGridScrollBar(Qt::Horizontal, Window(), [this](int value) { ScrolledTo(value, FRows.First); });
   FVertBar = new TGridScrollBar(Qt::Vertical, Window(), [this](int value) { ScrolledTo(FCols.First, value); });

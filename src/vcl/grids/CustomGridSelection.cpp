@@ -40,6 +40,7 @@ void TCustomGrid::MoveCurrent(int col, int row, bool moveAnchor, bool show) {
   SelectionMoved(oldSelection);
   InvalidateCell(oldCurrent.X, oldCurrent.Y);
   InvalidateCell(FCurrent.X, FCurrent.Y);
+  if (FCurrent != oldCurrent) GridAccessibility::TellCurrentCell(*this);
 }
 
 void TCustomGrid::SetSelection(const TGridRect& value) {

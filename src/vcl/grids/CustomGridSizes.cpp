@@ -68,6 +68,7 @@ void TCustomGrid::ChangeSize(int newColCount, int newRowCount) {
   FRows.First = std::clamp(FRows.First, FRows.Fixed, FRows.Count - 1);
   ScrollBarsNeedUpdate();
   InvalidateGrid();
+  GridAccessibility::TellSize(*this);
   SizeChanged(oldColCount, oldRowCount);
 }
 

@@ -1,6 +1,7 @@
 #include "kt/vcl/grids/GridScrollBar.h"
 
 #include "kt/rtl/objects/UnhandledExceptions.h"
+#include "kt/vcl/controls/ControlBody.h"
 
 #include <QSignalBlocker>
 
@@ -24,6 +25,12 @@ int TGridScrollBar::ThumbPixel() const {
   const int length = orientation() == Qt::Vertical ? height() : width();
   const qint64 range = qint64{maximum()} - minimum() + pageStep();
   return range <= 0 ? 0 : static_cast<int>((qint64{sliderPosition()} - minimum()) * length / range);
+}
+
+bool TGridScrollBar::event(QEvent* event) {
+  if (event->type() == QEvent::Enter) GuardedCall([this] { TControlBody::PointerCameTo(*this); });
+  if (event->type() == QEvent::Leave) GuardedCall([this] { TControlBody::PointerWentFrom(*this); });
+  return QScrollBar::event(event);
 }
 
 void TGridScrollBar::sliderChange(SliderChange change) {

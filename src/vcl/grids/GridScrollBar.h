@@ -16,6 +16,7 @@ class TGridScrollBar : public QScrollBar {
   void ShowPosition(int first, int last, int page, int position);
 
  protected:
+  bool event(QEvent* event) override;
   void sliderChange(SliderChange change) override;
 
  private:

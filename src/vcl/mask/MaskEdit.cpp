@@ -49,7 +49,7 @@ void TCustomMaskEdit::StartFrom(const QString& text) {
 void TCustomMaskEdit::TextSet() {
   // Where one starts to type; behind the last cell there is nothing left to.
   if (IsMasked()) SetSelStart(0);
-  Perform(CM_TEXTCHANGED);
+  Perform(CM_TEXTCHANGED, kTextHasChanged);
 }
 
 QString TCustomMaskEdit::TextWithMask(const QString& mask, TMaskSyntax& syntax) const {

@@ -53,7 +53,7 @@ void TCustomMaskEdit::ShowChanged(const QString& text, int anchor, int caret) {
   SetWindowText(text);
   SetModified(true);
   Select(anchor, caret);
-  Perform(CM_TEXTCHANGED);
+  Perform(CM_TEXTCHANGED, kTextHasChanged);
 }
 
 /// The window was changed past the keys: by an input method, a drop, its menu.
@@ -90,7 +90,7 @@ void TCustomMaskEdit::Undo() {
   SetWindowText(step.Text);
   SetModified(step.Text != FOldText);
   SetSelStart(step.Caret);
-  Perform(CM_TEXTCHANGED);
+  Perform(CM_TEXTCHANGED, kTextHasChanged);
 }
 
 void TCustomMaskEdit::DefaultHandler(TMessage& message) {

@@ -122,13 +122,14 @@ void TCustomEdit::SetAccessibleName(const QString& value) {
 
 void TCustomEdit::CMTextChanged(TMessage& message) {
   TWinControl::CMTextChanged(message);
-  Change();
+  // A message that somebody else sent asks to look at the text again: it has not changed.
+  if (message.WParam == kTextHasChanged || !HandleAllocated()) Change();
 }
 
 void TCustomEdit::SetText(const QString& value) {
   if (GetText() == value) return;
   SetTextSilently(value);
-  Perform(CM_TEXTCHANGED);
+  Perform(CM_TEXTCHANGED, kTextHasChanged);
 }
 
 void TCustomEdit::SetWindowText(const QString& value) {
@@ -151,7 +152,7 @@ void TCustomEdit::WindowTextChanged(const QString& text, bool byUser) {
   if (WindowText() == text) return;
   FModified = FModified || FLineEdit->isModified();
   StoreText(text);
-  Perform(CM_TEXTCHANGED);
+  Perform(CM_TEXTCHANGED, kTextHasChanged);
 }
 
 void TCustomEdit::SetModified(bool value) {

@@ -61,6 +61,9 @@ class TCustomEdit : public TWinControl {
   TNotifyEvent OnChange;
 
  protected:
+  /// In WParam of CM_TEXTCHANGED: the text is another one. Without it the text is only to be looked at again.
+  static constexpr qintptr kTextHasChanged = 1;
+
   explicit TCustomEdit(TComponent* owner = nullptr) : TWinControl(owner) {}
 
   void Construct() override;
