@@ -95,7 +95,9 @@ void TCustomGrid::UpdateEditor() {
 
 void TCustomGrid::UpdateText() {
   if (FInplaceCell.X < 0 || FInplaceCell.Y < 0 || !FInplaceEdit) return;
-  SetEditText(FInplaceCell.X, FInplaceCell.Y, FInplaceEdit->GetText());
+  // A copy: handlers of the text may free the edit.
+  const QString text = FInplaceEdit->GetText();
+  SetEditText(FInplaceCell.X, FInplaceCell.Y, text);
 }
 
 void TCustomGrid::HideEdit() {
