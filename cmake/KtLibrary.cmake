@@ -1,5 +1,6 @@
 # What every library of the project has in common.
 include(GNUInstallDirs)
+include(KtPrecompile)
 if(PROJECT_IS_TOP_LEVEL)
   include(KtHeaders)
 endif()
@@ -34,6 +35,7 @@ function(kt_library name)
   target_include_directories(kt_${name} PUBLIC $<BUILD_INTERFACE:${KT_INCLUDE_ROOT}>
                                                $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
   target_link_libraries(kt_${name} PUBLIC ${ARG_LINKS} PRIVATE $<BUILD_INTERFACE:kt_own_options>)
+  kt_precompile(kt_${name})
   set_property(GLOBAL APPEND PROPERTY KT_LIBRARIES ${name})
   set_property(GLOBAL PROPERTY KT_LINKS_OF_${name} ${ARG_LINKS})
   if(COMMAND kt_check_headers)

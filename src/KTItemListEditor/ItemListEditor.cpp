@@ -92,6 +92,7 @@ void TKTCustomItemListEditor::FontChanged() {
   for (TKTCustomDeltaFont* font : {FTitleCaptionFont.get(), FCategoryFont.get(), FValueFont.get()}) {
     if (font) font->BaseFontChanged(&GetFont());
   }
+  FollowFonts();
   if (FTitleCaptionFont) FitRowHeight();
   Invalidate();
 }
@@ -101,8 +102,14 @@ void TKTCustomItemListEditor::ValueFontChanged(TObject*) {
   for (int i = 0; i < FItems->GetCount(); ++i) FItems->GetItem(i)->ParentValueFontChanged();
 }
 
+/// Also those below categories, and categories once their font has followed.
+void TKTCustomItemListEditor::FollowFonts() {
+  for (int i = 0; FItems && i < FItems->GetCount(); ++i) FItems->GetItem(i)->FollowFonts();
+}
+
 void TKTCustomItemListEditor::CategoryFontChanged(TObject*) {
   FitRowHeight();
+  FollowFonts();
   if (FArrangeByCategory) Invalidate();
 }
 

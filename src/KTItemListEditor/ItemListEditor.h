@@ -379,6 +379,7 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   std::unique_ptr<TKTCustomDeltaFont> MakeFont();
   void ValueFontChanged(TObject*);
   void CategoryFontChanged(TObject*);
+  void FollowFonts();
   void TitleCaptionFontChanged(TObject*);
   void TitleCaptionsChange(TObject*);
   TKTItemProps& LevelOf(const TKTItemProp& item) const;

@@ -113,7 +113,9 @@ void TKTCustomItemListEditor::AdjustGridCount() {
   if (wanted < GetGridCount(gcCurrentLine)) SetGridCount(gcCurrentLine, wanted - 1);
   // Whoever heard of the new current line may have changed the rows.
   SetGridCount(gcLineCount, WantedLineCount());
-  if (FDisplayOptions.Has(doColumnTitles) && GetGridCount(gcCurrentLine) == 0) SetGridCount(gcCurrentLine, 1);
+  // While the grid turns, the title line may still be missing.
+  const bool isOnTitles = FDisplayOptions.Has(doColumnTitles) && GetGridCount(gcCurrentLine) == 0;
+  if (isOnTitles && GetGridCount(gcLineCount) > 1) SetGridCount(gcCurrentLine, 1);
 }
 
 void TKTCustomItemListEditor::DisableEditUpdate() {

@@ -135,8 +135,20 @@ static void MoveTo(TKTItemProp& item, TCollection& target) {
   if (error) std::rethrow_exception(error);
 }
 
+/// What an item and those below it inherit.
+struct TKTItemProp::TLooks {
+  explicit TLooks(TKTItemProp& item)
+      : Font(item.FontToInherit(false)), CategoryFont(item.FontToInherit(true)), ValueFont(item.ValueFontToInherit()) {}
+  bool operator==(const TLooks& other) const = default;
+
+  const TFont* Font;
+  const TFont* CategoryFont;
+  const TFont* ValueFont;
+};
+
 void TKTItemProp::SetCollection(TCollection* value) {
   const TItemWatch self(this);
+  const TLooks looks(*this);
   try {
     if (value && GetCollection() && GetCollection() != value && InheritsFrom(value->GetItemClass())) {
       MoveTo(*this, *value);
@@ -149,6 +161,8 @@ void TKTItemProp::SetCollection(TCollection* value) {
     FIsDying ? TItemRows::Leave(*this) : TItemRows::EnterAgain(*this);
     throw;
   }
+  // There may be a whole tree below, which mostly goes on inheriting the same.
+  if (self && (FRare || FItems) && !(looks == TLooks(*this))) FollowFonts();
 }
 
 TKTItemProp* TKTItemProp::GetParent() const {

@@ -24,7 +24,8 @@ class TStringList;
 /// Setters do nothing when the value is the present one; texts compare with regard to case.
 ///
 /// Cost: a leaf with a name and a value of one line takes 104 bytes and its two texts. Child collection, value list,
-/// pick list, fonts, hint, mask and events take memory from their first use; nobody can tell when they come into being.
+/// pick list, fonts, hint, mask and events take memory from their first use; nobody can tell when they come into being:
+/// an item that inherits a font looks like what it inherits from, whether it was ever asked for it or not.
 /// The editor and the places in its lists are found in time in proportion to the level, the places also to the
 /// logarithm of the number of siblings.
 class TKTItemProp : public TCollectionItem {
@@ -129,7 +130,8 @@ class TKTItemProp : public TCollectionItem {
   bool IsValueFontStored() const { return !FParentValueFont; }
 
   /// Copies everything but Enabled and the events. A disabled source arrives as read-only, names are not checked for
-  /// uniqueness and nothing moves.
+  /// uniqueness and nothing moves. Fonts come after ParentFont and ParentValueFont: a look that is not the present one
+  /// becomes the item's own.
   void Assign(TPersistent* source) override;
 
   /// What the item takes in the lists that it counts in.
@@ -214,7 +216,8 @@ class TKTItemProp : public TCollectionItem {
   virtual void FullExpand();
   virtual bool HasVisibleChildren();
   virtual bool IsExpandable();
-  /// Whether the item has a row: it and all its ancestors are to be seen, and those are expanded.
+  /// Whether the item has a row: it and all its ancestors want one, and those are expanded. The rows themselves follow
+  /// WantsRow(), which is what to override for other rows.
   virtual bool IsVisible();
   /// Whether there is nothing but blanks in Values.
   virtual bool IsValuesEmpty();
@@ -253,8 +256,15 @@ class TKTItemProp : public TCollectionItem {
   void TellParentValueFontChanged();
   bool HasFontObject() const;
   bool HasValueFontObject() const;
-  TFont* FontToInherit();
+  TFont* FontToInherit() { return FontToInherit(FCategory); }
+  TFont* FontToInherit(bool asCategory);
   TFont* ValueFontToInherit();
+  bool HasLookOf(TKTItemProp& other);
+  bool HasValueLookOf(TKTItemProp& other);
+  void FollowFont();
+  void FollowValueFont();
+  void FollowFonts();
+  struct TLooks;
   void InvalidateRow();
   void TellValidateError(const Exception& error);
   void SetExpandedFlag(bool value);

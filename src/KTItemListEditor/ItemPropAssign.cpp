@@ -53,12 +53,35 @@ bool TKTItemProp::HasValueFontObject() const { return FRare && FRare->ValueFont;
 void TKTItemProp::AssignFonts(TKTItemProp& source) {
   const TItemWatch self(this);
   const TItemWatch from(&source);
-  // Where both inherit what they look like without an object, the copy goes on inheriting.
-  if (HasFontObject() || source.HasFontObject()) GetFont().Assign(&source.GetFont());
+  // As a category, or none any more, the item may inherit from elsewhere.
+  FollowFonts();
   if (!self || !from) return;
-  FParentFont = source.FParentFont;
-  if (HasValueFontObject() || source.HasValueFontObject()) GetValueFont().Assign(&source.GetValueFont());
-  if (self && from) FParentValueFont = source.FParentValueFont;
+  SetParentFont(source.FParentFont);
+  if (!self || !from) return;
+  if (!HasLookOf(source)) GetFont().Assign(&source.GetFont());
+  if (!self || !from) return;
+  SetParentValueFont(source.FParentValueFont);
+  if (!self || !from) return;
+  if (!HasValueLookOf(source)) GetValueFont().Assign(&source.GetValueFont());
+}
+
+namespace {
+
+/// Null is the framework's font.
+bool AreSame(const TFont* font, const TFont* other) {
+  return font == other || (font && other && font->IsSameAs(*other));
+}
+
+}  // namespace
+
+bool TKTItemProp::HasLookOf(TKTItemProp& other) {
+  return AreSame(HasFontObject() ? FRare->Font.get() : FontToInherit(),
+                 other.HasFontObject() ? other.FRare->Font.get() : other.FontToInherit());
+}
+
+bool TKTItemProp::HasValueLookOf(TKTItemProp& other) {
+  return AreSame(HasValueFontObject() ? FRare->ValueFont.get() : ValueFontToInherit(),
+                 other.HasValueFontObject() ? other.FRare->ValueFont.get() : other.ValueFontToInherit());
 }
 
 void TKTItemProp::AssignValues(TKTItemProp& source) {

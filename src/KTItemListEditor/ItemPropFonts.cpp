@@ -4,19 +4,22 @@
 #include "kt/KTItemListEditor/ItemWatch.h"
 #include "kt/rtl/objects/Make.h"
 
+#include <deque>
+#include <vector>
+
 namespace kt {
 
 // An item without a font object of its own looks as the item or editor looks that it inherits from, which is what its
 // object would be a copy of.
 
-TFont* TKTItemProp::FontToInherit() {
+TFont* TKTItemProp::FontToInherit(bool asCategory) {
   for (TKTItemProp* parent = GetParent(); parent; parent = parent->GetParent()) {
     // A category's font reaches categories only, and an item's passes by categories.
-    if (parent->FCategory == FCategory && parent->FRare && parent->FRare->Font) return parent->FRare->Font.get();
+    if (parent->FCategory == asCategory && parent->FRare && parent->FRare->Font) return parent->FRare->Font.get();
   }
   TKTCustomItemListEditor* editor = GetEditor();
   if (!editor) return nullptr;
-  return FCategory ? &editor->GetCategoryFont() : &editor->GetFont();
+  return asCategory ? &editor->GetCategoryFont() : &editor->GetFont();
 }
 
 TFont* TKTItemProp::ValueFontToInherit() {
@@ -83,11 +86,7 @@ void TKTItemProp::ParentFontChanged(TKTItemProp* source) {
   if (!source && !editor) return;
   // Without a font object nothing changes here, but there may be one below.
   if (!FRare || !FRare->Font) return TellParentFontChanged(this);
-  TFont& font = source ? source->GetFont() : FCategory ? editor->GetCategoryFont() : editor->GetFont();
-  const TItemWatch self(this);
-  FRare->Font->Assign(&font);
-  // The copy counted as a change of its own.
-  if (self) FParentFont = true;
+  FollowFont();
 }
 
 void TKTItemProp::ParentValueFontChanged() {
@@ -96,9 +95,42 @@ void TKTItemProp::ParentValueFontChanged() {
   TKTCustomItemListEditor* editor = parent ? nullptr : GetEditor();
   if (!parent && !editor) return;
   if (!FRare || !FRare->ValueFont) return TellParentValueFontChanged();
+  FollowValueFont();
+}
+
+// What inherits looks like its source, also after that has become another one.
+
+void TKTItemProp::FollowFont() {
+  TFont* source = FParentFont && HasFontObject() ? FontToInherit() : nullptr;
+  if (!source) return;
   const TItemWatch self(this);
-  FRare->ValueFont->Assign(parent ? &parent->GetValueFont() : &editor->GetValueFont());
+  FRare->Font->Assign(source);
+  // The copy counted as a change of its own.
+  if (self) FParentFont = true;
+}
+
+void TKTItemProp::FollowValueFont() {
+  TFont* source = FParentValueFont && HasValueFontObject() ? ValueFontToInherit() : nullptr;
+  if (!source) return;
+  const TItemWatch self(this);
+  FRare->ValueFont->Assign(source);
   if (self) FParentValueFont = true;
+}
+
+/// For this item and all below it, parents first.
+void TKTItemProp::FollowFonts() {
+  std::deque<TItemWatch> withFonts;
+  std::vector<TKTItemProp*> open = {this};
+  while (!open.empty()) {
+    TKTItemProp& item = *open.back();
+    open.pop_back();
+    if (item.HasFontObject() || item.HasValueFontObject()) withFonts.emplace_back(&item);
+    for (int i = item.FItems ? item.FItems->GetCount() : 0; i > 0; --i) open.push_back(item.FItems->GetItem(i - 1));
+  }
+  for (const TItemWatch& item : withFonts) {
+    if (item) item->FollowFont();
+    if (item) item->FollowValueFont();
+  }
 }
 
 void TKTItemProp::SetParentFont(bool value) {

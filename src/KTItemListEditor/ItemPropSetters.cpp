@@ -123,6 +123,8 @@ void TKTItemProp::SetCategory(bool value) {
   const TItemWatch self(this);
   if (!value && FDefaultCategory) SetDefaultCategory(false);
   if (self) ParentFontChanged(nullptr);
+  // Who is below may inherit from elsewhere now.
+  if (self) FollowFonts();
   // Categories show although they are read-only.
   if (self && IsReadOnly()) VisibleChanged();
   if (self) Changed(false);

@@ -37,12 +37,24 @@ TObject* TKTItemStrings::GetObject(int index) const { return ItemAt(index).GetIt
 
 void TKTItemStrings::PutObject(int index, TObject* object) { ItemAt(index).SetItemObject(object); }
 
-void TKTItemStrings::Insert(int index, const QString& text) {
+void TKTItemStrings::Insert(int index, const QString& text) { AddLine(index, text); }
+
+int TKTItemStrings::AddObject(const QString& text, TObject* object) {
+  const int index = GetCount();
+  InsertObject(index, text, object);
+  return index;
+}
+
+void TKTItemStrings::InsertObject(int index, const QString& text, TObject* object) {
+  if (TKTItemProp* item = AddLine(index, text)) item->SetItemObject(object);
+}
+
+TKTItemProp* TKTItemStrings::AddLine(int index, const QString& text) {
   if (index < 0 || index > GetCount()) Error(SListIndexError, index);
   const qsizetype end = text.indexOf(QLatin1Char('='));
   const QString name = end < 0 ? text : text.left(end);
   const QString value = end < 0 ? QString() : text.mid(end + 1);
-  FEditor.GetItems().AddFullPath(name, value, !FEditor.GetPropertyOptions().Has(propUnique));
+  return FEditor.GetItems().AddFullPath(name, value, !FEditor.GetPropertyOptions().Has(propUnique));
 }
 
 void TKTItemStrings::Delete(int index) {

@@ -23,6 +23,9 @@ class TKTItemStrings : public TStrings {
   /// lands where the path puts it. Raises EStringListError "List index out of bounds (%d)" for an index outside
   /// 0..GetCount().
   void Insert(int index, const QString& text) override;
+  /// The object goes to the item that the path leads to.
+  int AddObject(const QString& text, TObject* object) override;
+  void InsertObject(int index, const QString& text, TObject* object) override;
   /// Frees the item and all below it.
   void Delete(int index) override;
   void Clear() override;
@@ -38,6 +41,7 @@ class TKTItemStrings : public TStrings {
 
  private:
   class TKTItemProp& ItemAt(int index) const;
+  TKTItemProp* AddLine(int index, const QString& text);
 
   TKTCustomItemListEditor& FEditor;
   bool FShowVisibleOnly = false;

@@ -281,5 +281,15 @@ TEST_F(ItemListEditorCategoriesTest, AHandlerMayFreeTheItemThatItIsAskedAbout) {
   EXPECT_EQ("Miscellaneous [a c]", TreeText());
 }
 
+TEST_F(ItemListEditorCategoriesTest,
+       NoCopyGoesUnderACategoryBesideWhenTheItemStandsInADefaultCategoryThatItsOwnListRecords) {
+  Fill("C [x]");
+  Item("C").SetCategory(true);
+  Item("C").SetDefaultCategory(true);
+  Item("C").GetItems().SetDefaultCategory(&Item("C"));
+  FEditor->Categorize(&Item("C.x"), Map("x=A"), true);
+  EXPECT_EQ("C [x] A", TreeText());
+}
+
 }  // namespace
 }  // namespace kt::tests

@@ -216,5 +216,11 @@ TEST_F(ItemListEditorLookupTest, CountsAreThoseOfAllItemsAndOfRows) {
   EXPECT_EQ(&Item("d"), FEditor->GetVisibleItem(1));
 }
 
+TEST_F(ItemListEditorLookupTest, AKeyThatCannotBeComparedWithATextFindsNothing) {
+  FillWithValues();
+  EXPECT_EQ("nil", Found(1.5));
+  EXPECT_EQ("nil", Found(Variant::Null()));
+}
+
 }  // namespace
 }  // namespace kt::tests

@@ -283,5 +283,12 @@ TEST(PublishedItemsTest, TheCollectionPublishesItsCategories) {
   EXPECT_EQ("Categories DefaultCategoryName", names.join(u' '));
 }
 
+TEST(PublishedItemsTest, TheLinesPublishWhetherTheyAreThoseOfTheRowsOnly) {
+  ASSERT_EQ(1, TKTItemStrings::Class()->Props().size());
+  const TPropInfo* property = TKTItemStrings::Class()->Props()[0];
+  EXPECT_EQ("ShowVisibleOnly", property->Name());
+  EXPECT_EQ(0, property->Default());
+}
+
 }  // namespace
 }  // namespace kt::tests

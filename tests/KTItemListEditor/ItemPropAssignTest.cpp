@@ -51,13 +51,16 @@ TEST_F(ItemPropAssignTest, PlainPropertiesAreCopied) {
   EXPECT_EQ("s=1", Target().GetDisplayName());
 }
 
-TEST_F(ItemPropAssignTest, AFontOfTheTargetsOwnGivesWay) {
+TEST_F(ItemPropAssignTest, AFontOfTheTargetsOwnGivesWayToTheLookOfTheSource) {
   Item("t").GetFont().SetColor(clRed);
   Item("t").GetValueFont().SetColor(clRed);
   Copy();
   EXPECT_EQ(Item("s").GetFont().GetColor(), Target().GetFont().GetColor());
   EXPECT_EQ(Item("s").GetValueFont().GetColor(), Target().GetValueFont().GetColor());
-  EXPECT_TRUE(Target().GetParentFont() && Target().GetParentValueFont());
+  // Another look than before becomes the item's own, whatever the source's was.
+  EXPECT_FALSE(Target().GetParentFont());
+  // The value font was back at its parent's when it was compared.
+  EXPECT_TRUE(Target().GetParentValueFont());
 }
 
 TEST_F(ItemPropAssignTest, TheCategoryMapBelowIsCopiedAlsoWhenItIsEmpty) {
@@ -203,7 +206,7 @@ TEST_F(ItemPropAssignTest, AFontOfItsOwnIsCopied) {
   EXPECT_FALSE(Target().GetParentValueFont());
 }
 
-TEST_F(ItemPropAssignTest, AnInheritingSourceMakesAnInheritingCopy) {
+TEST_F(ItemPropAssignTest, AnInheritingSourceThatLooksTheSameMakesAnInheritingCopy) {
   Item("s").GetFont();
   Copy();
   EXPECT_TRUE(Target().GetParentFont());

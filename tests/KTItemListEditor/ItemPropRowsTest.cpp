@@ -1,4 +1,6 @@
 #include "kt/KTItemListEditor/ItemProp.h"
+#include "kt/KTItemListEditor/ItemProps.h"
+#include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "support/ItemLists.h"
 #include "support/ItemProbe.h"
 
@@ -118,6 +120,42 @@ TEST_F(ItemPropRowsTest, WithoutShowReadOnlyRowsComeAndGoWithReadOnlyEnabledAndC
   EXPECT_EQ(">b", RowsText());
   Item("a").SetEnabled(true);
   EXPECT_EQ("a | >b", RowsText());
+}
+
+// Descendants with an answer of their own.
+
+class TStayingItem : public TKTItemProp {
+ public:
+  using Inherited = TKTItemProp;
+  static const TClassInfo* Class() {
+    static const TClassInfo info = TClassBuilder<TStayingItem>("TStayingItem").Creatable().Done();
+    return &info;
+  }
+  const TClassInfo* ClassType() const override { return Class(); }
+
+ protected:
+  explicit TStayingItem(TCollection* collection) : TKTItemProp(collection) {}
+
+  bool WantsRow() override { return GetVisible(); }
+};
+
+class TStayingEditor : public TKTItemListEditor {
+ protected:
+  explicit TStayingEditor(TComponent* owner = nullptr) : TKTItemListEditor(owner) {}
+  std::unique_ptr<TKTItemProps> CreateItems(TPersistent* owner) override {
+    return Make<TKTItemProps>(owner, TStayingItem::Class());
+  }
+};
+
+TEST_F(ItemPropRowsTest, RowsFollowADescendantsOwnAnswer) {
+  FEditor = Make<TStayingEditor>();
+  Fill("a [b]");
+  FEditor->SetDisplayOptions(FEditor->GetDisplayOptions() - TILEDisplayOptions{doShowReadOnly});
+  Item("a.b").SetReadOnly(true);
+  Item("a").Expand();
+  EXPECT_EQ(">a | b", RowsText());
+  EXPECT_TRUE(Item("a.b").IsVisible());
+  EXPECT_EQ(1, Item("a").GetVisibleChildCount());
 }
 
 }  // namespace

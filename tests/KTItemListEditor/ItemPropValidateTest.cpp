@@ -112,5 +112,11 @@ TEST_F(ItemPropValidateTest, AnItemThatItsOwnHandlerFreesIsNotValidatedAnyMore) 
   EXPECT_EQ("b", TreeText());
 }
 
+TEST_F(ItemPropValidateTest, AnErrorOfAnItemWithoutEditorAndHandlerGoesToTheCallerAsItIs) {
+  const auto item = Make<TKTItemProp>(nullptr);
+  item->SetOnValidate(Throwing<EConvertError>("no number"));
+  EXPECT_EQ("no number", MessageOf<EConvertError>([&] { item->Validate(); }));
+}
+
 }  // namespace
 }  // namespace kt::tests

@@ -173,5 +173,19 @@ TEST_F(OneValueColumnTest, ALineThatIsNotThereIsAnError) {
   EXPECT_EQ("List index out of bounds (1)", MessageOf<EStringListError>([&] { Item("a").GetValueLine(1); }));
 }
 
+TEST_F(ItemPropValuesTest, PaddingTellsOfNoComingChangeEither) {
+  Values("b").SetText("1");
+  int count = 0;
+  Values("b").OnChanging = [&](TObject*) { ++count; };
+  EXPECT_EQ("", Values("b").GetStrings(1));
+  EXPECT_EQ(0, count);
+  Values("b").SetInitializing(true);
+  Values("b").Add("3");
+  EXPECT_EQ(0, count);
+  Values("b").SetInitializing(false);
+  Values("b").Add("4");
+  EXPECT_EQ(1, count);
+}
+
 }  // namespace
 }  // namespace kt::tests

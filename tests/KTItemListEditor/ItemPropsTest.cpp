@@ -299,5 +299,25 @@ TEST_F(ItemPropsTest, ItemsThatChangePlacesArePaintedAnew) {
   EXPECT_TRUE(QString::fromStdString(Heard([&] { Item("a").SetIndex(0); })).contains("editor.Invalidate"));
 }
 
+TEST_F(ItemPropsTest, AnInsertedItemStandsAfterAllThatIsBelowTheOneBeforeIt) {
+  Fill("a [x y] b");
+  Items().Insert(1)->SetName("n");
+  EXPECT_EQ("a x y n b", EntriesText());
+  FEditor->DisableEditUpdate();
+  Items().Insert(2)->SetName("m");
+  EXPECT_EQ("a x y n m b", EntriesText());
+  FEditor->EnableEditUpdate();
+}
+
+TEST_F(ItemPropsTest, AnItemThatLeavesRefreshesTheGridOnlyOnceItsCollectionHasChanged) {
+  FEditor = Make<TProbeEditor>();
+  Fill("a b");
+  TKTItemProp* item = &Item("a");
+  const std::string heard = Heard([&] { item->SetCollection(nullptr); });
+  EXPECT_EQ(heard.find("editor.Refresh"), heard.rfind("editor.Refresh")) << heard;
+  EXPECT_LT(heard.find("].Notify(a,cnExtracting)"), heard.find("editor.Refresh")) << heard;
+  delete item;
+}
+
 }  // namespace
 }  // namespace kt::tests

@@ -43,6 +43,14 @@ inline void DeleteRowOf(TKTItemListEditor& editor, int row) {
   (editor.*(&TAccess::DeleteRow))(row);
 }
 
+/// The editor's lock, for a bracket.
+struct TEditLock {
+  TKTItemListEditor& Editor;
+
+  void BeginUpdate() { Editor.DisableEditUpdate(); }
+  void EndUpdate() { Editor.EnableEditUpdate(); }
+};
+
 inline const TItemScenario ItemScenarios[] = {
     {"Add", [](TKTItemListEditor& editor) { editor.GetItems().Add("n", "1"); }},
     {"AddBelow", [](TKTItemListEditor& editor) { At(editor, "a.b").GetItems().Add("n", "1"); }},
@@ -139,6 +147,50 @@ inline const TItemScenario ItemScenarios[] = {
     {"DeleteLineOfCursor",
      [](TKTItemListEditor& editor) { editor.GetStrings().Delete(editor.GetStrings().IndexOfName(u"e")); }},
     {"PropNames", [](TKTItemListEditor& editor) { editor.SetPropNames(0, "n"); }},
+    {"ClearCategories", [](TKTItemListEditor& editor) { editor.GetItems().ClearCategories(false); }},
+    {"ClearCategoriesFully", [](TKTItemListEditor& editor) { editor.GetItems().ClearCategories(true); }},
+    {"DefaultCategoryName",
+     [](TKTItemListEditor& editor) {
+       editor.SetArrangeByCategory(true);
+       editor.GetItems().SetDefaultCategoryName("D");
+     }},
+    {"CategorizeFurther",
+     [](TKTItemListEditor& editor) {
+       editor.GetItems().GetCategories().SetCommaText("x=N,x=M,x=O");
+       editor.Categorize(&At(editor, "C.x"), editor.GetItems().GetCategories(), false);
+     }},
+    {"CustomSort",
+     [](TKTItemListEditor& editor) {
+       const auto compare = [](TKTItemProps& items, int first, int second) {
+         CallOut("Compare");
+         return items.CompareStrings(items.GetItem(second)->GetName(), items.GetItem(first)->GetName());
+       };
+       editor.GetItems().CustomSort(compare, false);
+     }},
+    {"SortedOff",
+     [](TKTItemListEditor& editor) {
+       editor.SetSorted(true);
+       editor.SetSorted(false);
+     }},
+    {"Restore",
+     [](TKTItemListEditor& editor) {
+       At(editor, "e").SetName({});
+       editor.RestoreCurrentItem();
+     }},
+    {"Orientation",
+     [](TKTItemListEditor& editor) {
+       editor.SetOrientation(goHorizontal);
+       editor.SetOrientation(goVertical);
+     }},
+    {"RefreshVisibleItems", [](TKTItemListEditor& editor) { editor.RefreshVisibleItems(); }},
+    {"Locked",
+     [](TKTItemListEditor& editor) {
+       TEditLock lock{editor};
+       const TUpdateBracket bracket(lock);
+       editor.GetItems().Add("n", {});
+       At(editor, "a").Collapse();
+       editor.GetItems().Delete(0);
+     }},
 };
 
 /// Runs scenarios on an editor whose handlers do something unexpected, and sees that the lists, the counts and the

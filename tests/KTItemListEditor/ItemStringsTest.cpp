@@ -140,5 +140,35 @@ TEST_F(ItemStringsTest, AssigningLinesBuildsTheTree) {
   EXPECT_EQ("a=1 a.b=2 a.b=4 c= c.d= c.d.e=3", Text());
 }
 
+// Objects of lines that are added.
+
+TEST_F(ItemStringsTest, TheObjectOfAnAddedLineGoesToTheItemThatItsPathLeadsTo) {
+  Fill("A [x] c");
+  FEditor->SetSorted(true);
+  Lines().AddObject("A.B=1", FEditor.get());
+  EXPECT_EQ(FEditor.get(), Item("A.B").GetItemObject());
+  EXPECT_EQ(nullptr, Item("A").GetItemObject());
+  Lines().InsertObject(0, "b=1", &Items());
+  EXPECT_EQ(&Items(), Item("b").GetItemObject());
+}
+
+TEST_F(ItemStringsTest, ALineThatComesTwiceSetsTheValueWhereNamesAreUnique) {
+  FEditor->SetPropertyOptions({propUnique});
+  const auto lines = Make<TStringList>();
+  lines->Add("a=1");
+  lines->AddObject("a=2", FEditor.get());
+  Lines().Assign(lines.get());
+  EXPECT_EQ("a=2", Text());
+  EXPECT_EQ(FEditor.get(), Item("a").GetItemObject());
+}
+
+TEST_F(ItemStringsTest, ALineWithoutARowTakesItsObjectAllTheSame) {
+  Fill("a [b]");
+  Lines().SetShowVisibleOnly(true);
+  Lines().AddObject("a.n=1", FEditor.get());
+  EXPECT_EQ("a=", Text());
+  EXPECT_EQ(FEditor.get(), Item("a.n").GetItemObject());
+}
+
 }  // namespace
 }  // namespace kt::tests

@@ -1,32 +1,62 @@
 #include "kt/KTItemListEditor/ItemWatch.h"
+#include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/strings/StringList.h"
 #include "support/ItemLists.h"
 
+#include <algorithm>
 #include <cstdlib>
-#include <optional>
 #include <random>
 #include <set>
+#include <string>
+#include <vector>
 
 namespace kt::tests {
 namespace {
 
-/// A naive full walk: what the two lists of the editor have to be.
+/// A naive full walk over the bare flags: what the two lists of the editor have to be.
 struct TWalk {
   std::vector<TKTItemProp*> Entries;
   std::vector<TKTItemProp*> Rows;
 
-  explicit TWalk(TKTItemProps& items) { Visit(items, true); }
+  explicit TWalk(TKTCustomItemListEditor& editor) : FShowsReadOnly(editor.GetDisplayOptions().Has(doShowReadOnly)) {
+    Visit(editor.GetItems(), true);
+  }
 
+ private:
+  bool Shows(const TKTItemProp& item) const {
+    return item.GetVisible() && (item.GetCategory() || FShowsReadOnly || (!item.GetReadOnly() && item.GetEnabled()));
+  }
   void Visit(TKTItemProps& items, bool isShown) {
+    const TKTItemProp* category = items.GetDefaultCategory();
+    EXPECT_TRUE(!category || (category->GetDefaultCategory() && category->GetCollection() == &items));
     for (int i = 0; i < items.GetCount(); ++i) {
       TKTItemProp* item = items.GetItem(i);
       Entries.push_back(item);
-      const bool hasRow = isShown && item->IsVisibleItem();
+      const bool hasRow = isShown && Shows(*item);
       EXPECT_EQ(hasRow, item->IsVisible());
       if (hasRow) Rows.push_back(item);
+      CheckChildren(*item);
       if (item->HasItems()) Visit(item->GetItems(), hasRow && item->IsExpanded());
     }
   }
+  void CheckChildren(TKTItemProp& item) {
+    const bool isOpen = item.GetVisible() && item.IsExpanded();
+    EXPECT_EQ(isOpen ? RowsBelow(item) : 0, item.GetVisibleChildCount());
+    bool hasVisible = false;
+    for (int i = 0; item.HasItems() && i < item.GetItems().GetCount(); ++i)
+      hasVisible |= Shows(*item.GetItems().GetItem(i));
+    EXPECT_EQ(hasVisible, item.HasVisibleChildren());
+  }
+  int RowsBelow(TKTItemProp& item) const {
+    int rows = 0;
+    for (int i = 0; item.HasItems() && i < item.GetItems().GetCount(); ++i) {
+      TKTItemProp& child = *item.GetItems().GetItem(i);
+      if (Shows(child)) rows += 1 + (child.IsExpanded() ? RowsBelow(child) : 0);
+    }
+    return rows;
+  }
+
+  const bool FShowsReadOnly;
 };
 
 int StepsToRun() {
@@ -44,15 +74,17 @@ class TItemTreeModel {
 
   void Run(int steps) {
     for (FStep = 0; FStep < steps; ++FStep) {
-      const int operation = Below(31);
+      FOperations.push_back(Below(33));
       try {
-        Apply(operation);
+        Apply(FOperations.back());
       } catch (const ETORVException&) {
         // A name that was not unique.
+      } catch (const EInvalidOperation&) {
+        // Something that a handler freed while it was in use.
       }
       Check();
       if (testing::Test::HasFailure()) {
-        ADD_FAILURE() << "at step " << FStep << " by operation " << operation;
+        ADD_FAILURE() << "at step " << FStep << ", the last operations being " << LastOperations();
         return;
       }
     }
@@ -64,6 +96,13 @@ class TItemTreeModel {
   }
 
  private:
+  std::string LastOperations() const {
+    std::string text;
+    for (size_t i = FOperations.size() < 12 ? 0 : FOperations.size() - 12; i < FOperations.size(); ++i) {
+      text += std::to_string(FOperations[i]) + ' ';
+    }
+    return text;
+  }
   int Below(int end) { return static_cast<int>(FRandom() % static_cast<unsigned>(end)); }
   TKTItemProps& Top() { return FEditor->GetItems(); }
 
@@ -134,6 +173,10 @@ class TItemTreeModel {
         return Lock();
       case 29:
         return AnyLevel().CustomSort(AnyOrder(), Below(2) != 0);
+      case 30:
+        return FEditor->SetCaseSensitive(Below(2) != 0);
+      case 31:
+        return FEditor->SetOrientation(Below(2) ? goHorizontal : goVertical);
       default:
         return static_cast<void>(FActsFromInside = Below(4) == 0 ? 3 : 0);
     }
@@ -191,8 +234,9 @@ class TItemTreeModel {
     if (FLevelBrackets.size() > 4 || (!FLevelBrackets.empty() && Below(2))) {
       return EndLevelBracket(static_cast<size_t>(Below(static_cast<int>(FLevelBrackets.size()))));
     }
+    auto watch = std::make_unique<TItemWatch>(&item);
     item.GetItems().BeginUpdate();
-    FLevelBrackets.push_back(std::make_unique<TItemWatch>(&item));
+    FLevelBrackets.push_back(std::move(watch));
   }
   void EndLevelBracket(size_t number) {
     const std::unique_ptr<TItemWatch> item = std::move(FLevelBrackets[number]);
@@ -226,20 +270,32 @@ class TItemTreeModel {
     --FActsFromInside;
     TKTItemProp* item = AnyItem();
     if (!item) return;
-    switch (Below(4)) {
+    switch (Below(10)) {
       case 0:
         return item->SetVisible(!item->GetVisible());
       case 1:
         return item->SetExpanded(!item->IsExpanded());
       case 2:
         return static_cast<void>(item->GetItems().Add());
+      case 3:
+        return delete item;
+      case 4:
+        return Move(*item);
+      case 5:
+        return item->SetName(AnyName());
+      case 6:
+        return AnyLevel().SetSorted(Below(2) != 0);
+      case 7:
+        return Below(10) == 0 ? Top().Clear() : AnyLevel().Clear();
+      case 8:
+        return item->SetIndex(Below(item->GetCollection()->GetCount()));
       default:
         return item->SetReadOnly(!item->IsReadOnly());
     }
   }
 
   void Check() {
-    const TWalk walk(Top());
+    const TWalk walk(*FEditor);
     CheckEntries(walk);
     if (FBrackets == 0) {
       CheckRows(walk.Rows);
@@ -272,11 +328,11 @@ class TItemTreeModel {
     }
   }
 
-  /// In a bracket the rows are what they were, less what has left; at least they agree with themselves.
+  /// In a bracket some operations ask for the rows anew and most do not; at any time they agree with themselves.
   void CheckStandingRows() {
-    std::set<TKTItemProp*> rows;
+    std::set<const TKTItemProp*> rows;
     for (int i = 0; i < FEditor->GetVisibleItemCount(); ++i) {
-      TKTItemProp* item = FEditor->GetVisibleItem(i);
+      const TKTItemProp* item = FEditor->GetVisibleItem(i);
       ASSERT_NE(nullptr, item);
       ASSERT_TRUE(rows.insert(item).second);
       ASSERT_EQ(i, item->GetAbsoluteVIndex());
@@ -288,6 +344,7 @@ class TItemTreeModel {
   int FStep = 0;
   int FBrackets = 0;
   int FActsFromInside = 0;
+  std::vector<int> FOperations;
   /// The parents of the levels that are in a bracket.
   std::vector<std::unique_ptr<TItemWatch>> FLevelBrackets;
 };

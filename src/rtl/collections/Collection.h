@@ -45,6 +45,7 @@ class TCollectionItem : public TPersistent {
   void Construct() override;
   void BeforeDestruction() override;
   void Destruct() override;
+  void DestructAgain() override;
   TPersistent* GetOwner() override;
 
   /// The collection that this item owns, or null: a class whose items form trees answers it, so that trees of any depth
@@ -61,6 +62,7 @@ class TCollectionItem : public TPersistent {
  private:
   friend class TGapSequence<TCollectionItem>;
 
+  void LeaveForGood();
   static void FreeFromLeaves(TCollection& top);
 
   bool IsInCollection() const { return FSlot >= 0; }

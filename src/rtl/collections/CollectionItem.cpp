@@ -53,10 +53,16 @@ void TCollectionItem::FreeFromLeaves(TCollection& top) {
 }
 
 void TCollectionItem::Destruct() {
-  // The collection lets go even when somebody it tells raises an exception.
+  LeaveForGood();
+  TPersistent::Destruct();
+}
+
+void TCollectionItem::DestructAgain() { LeaveForGood(); }
+
+/// The collection lets go even when somebody it tells raises an exception.
+void TCollectionItem::LeaveForGood() {
   GuardedCall([this] { SetCollection(nullptr); });
   if (IsInCollection()) FCollection->Forget(this);
-  TPersistent::Destruct();
 }
 
 void TCollectionItem::SetCollection(TCollection* value) {

@@ -10,8 +10,20 @@
 namespace kt {
 namespace {
 
-/// How many destructions run inside each other in this thread.
+/// The destructions that run inside each other in this thread, the innermost first.
+struct TEnding {
+  const TObject* Object;
+  const TEnding* Outer;
+};
+thread_local const TEnding* Endings = nullptr;
 thread_local int Depth = 0;
+
+bool IsEnding(const TObject* object) {
+  for (const TEnding* ending = Endings; ending; ending = ending->Outer) {
+    if (ending->Object == object) return true;
+  }
+  return false;
+}
 
 }  // namespace
 
@@ -57,10 +69,15 @@ void TObjectLife::Abandon(TObject* object) noexcept {
 }
 
 void TObjectLife::End(TObject* object) noexcept {
+  // A handler cannot know that what it frees is on its way out already.
+  if (IsEnding(object)) return GuardedCall([object] { object->DestructAgain(); });
+  const TEnding ending{object, Endings};
+  Endings = &ending;
   ++Depth;
   GuardedCall([object] { object->BeforeDestruction(); });
   Abandon(object);
   --Depth;
+  Endings = ending.Outer;
 }
 
 bool TObjectLife::IsDeep() {

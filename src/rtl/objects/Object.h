@@ -23,6 +23,9 @@ class TClassInfo;
 /// Destruct() or BeforeDestruction() cannot stop the destruction: it is handed to HandleException() and the destruction
 /// goes on.
 ///
+/// An object that is deleted again while it is being destroyed, as by a handler that hears of what it leaves, is
+/// destroyed once: the second time only DestructAgain() runs.
+///
 /// Constructors are protected: no framework object lives on the stack. An object is used from one thread at a time.
 class TObject {
  public:
@@ -59,6 +62,8 @@ class TObject {
   virtual void AfterConstruction() {}
   virtual void BeforeDestruction() {}
   virtual void Destruct() {}
+  /// Leaves the lists of those who wait for the object to be gone from them.
+  virtual void DestructAgain() {}
 
  private:
   friend struct TObjectLife;

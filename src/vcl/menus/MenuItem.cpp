@@ -74,8 +74,11 @@ void TMenuItem::Remove(TMenuItem* item) {
 }
 
 void TMenuItem::Clear() {
-  // An item takes itself out.
-  while (!FItems.empty()) delete FItems.back();
+  while (!FItems.empty()) {
+    TMenuItem* last = FItems.back();
+    Delete(GetCount() - 1);
+    delete last;
+  }
 }
 
 int TMenuItem::IndexOf(const TMenuItem* item) const {

@@ -129,6 +129,31 @@ TEST_F(ObjectTest, AThrowingCppConstructorPassesTheExceptionOn) {
   EXPECT_THROW(static_cast<void>(Make<TThrowingConstructor>()), EInvalidOperation);
 }
 
+/// Frees itself at every step on its way out, as a handler that hears of that may do.
+class TImpatient : public TObject {
+ public:
+  ~TImpatient() override {
+    *Log += "gone ";
+    delete this;
+  }
+
+ protected:
+  void BeforeDestruction() override {
+    *Log += "before ";
+    delete this;
+  }
+  void Destruct() override {
+    *Log += "destruct ";
+    delete this;
+    TObject::Destruct();
+  }
+};
+
+TEST_F(ObjectTest, AnObjectThatIsFreedWhileItIsBeingDestroyedIsDestroyedOnce) {
+  Make<TImpatient>().reset();
+  EXPECT_EQ("before destruct gone ", FLog);
+}
+
 TEST_F(ObjectTest, AnExceptionWhileDestroyingIsReportedAndTheDestructionGoesOn) {
   QString reported;
   const TExceptionHandler previous = SetExceptionHandler([&reported](std::exception_ptr error) {

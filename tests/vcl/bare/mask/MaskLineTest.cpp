@@ -21,7 +21,7 @@ class MaskLineTest : public testing::Test {
   TMaskLine& Line() { return *FLine; }
   QString Shown() const {
     QString text = FLine->GetText();
-    const auto [start, end] = std::minmax(FLine->GetAnchor(), FLine->GetCaret());
+    const auto [start, end] = std::minmax({FLine->GetAnchor(), FLine->GetCaret()});
     if (start == end) return text.insert(start, u'|');
     return text.insert(end, u']').insert(start, u'[');
   }
