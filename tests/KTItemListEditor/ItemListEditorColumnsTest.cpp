@@ -2,6 +2,10 @@
 #include "support/ItemLists.h"
 #include "support/WindowProbe.h"
 
+#include <QScrollBar>
+
+#include <algorithm>
+
 namespace kt::tests {
 namespace {
 
@@ -27,6 +31,10 @@ class ItemListEditorColumnsTest : public TItemListTest {
     QStringList widths;
     for (int i = 0; i < FEditor->GetColCount(); ++i) widths += QString::number(FEditor->GetColWidths(i));
     return widths.join(u' ').toStdString();
+  }
+  qsizetype ShownBars() {
+    const auto bars = FWindow->Body()->findChildren<QScrollBar*>();
+    return std::count_if(bars.begin(), bars.end(), [](const QScrollBar* bar) { return bar->isVisible(); });
   }
   TSizedEditor& Sized() { return static_cast<TSizedEditor&>(*FEditor); }
   /// What a press would size: "column 0" or "-".
@@ -136,6 +144,17 @@ TEST_F(ItemListEditorColumnsTest, WhereColumnsAreItemsTheItemsShareWhatTheTitles
   EXPECT_EQ("150 76 76", Widths());
   FEditor->SetColWidths(0, 103);
   EXPECT_EQ("103 100 100", Widths());
+}
+
+TEST_F(ItemListEditorColumnsTest, AWindowHasNoScrollBarUntilItsRowsNeedOneAndTheColumnsMakeRoomForIt) {
+  FWindow = std::make_unique<TWindowProbe>(*FEditor, QSize(305, 100));
+  EXPECT_EQ(0, ShownBars());
+  const int width = FEditor->GetClientWidth();
+  Fill("a b c d e f g h");
+  TWindowProbe::Settle();
+  EXPECT_EQ(1, ShownBars());
+  EXPECT_LT(FEditor->GetClientWidth(), width);
+  EXPECT_EQ(FEditor->GetClientWidth() - 2, FEditor->GetColWidths(0) + FEditor->GetColWidths(1));
 }
 
 // Sizing.

@@ -40,6 +40,23 @@ TEST_F(ItemListEditorInputBlanksTest, LeavingABlankItemUpwardsByMoreLinesLandsWh
   EXPECT_EQ(">a | b | c", RowsText());
 }
 
+TEST_F(ItemListEditorInputBlanksTest, LeavingABlankItemAtTheEndLandsOnTheItemAbove) {
+  Show("a b");
+  Items().Add();
+  FEditor->SetRow(3);
+  Key(Qt::Key_Up);
+  EXPECT_EQ("a | >b", RowsText());
+}
+
+TEST_F(ItemListEditorInputBlanksTest, DownFromABlankItemAtTheEndLeavesItThere) {
+  Show("a b");
+  FEditor->SetPropertyOptions({propAdd});
+  Items().Add();
+  FEditor->SetRow(3);
+  Key(Qt::Key_Down);
+  EXPECT_EQ("a | b | >", RowsText());
+}
+
 TEST_F(ItemListEditorInputBlanksTest, ControlDownFromABlankItemLandsOnTheLastItem) {
   ShowOnBlank("a b c");
   Key(Qt::Key_Down, Qt::ControlModifier);

@@ -32,6 +32,35 @@ TEST_F(ItemListEditorInputKeysTest, ControlDownGoesToTheLastItemAndControlUpToTh
   EXPECT_EQ("a", SelectedText());
 }
 
+TEST_F(ItemListEditorInputKeysTest, PageKeysMoveByAPageWithTheEditorOpen) {
+  Show("a b c d e f g h i j k l m n o p q r s t u v w x y z");
+  const int page = FEditor->GetVisibleRowCount();
+  ASSERT_GT(page, 3);
+  Key(Qt::Key_PageDown);
+  EXPECT_EQ(page, FEditor->GetRow());
+  EXPECT_EQ("", EditorText());
+  Key(Qt::Key_PageUp);
+  EXPECT_EQ("1,1", Where());
+}
+
+TEST_F(ItemListEditorInputKeysTest, HomeLeadsToANameThatCanBeEditedAndEndBackToTheValue) {
+  Show("a b");
+  FEditor->SetPropertyOptions({propEdit});
+  Key(Qt::Key_Home);
+  EXPECT_EQ("0,1", Where());
+  Key(Qt::Key_End);
+  EXPECT_EQ("1,1", Where());
+}
+
+TEST_F(ItemListEditorInputKeysTest, FromNameToNameTheArrowsStayInTheNames) {
+  Show("a b");
+  FEditor->SetPropertyOptions({propEdit});
+  FEditor->SetCol(0);
+  Key(Qt::Key_Down);
+  EXPECT_EQ("0,2", Where());
+  EXPECT_EQ("b", EditorText());
+}
+
 TEST_F(ItemListEditorInputKeysTest, NothingIsExpandedByKeys) {
   Show("a [b]");
   Key(Qt::Key_Plus);

@@ -232,13 +232,14 @@ TEST_F(ItemListEditorInputMouseTest, WhereAGlyphWouldBeAnItemWithoutChildrenIsJu
   EXPECT_FALSE(Item("b").IsExpanded());
 }
 
-TEST_F(ItemListEditorInputMouseTest, ADoubleClickOnTheGlyphTogglesOnce) {
+TEST_F(ItemListEditorInputMouseTest, ADoubleClickOnTheGlyphTogglesOnceAndThenLeadsToTheValue) {
   Show("a b [c]");
   ClickGlyph(2, 0);
   const QPoint glyph = OnGlyph(2, 0);
   QTest::mouseDClick(FWindow->Body(), Qt::LeftButton, {}, glyph);
   QTest::mouseRelease(FWindow->Body(), Qt::LeftButton, {}, glyph);
   EXPECT_TRUE(Item("b").IsExpanded());
+  EXPECT_EQ("1,2", Where());
 }
 
 TEST_F(ItemListEditorInputMouseTest, OtherButtonsExpandNothingAndMoveNothing) {

@@ -85,6 +85,16 @@ TEST_F(ItemListEditorPaintTest, ValuesAreNeverIndented) {
   EXPECT_EQ("text 2 'x' #000000", Text(1, 2));
 }
 
+TEST_F(ItemListEditorPaintTest, AcrossTheColumnsNamesAreIndentedAndValuesAreNot) {
+  FEditor->SetOrientation(goHorizontal);
+  Fill("a [b]");
+  FEditor->FullExpand();
+  Item("a.b").SetValue("x");
+  EXPECT_TRUE(HasGlyphAt(0, 1, 0));
+  EXPECT_EQ("text 24 'b' #000000", Text(2, 0));
+  EXPECT_EQ("text 2 'x' #000000", Text(2, 1));
+}
+
 TEST_F(ItemListEditorPaintTest, FromRightToLeftTextsEndTwoPixelsInside) {
   Fill("a");
   FEditor->SetBiDiMode(bdRightToLeft);
@@ -315,6 +325,15 @@ TEST_F(ItemListEditorPaintTest, OnDrawCellGetsTheRoomBesideTheGlyph) {
   FEditor->OnDrawCell = [&got](TObject*, int, int, const QRect& rect, TGridDrawState) { got = rect; };
   Drawn(0, 1);
   EXPECT_EQ(QRect(11, 0, 189, 18), got);
+}
+
+TEST_F(ItemListEditorPaintTest, OnDrawCellDrawsOverTheText) {
+  Fill("a");
+  FEditor->OnDrawCell = [this](TObject*, int, int, const QRect&, TGridDrawState) {
+    FEditor->GetCanvas().GetBrush().SetColor(clRed);
+    FEditor->GetCanvas().FillRect({1, 2, 3, 4});
+  };
+  EXPECT_TRUE(Drawn(0, 1).section(QStringLiteral("text 13 'a'"), 1).contains("fill 1,2 3x4 #ff0000"));
 }
 
 TEST_F(ItemListEditorPaintTest, WithoutDefaultDrawingOnlyOnDrawCellDraws) {

@@ -31,6 +31,43 @@ TEST_F(ItemListEditorTypingTest, FurtherTypingGoesToTheItemThatWasMade) {
   EXPECT_EQ("xyz", Items().GetItem(0)->GetValue());
 }
 
+TEST_F(ItemListEditorTypingTest, TypingIntoAFurtherFieldWritesAFurtherValue) {
+  Show("a");
+  Item("a").SetValue("1");
+  FEditor->SetColCount(3);
+  FEditor->SetCol(2);
+  Type("xy");
+  EXPECT_EQ("1\r\nxy\r\n", Item("a").GetValuesText());
+}
+
+TEST_F(ItemListEditorTypingTest, AcrossTheColumnsTypingGoesToTheItemOfTheColumn) {
+  TurnAcross();
+  Show("a b c");
+  FEditor->SetCol(2);
+  Type("xy");
+  EXPECT_EQ("xy", Item("b").GetValue());
+  EXPECT_EQ("a b c", TreeText());
+}
+
+TEST_F(ItemListEditorTypingTest, AcrossTheColumnsNamesAreTypedIntoTheFirstRow) {
+  TurnAcross();
+  Show("a b");
+  FEditor->SetPropertyOptions({propEdit});
+  FEditor->SetCol(2);
+  FEditor->SetRow(0);
+  Retype("n");
+  EXPECT_EQ("a n", TreeText());
+}
+
+TEST_F(ItemListEditorTypingTest, TypingWithoutTheEditorOpensItWithWhatIsTyped) {
+  Show("a");
+  Item("a").SetValue("1");
+  CloseEditor();
+  Type("x");
+  EXPECT_EQ("x", EditorText());
+  EXPECT_EQ("x", Item("a").GetValue());
+}
+
 // Names that have to be unique.
 
 TEST_F(ItemListEditorTypingTest, ATakenNameIsHeldBackSilentlyWhileItIsTyped) {

@@ -12,7 +12,7 @@ class ItemListEditorValidateTest : public TItemListInputTest {
   /// Writes down what is validated, and whether the editor is open when the grid is left: "OnExit[x]".
   void LogValidation() {
     FEditor->OnValidate = [this](TObject*, TKTItemProp* item, int) {
-      FLog += QStringLiteral("OnValidate(%1=%2)").arg(NameIn(item), item->GetValue());
+      FLog += QStringLiteral("OnValidate(%1=%2)").arg(NameIn(item), item ? item->GetValue() : QString());
     };
     FEditor->OnValidated = [this](TObject*, TKTItemProp* item, int column) {
       FLog += QStringLiteral("OnValidated(%1,%2)").arg(NameIn(item)).arg(column);
