@@ -29,6 +29,24 @@ TEST_F(InplaceEditListButtonTest, TheTextLeavesRoomForTheButtonAlone) {
   EXPECT_EQ(0, marginOf());
 }
 
+/// All but two pixels, which the text has beside it anyway.
+TEST_F(InplaceEditListButtonTest, FromRightToLeftTheTextLeavesRoomAtTheLeftEnd) {
+  Editor.SetBiDiMode(bdRightToLeft);
+  ShowEllipsis();
+  const QMargins margins = dynamic_cast<QLineEdit&>(*Edit().GetHandle()).textMargins();
+  EXPECT_EQ(Edit().GetButtonWidth() - 2, margins.left());
+  EXPECT_EQ(0, margins.right());
+}
+
+TEST_F(InplaceEditListButtonTest, FromRightToLeftAClickAtTheLeftEndRunsTheAction) {
+  Editor.SetBiDiMode(bdRightToLeft);
+  ShowEllipsis();
+  ClickAt({Edit().GetWidth() - 4, 8});
+  EXPECT_EQ("", TakeLog());
+  ClickAt({4, 8});
+  EXPECT_EQ("click(a)", TakeLog());
+}
+
 TEST_F(InplaceEditListButtonTest, ShowsTheArrowCursor) {
   ShowEllipsis();
   MoveTo(OnButton(), Qt::NoButton);

@@ -1,13 +1,17 @@
 #include "KTItemListEditor/InplaceEditListFixture.h"
 
 #include <QElapsedTimer>
-#include <QPushButton>
 #include <QScreen>
 
 namespace kt::tests {
 namespace {
 
 using InplaceEditListDropDownTest = TInplaceEditListTest;
+
+/// Opens what only descendants may call.
+struct TRestoringEdit : TKTInplaceEditList {
+  using TKTInplaceEditList::RestoreContents;
+};
 
 TEST_F(InplaceEditListDropDownTest, AltDownOpensTheListWithTheTextSelected) {
   Item(0).SetValue(QStringLiteral("green"));
@@ -108,6 +112,17 @@ TEST_F(InplaceEditListDropDownTest, APickedLineThatTheExpressionRefusesIsToldAnd
   EXPECT_EQ("", TakeLog());
 }
 
+/// The editor did not get the line as something typed: to start from, it has the text of the cell.
+TEST_F(InplaceEditListDropDownTest, WhatTheEditorStartedFromComesBackAfterALineWasTakenOver) {
+  ShowColors();
+  OpenList();
+  Key(Qt::Key_Down);
+  Key(Qt::Key_Return);
+  ASSERT_EQ("red", Edit().GetText());
+  (Edit().*&TRestoringEdit::RestoreContents)();
+  EXPECT_EQ("1", Edit().GetText());
+}
+
 // Sizes and places.
 
 TEST_F(InplaceEditListDropDownTest, AnEmptyListDropsDownOneBlankRow) {
@@ -133,6 +148,21 @@ TEST_F(InplaceEditListDropDownTest, ALongListHasDropDownRows) {
   Editor.SetDropDownRows(5);
   OpenList();
   EXPECT_EQ(5 * List().GetItemHeight() + 4, List().GetHeight());
+}
+
+TEST_F(InplaceEditListDropDownTest, ANewEditorHasTheDropDownRowsOfTheGrid) {
+  Editor.SetDropDownRows(3);
+  Show();
+  EXPECT_EQ(3, Edit().GetDropDownRows());
+  Editor.SetDropDownRows(0);
+  EXPECT_EQ(3, Edit().GetDropDownRows());
+}
+
+TEST_F(InplaceEditListDropDownTest, WithoutDropDownRowsTheListIsAsHighAsAllOfItsLines) {
+  ShowPickList(QStringLiteral("a,b,c,d,e,f,g,h,i,j,k,l").split(u','));
+  Edit().SetDropDownRows(0);
+  OpenList();
+  EXPECT_EQ(12 * List().GetItemHeight() + 4, List().GetHeight());
 }
 
 TEST_F(InplaceEditListDropDownTest, TheListIsAsWideAsTheEditor) {
@@ -185,6 +215,14 @@ TEST_F(InplaceEditListDropDownTest, TheListHasTheEditorsFontButNeitherBoldNorIta
   EXPECT_TRUE(List().GetFont().GetStyle().IsEmpty());
 }
 
+TEST_F(InplaceEditListDropDownTest, TheListHasTheColourOfTheEditor) {
+  Editor.SetColor(clYellow);
+  ShowColors();
+  OpenList();
+  EXPECT_EQ(clYellow, Edit().GetColor());
+  EXPECT_EQ(clYellow, List().GetColor());
+}
+
 TEST_F(InplaceEditListDropDownTest, AListOfTenThousandLinesOpensAtOnce) {
   QStringList lines;
   for (int i = 0; i < 10000; ++i) lines += QStringLiteral("line %1").arg(i);
@@ -201,243 +239,6 @@ TEST_F(InplaceEditListDropDownTest, AListOfTenThousandLinesOpensAtOnce) {
   Type(QStringLiteral("line 9998"));
   EXPECT_LT(timer.elapsed(), 1000);
   EXPECT_EQ(9998, List().GetItemIndex());
-}
-
-// Searching.
-
-TEST_F(InplaceEditListDropDownTest, TypingSelectsTheFirstLineThatBeginsWithAllThatWasTyped) {
-  ShowPickList({QStringLiteral("Bear"), QStringLiteral("badger"), QStringLiteral("bat")});
-  OpenList();
-  Type(QStringLiteral("b"));
-  EXPECT_EQ(">Bear badger bat", Lines());
-  Type(QStringLiteral("at"));
-  EXPECT_EQ("Bear badger >bat", Lines());
-  EXPECT_EQ("1", Edit().GetText());
-}
-
-TEST_F(InplaceEditListDropDownTest, WhatNoLineBeginsWithSelectsNothingElse) {
-  ShowColors();
-  OpenList();
-  Type(QStringLiteral("gx"));
-  EXPECT_EQ("red >green blue", Lines());
-}
-
-TEST_F(InplaceEditListDropDownTest, BackspaceHasTheSearchStartAnew) {
-  ShowColors();
-  OpenList();
-  Type(QStringLiteral("g"));
-  Key(Qt::Key_Backspace);
-  Type(QStringLiteral("b"));
-  EXPECT_EQ("red green >blue", Lines());
-}
-
-TEST_F(InplaceEditListDropDownTest, APauseHasTheSearchStartAnew) {
-  ShowColors();
-  OpenList();
-  Type(QStringLiteral("g"));
-  QTest::qWait(2100);
-  Type(QStringLiteral("b"));
-  EXPECT_EQ("red green >blue", Lines());
-}
-
-TEST_F(InplaceEditListDropDownTest, AtMostThirtyTwoCharactersAreSearchedFor) {
-  ShowPickList({QStringLiteral("x"), QString(32, u'y') + u'1'});
-  OpenList();
-  Type(QString(40, u'y'));
-  EXPECT_EQ(1, List().GetItemIndex());
-}
-
-// Filling.
-
-TEST_F(InplaceEditListDropDownTest, TheHandlerAddsToTheItemsPickList) {
-  ShowColors();
-  Editor.OnGetPickList = [this](TObject* sender, const QString& name, TStrings& values) {
-    Log += sender == &Editor ? name : QStringLiteral("?");
-    values.Add(QStringLiteral("more"));
-  };
-  OpenList();
-  EXPECT_EQ("red green blue more", Lines());
-  EXPECT_EQ("a", TakeLog());
-}
-
-TEST_F(InplaceEditListDropDownTest, TheItemsHandlerGoesBeforeTheEditors) {
-  ShowPickList({});
-  Editor.OnGetPickList = [](TObject*, const QString&, TStrings& values) { values.Add(QStringLiteral("editor")); };
-  Item(0).SetOnGetPickList([this](TObject* sender, const QString&, TStrings& values) {
-    values.Add(sender == &Item(0) ? QStringLiteral("item") : QStringLiteral("?"));
-  });
-  OpenList();
-  EXPECT_EQ("item", Lines());
-}
-
-TEST_F(InplaceEditListDropDownTest, AListIsFilledOnceAVisit) {
-  ShowPickList({});
-  Editor.OnGetPickList = [this](TObject*, const QString& name, TStrings& values) {
-    Log += name;
-    values.Add(QStringLiteral("x"));
-  };
-  OpenList();
-  Key(Qt::Key_Escape);
-  OpenList();
-  Key(Qt::Key_Escape);
-  EXPECT_EQ("a", TakeLog());
-  Key(Qt::Key_Down);
-  Key(Qt::Key_Up);
-  OpenList();
-  EXPECT_EQ("a", TakeLog());
-}
-
-TEST_F(InplaceEditListDropDownTest, AListThatCameEmptyIsFilledAgain) {
-  ShowPickList({});
-  Editor.OnGetPickList = [this](TObject*, const QString& name, TStrings&) { Log += name; };
-  OpenList();
-  Key(Qt::Key_Escape);
-  OpenList();
-  EXPECT_EQ("a a", TakeLog());
-}
-
-TEST_F(InplaceEditListDropDownTest, AnItemWithoutANameIsNotAskedFor) {
-  Item(0).SetName({});
-  ShowPickList({});
-  Editor.OnGetPickList = [this](TObject*, const QString&, TStrings&) { Log += QStringLiteral("asked"); };
-  OpenList();
-  EXPECT_EQ("", TakeLog());
-}
-
-TEST_F(InplaceEditListDropDownTest, OtherCellsHaveNoList) {
-  ShowColors();
-  Key(Qt::Key_Down);
-  EXPECT_EQ(nullptr, Edit().GetActiveList());
-  EXPECT_EQ(esSimple, Edit().GetEditStyle());
-  OpenList();
-  EXPECT_FALSE(Edit().IsListVisible());
-}
-
-// Keyboard and activation.
-
-TEST_F(InplaceEditListDropDownTest, TheListTakesNeitherFocusNorActivation) {
-  ShowColors();
-  OpenList();
-  Settle();
-  EXPECT_TRUE(Edit().Focused());
-  EXPECT_EQ(Window->Window(), QApplication::activeWindow());
-  EXPECT_TRUE(List().GetHandle()->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus));
-  EXPECT_TRUE(Edit().IsListVisible());
-}
-
-TEST_F(InplaceEditListDropDownTest, LosingTheFocusClosesTheListAndChangesNothing) {
-  auto* button = std::make_unique<QPushButton>().release();
-  ShowColors();
-  Window->Window()->layout()->addWidget(button);
-  Settle();
-  OpenList();
-  Key(Qt::Key_Down);
-  button->setFocus();
-  EXPECT_FALSE(Edit().IsListVisible());
-  EXPECT_EQ("1", Value(0));
-}
-
-TEST_F(InplaceEditListDropDownTest, APressOnTheGridClosesTheListAndChangesNothing) {
-  ShowColors();
-  OpenList();
-  Key(Qt::Key_Down);
-  Window->Press(Editor.CellRect(1, 3).center() + QPoint(2, 2));
-  EXPECT_FALSE(Edit().IsListVisible());
-  EXPECT_EQ("1", Value(0));
-}
-
-TEST_F(InplaceEditListDropDownTest, APressOnSomebodyElsesWidgetClosesTheList) {
-  auto* label = std::make_unique<QWidget>().release();
-  ShowColors();
-  Window->Window()->layout()->addWidget(label);
-  OpenList();
-  QTest::mousePress(label, Qt::LeftButton);
-  EXPECT_FALSE(Edit().IsListVisible());
-}
-
-TEST_F(InplaceEditListDropDownTest, MovingTheWindowClosesTheList) {
-  ShowColors();
-  OpenList();
-  Window->Window()->move(20, 30);
-  Settle();
-  EXPECT_FALSE(Edit().IsListVisible());
-}
-
-TEST_F(InplaceEditListDropDownTest, HidingTheEditorClosesTheList) {
-  ShowColors();
-  OpenList();
-  Editor.SetEditorMode(false);
-  EXPECT_FALSE(Edit().IsListVisible());
-}
-
-TEST_F(InplaceEditListDropDownTest, ReadingTheCellAgainClosesTheList) {
-  ShowColors();
-  OpenList();
-  Editor.Refresh();
-  EXPECT_FALSE(Edit().IsListVisible());
-}
-
-// The mouse.
-
-TEST_F(InplaceEditListDropDownTest, AClickOnALineTakesItOver) {
-  ShowColors();
-  OpenList();
-  ClickLine(2);
-  EXPECT_FALSE(Edit().IsListVisible());
-  EXPECT_EQ("blue", Value(0));
-  EXPECT_EQ("validate(a=blue) validated(a)", TakeLog());
-  EXPECT_TRUE(Edit().Focused());
-}
-
-TEST_F(InplaceEditListDropDownTest, AReleaseOutsideTheListTakesNothingOver) {
-  ShowColors();
-  OpenList();
-  QWidget* const viewport = ViewportOf(List());
-  QTest::mousePress(viewport, Qt::LeftButton, Qt::NoModifier, {5, 5});
-  QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, {5, -20});
-  EXPECT_FALSE(Edit().IsListVisible());
-  EXPECT_EQ("1", Value(0));
-}
-
-TEST_F(InplaceEditListDropDownTest, PressDragAndReleaseOnTheArrowPicksALine) {
-  ShowColors();
-  PressAt(OnButton());
-  ASSERT_TRUE(Edit().IsListVisible());
-  const auto inEditor = [&](int line) {
-    return Edit().ScreenToClient(List().ClientToScreen(List().ItemRect(line).center()));
-  };
-  MoveTo(inEditor(0));
-  EXPECT_EQ(">red green blue", Lines());
-  EXPECT_FALSE(Edit().IsPressed());
-  QWidget* const list = List().GetHandle();
-  EXPECT_TRUE(List().HasMouseCapture());
-  const QPoint second = List().ItemRect(1).center() + QPoint(2, 2);
-  QMouseEvent move(QEvent::MouseMove, second, list->mapToGlobal(second), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-  QApplication::sendEvent(list, &move);
-  EXPECT_EQ("red >green blue", Lines());
-  QTest::mouseRelease(list, Qt::LeftButton, Qt::NoModifier, second);
-  EXPECT_FALSE(Edit().IsListVisible());
-  EXPECT_EQ("green", Value(0));
-  EXPECT_EQ(nullptr, QWidget::mouseGrabber());
-}
-
-TEST_F(InplaceEditListDropDownTest, TheWheelOverTheListScrollsIt) {
-  QStringList lines;
-  for (int i = 0; i < 100; ++i) lines += QString::number(i + 1000);
-  ShowPickList(lines);
-  OpenList();
-  Wheel(ViewportOf(List()), -120);
-  EXPECT_EQ(3, List().GetTopIndex());
-  EXPECT_EQ("1", Value(0));
-  EXPECT_TRUE(Edit().IsListVisible());
-}
-
-TEST_F(InplaceEditListDropDownTest, TheWheelOverTheEditorScrollsTheGridAndChangesNoValue) {
-  for (int i = 0; i < 50; ++i) Editor.GetItems().Add()->SetName(QString::number(i));
-  ShowColors();
-  Wheel(Edit().GetHandle(), -120);
-  EXPECT_GT(Editor.GetTopRow(), 1);
-  EXPECT_EQ("1", Value(0));
 }
 
 }  // namespace

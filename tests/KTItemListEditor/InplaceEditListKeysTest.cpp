@@ -96,6 +96,13 @@ class InplaceEditListWordsTest : public TInplaceEditListTest {
     Key(key, modifiers);
     return State();
   }
+  /// The same with a selection before.
+  std::string AfterSelecting(const char* text, int anchor, int caret, Qt::Key key) {
+    After(text, 0, Qt::Key_Shift, Qt::NoModifier);
+    Edit().Select(anchor, caret);
+    Key(key, Qt::ControlModifier);
+    return State();
+  }
   std::string State() {
     const int start = Edit().GetSelStart();
     const int end = start + Edit().GetSelLength();
@@ -140,6 +147,57 @@ TEST_F(InplaceEditListWordsTest, WithShiftTheSelectionGrowsFromWhereItBegan) {
 
 TEST_F(InplaceEditListWordsTest, WithShiftTheSelectionGrowsToTheLeft) {
   EXPECT_EQ("7..4", After("one two", 7, Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier));
+}
+
+// Which side of the text the caret is at.
+
+TEST_F(InplaceEditListWordsTest, WithAllSelectedFromTheEndToTheStartTheGridGetsCtrlLeft) {
+  Editor.SetPropertyOptions({propEdit});
+  AfterSelecting("one two", 7, 0, Qt::Key_Left);
+  EXPECT_EQ(0, Editor.GetCol());
+}
+
+TEST_F(InplaceEditListWordsTest, WithAllSelectedFromTheStartToTheEndCtrlLeftStaysInTheText) {
+  Editor.SetPropertyOptions({propEdit});
+  EXPECT_EQ("4", AfterSelecting("one two", 0, 7, Qt::Key_Left));
+  EXPECT_EQ(1, Editor.GetCol());
+}
+
+TEST_F(InplaceEditListWordsTest, WithAPartSelectedUpToTheStartCtrlLeftStaysInTheText) {
+  Editor.SetPropertyOptions({propEdit});
+  EXPECT_EQ("0", AfterSelecting("one two", 3, 0, Qt::Key_Left));
+  EXPECT_EQ(1, Editor.GetCol());
+}
+
+TEST_F(InplaceEditListWordsTest, WithAllSelectedFromTheStartToTheEndTheGridGetsCtrlRight) {
+  Editor.SetColCount(3);
+  AfterSelecting("one two", 0, 7, Qt::Key_Right);
+  EXPECT_EQ(2, Editor.GetCol());
+}
+
+TEST_F(InplaceEditListWordsTest, WithAllSelectedFromTheEndToTheStartCtrlRightStaysInTheText) {
+  Editor.SetColCount(3);
+  EXPECT_EQ("4", AfterSelecting("one two", 7, 0, Qt::Key_Right));
+  EXPECT_EQ(1, Editor.GetCol());
+}
+
+TEST_F(InplaceEditListWordsTest, WithAPartSelectedUpToTheEndCtrlRightStaysInTheText) {
+  Editor.SetColCount(3);
+  EXPECT_EQ("7", AfterSelecting("one two", 4, 7, Qt::Key_Right));
+  EXPECT_EQ(1, Editor.GetCol());
+}
+
+/// There a word of one character is a word.
+TEST_F(InplaceEditListWordsTest, WithoutAPermanentEditorTheWordsAreThoseOfAnyLineOfText) {
+  Editor.SetOptions(Editor.GetOptions() - TGridOptions{goAlwaysShowEditor});
+  EXPECT_EQ("4", After("one x", 5, Qt::Key_Left));
+}
+
+TEST_F(InplaceEditListWordsTest, WithoutAPermanentEditorTheKeysNeverLeaveTheCell) {
+  Editor.SetPropertyOptions({propEdit});
+  Editor.SetOptions(Editor.GetOptions() - TGridOptions{goAlwaysShowEditor});
+  EXPECT_EQ("0", After("one", 0, Qt::Key_Left));
+  EXPECT_EQ(1, Editor.GetCol());
 }
 
 TEST_F(InplaceEditListWordsTest, AtTheEndsTheGridGetsTheKey) {

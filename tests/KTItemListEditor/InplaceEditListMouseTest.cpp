@@ -86,6 +86,68 @@ TEST_F(InplaceEditListMouseTest, ADoubleClickOnAnEllipsisCellRunsItsAction) {
   EXPECT_EQ("click(a)", TakeLog());
 }
 
+TEST_F(InplaceEditListMouseTest, AHandlerOfDoubleClicksTakesThePlaceOfTheEllipsisAction) {
+  ShowEllipsis();
+  Editor.OnDblClick = [this](TObject*) { Log += QStringLiteral("dblclick"); };
+  DoubleClickAt(kInText);
+  EXPECT_EQ("dblclick", TakeLog());
+}
+
+TEST_F(InplaceEditListMouseTest, ADoubleClickOnAnEllipsisCellValidatesNothing) {
+  ShowEllipsis();
+  Retype(QStringLiteral("x"));
+  DoubleClickAt(kInText);
+  EXPECT_EQ("click(a)", TakeLog());
+  EXPECT_TRUE(Edit().IsModified());
+}
+
+TEST_F(InplaceEditListMouseTest, ADoubleClickOnASimpleCellValidatesNothing) {
+  Show();
+  Retype(QStringLiteral("x"));
+  DoubleClickAt(kInText);
+  EXPECT_EQ("", TakeLog());
+  EXPECT_TRUE(Edit().IsModified());
+}
+
+TEST_F(InplaceEditListMouseTest, AReadOnlyItemHasTheActionOfItsEllipsisAllTheSame) {
+  Item(0).SetReadOnly(true);
+  ShowEllipsis();
+  DoubleClickAt(kInText);
+  EXPECT_EQ("click(a)", TakeLog());
+}
+
+TEST_F(InplaceEditListMouseTest, AReadOnlySimpleCellHasTheDoubleClickOfTheGrid) {
+  Item(0).SetReadOnly(true);
+  Show();
+  Editor.OnDblClick = [this](TObject*) { Log += QStringLiteral("dblclick"); };
+  DoubleClickAt(kInText);
+  EXPECT_EQ("dblclick", TakeLog());
+}
+
+TEST_F(InplaceEditListMouseTest, AStepOnAnEmptyListStillValidatesWhatWasTyped) {
+  ShowPickList({});
+  Retype(QStringLiteral("x"));
+  DoubleClickAt(kInText);
+  EXPECT_EQ("validate(a=x) validated(a)", TakeLog());
+}
+
+TEST_F(InplaceEditListMouseTest, AStepIsToldToTheGridAsSomethingTyped) {
+  ShowColors();
+  Editor.OnSetEditText = [this](TObject*, int col, int row, const QString& text) {
+    Log += QStringLiteral("set(%1,%2)=%3").arg(col).arg(row).arg(text);
+  };
+  DoubleClickAt(kInText);
+  EXPECT_EQ("set(1,1)=red validate(a=red) validated(a)", TakeLog());
+}
+
+TEST_F(InplaceEditListMouseTest, ADoubleClickOnTheArrowValidatesWhatWasTypedAndStepsNowhere) {
+  ShowColors();
+  Retype(QStringLiteral("x"));
+  DoubleClickAt(OnButton());
+  EXPECT_EQ("validate(a=x) validated(a)", TakeLog());
+  EXPECT_EQ("x", Value(0));
+}
+
 TEST_F(InplaceEditListMouseTest, ADoubleClickOnTheArrowStepsNowhere) {
   ShowColors();
   ClickAt(OnButton());

@@ -2,6 +2,8 @@
 
 #include <QLineEdit>
 
+#include <tuple>
+
 namespace kt::tests {
 namespace {
 
@@ -11,6 +13,7 @@ using InplaceEditListTextTest = TInplaceEditListTest;
 struct TOpenEdit : TKTInplaceEditList {
   using TKTInplaceEditList::LoadPickList;
   using TKTInplaceEditList::RestoreContents;
+  using TKTInplaceEditList::SetGrid;
   using TKTInplaceEditList::ValidateExpression;
 };
 
@@ -19,6 +22,14 @@ TEST_F(InplaceEditListTextTest, StandsOverTheValueWithItsText) {
   EXPECT_EQ("1", Edit().GetText());
   EXPECT_EQ(Editor.CellRect(1, 1), Edit().GetBoundsRect());
   EXPECT_EQ(&Editor, &Edit().GetGrid());
+}
+
+TEST_F(InplaceEditListTextTest, OutsideAnItemListEditorThereIsNoGrid) {
+  const auto edit = Make<TOpenEdit>();
+  EXPECT_EQ("Invalid class typecast", MessageOf<EInvalidCast>([&] { std::ignore = &edit->GetGrid(); }));
+  const auto grid = Make<TDrawGrid>();
+  edit->SetGrid(grid.get());
+  EXPECT_EQ("Invalid class typecast", MessageOf<EInvalidCast>([&] { std::ignore = &edit->GetGrid(); }));
 }
 
 TEST_F(InplaceEditListTextTest, HasTheFontOfItsCell) {
@@ -135,6 +146,19 @@ TEST_F(InplaceEditListTextTest, TheCheckOnLeavingFindsTheExpressionAnywhere) {
   EXPECT_TRUE((Edit().*&TOpenEdit::ValidateExpression)());
 }
 
+TEST_F(InplaceEditListTextTest, WithoutAWindowAnyTextMayLeave) {
+  const auto edit = Make<TOpenEdit>();
+  edit->SetText(QStringLiteral("abc"));
+  edit->SetExpression(QStringLiteral("[0-9]"));
+  EXPECT_TRUE(edit->ValidateExpression());
+}
+
+TEST_F(InplaceEditListTextTest, WithoutAnExpressionAnyTextMayLeave) {
+  Show();
+  Retype(QStringLiteral("abc"));
+  EXPECT_TRUE((Edit().*&TOpenEdit::ValidateExpression)());
+}
+
 TEST_F(InplaceEditListTextTest, TheCheckOnLeavingKnowsTheEndsOfTheText) {
   Item(0).SetValue(QStringLiteral("12"));
   ShowExpression(QStringLiteral("^[0-9]+$"));
@@ -168,6 +192,54 @@ TEST_P(InplaceEditListLeavingTest, ChecksTheText) {
 INSTANTIATE_TEST_SUITE_P(InplaceEditListTextTest, InplaceEditListLeavingTest,
                          testing::Values(Qt::Key_Tab, Qt::Key_Escape, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Up,
                                          Qt::Key_Down, Qt::Key_Insert, Qt::Key_Return));
+
+/// A key, and what is held with it.
+struct THeldKey {
+  const char* Name;
+  Qt::Key Key;
+  Qt::KeyboardModifiers Held;
+};
+
+void PrintTo(const THeldKey& key, std::ostream* out) { *out << key.Name; }
+
+class InplaceEditListHeldKeyTest : public TInplaceEditListTest, public testing::WithParamInterface<THeldKey> {
+ protected:
+  /// The errors of the key on a text that the expression is not found in.
+  std::string ErrorsOfKey() {
+    Item(0).SetValue(QStringLiteral("abc"));
+    ShowExpression(QStringLiteral("[0-9]+"));
+    Editor.SetOptions(Editor.GetOptions() + TGridOptions{goTabs});
+    Key(GetParam().Key, GetParam().Held);
+    return TakeErrors();
+  }
+};
+class InplaceEditListLeavingWithTest : public InplaceEditListHeldKeyTest {};
+class InplaceEditListStayingTest : public InplaceEditListHeldKeyTest {};
+
+TEST_P(InplaceEditListLeavingWithTest, ChecksTheText) {
+  EXPECT_EQ("No argument for format '\"%s\" is not a valid property va'", ErrorsOfKey());
+  EXPECT_EQ(1, Editor.GetRow());
+}
+
+INSTANTIATE_TEST_SUITE_P(InplaceEditListTextTest, InplaceEditListLeavingWithTest,
+                         testing::Values(THeldKey{"Shift+Tab", Qt::Key_Backtab, Qt::ShiftModifier},
+                                         THeldKey{"Shift+Up", Qt::Key_Up, Qt::ShiftModifier},
+                                         THeldKey{"Ctrl+Down", Qt::Key_Down, Qt::ControlModifier},
+                                         THeldKey{"Ctrl+PageDown", Qt::Key_PageDown, Qt::ControlModifier},
+                                         THeldKey{"Ctrl+Enter", Qt::Key_Return, Qt::ControlModifier}));
+
+TEST_P(InplaceEditListStayingTest, ChecksNothing) {
+  EXPECT_EQ("", ErrorsOfKey());
+  EXPECT_EQ(1, Editor.GetRow());
+}
+
+INSTANTIATE_TEST_SUITE_P(InplaceEditListTextTest, InplaceEditListStayingTest,
+                         testing::Values(THeldKey{"Left", Qt::Key_Left, {}}, THeldKey{"Right", Qt::Key_Right, {}},
+                                         THeldKey{"Home", Qt::Key_Home, {}}, THeldKey{"End", Qt::Key_End, {}},
+                                         THeldKey{"F2", Qt::Key_F2, {}}, THeldKey{"Delete", Qt::Key_Delete, {}},
+                                         THeldKey{"Shift+Insert", Qt::Key_Insert, Qt::ShiftModifier},
+                                         THeldKey{"Ctrl+Insert", Qt::Key_Insert, Qt::ControlModifier},
+                                         THeldKey{"Ctrl+Left", Qt::Key_Left, Qt::ControlModifier}));
 
 TEST_F(InplaceEditListTextTest, TheMouseLeavesUnchecked) {
   Item(0).SetValue(QStringLiteral("abc"));

@@ -2,6 +2,10 @@
 #include "support/ItemLists.h"
 #include "support/WindowProbe.h"
 
+#include <QScrollBar>
+
+#include <algorithm>
+
 namespace kt::tests {
 namespace {
 
@@ -9,6 +13,7 @@ class TSizedEditor : public TKTItemListEditor {
  public:
   using TKTItemListEditor::CalcFixedInfo;
   using TKTItemListEditor::CalcSizingState;
+  using TKTItemListEditor::SetDesigning;
   using TKTItemListEditor::TKTItemListEditor;
   int EffectiveRowHeight() const { return TCustomDrawGrid::GetDefaultRowHeight(); }
 };
@@ -26,6 +31,10 @@ class ItemListEditorColumnsTest : public TItemListTest {
     QStringList widths;
     for (int i = 0; i < FEditor->GetColCount(); ++i) widths += QString::number(FEditor->GetColWidths(i));
     return widths.join(u' ').toStdString();
+  }
+  qsizetype ShownBars() {
+    const auto bars = FWindow->Body()->findChildren<QScrollBar*>();
+    return std::count_if(bars.begin(), bars.end(), [](const QScrollBar* bar) { return bar->isVisible(); });
   }
   TSizedEditor& Sized() { return static_cast<TSizedEditor&>(*FEditor); }
   /// What a press would size: "column 0" or "-".
@@ -89,11 +98,63 @@ TEST_F(ItemListEditorColumnsTest, TheColumnsFollowTheWindow) {
 
 TEST_F(ItemListEditorColumnsTest, ClientWidthsBelowTwoMakeNegativeWidths) {
   Show();
+  FEditor->SetWidth(1);
+  ASSERT_EQ(1, FEditor->GetClientWidth());
+  EXPECT_EQ("150 -151", Widths());
   FEditor->SetDisplayOptions(FEditor->GetDisplayOptions() - TILEDisplayOptions{doKeyColFixed});
-  FWindow->Window()->setMinimumWidth(0);
-  FEditor->SetColWidths(0, 20);
+  FEditor->SetWidth(0);
+  ASSERT_EQ(0, FEditor->GetClientWidth());
+  EXPECT_EQ("-1 -1", Widths());
+}
+
+TEST_F(ItemListEditorColumnsTest, ASingleFixedKeyColumnKeepsItsWidth) {
+  Show();
+  FEditor->SetColCount(1);
+  EXPECT_EQ("150", Widths());
+}
+
+TEST_F(ItemListEditorColumnsTest, ASingleColumnThatIsNotFixedTakesHalfOfTheWidth) {
+  Show();
+  FEditor->SetDisplayOptions(FEditor->GetDisplayOptions() - TILEDisplayOptions{doKeyColFixed});
   FEditor->SetColCount(1);
   EXPECT_EQ("151", Widths());
+}
+
+TEST_F(ItemListEditorColumnsTest, AHiddenGridAdjustsItsColumnsWhenItShows) {
+  Show();
+  FEditor->SetVisible(false);
+  FEditor->SetColWidths(0, 100);
+  EXPECT_EQ("100 153", Widths());
+  FEditor->SetVisible(true);
+  TWindowProbe::Settle();
+  EXPECT_EQ("100 203", Widths());
+}
+
+TEST_F(ItemListEditorColumnsTest, AutoResizeThatIsSwitchedOnAdjustsAtOnce) {
+  FEditor->SetDisplayOptions(FEditor->GetDisplayOptions() - TILEDisplayOptions{doAutoColResize});
+  Show();
+  FEditor->SetDisplayOptions(FEditor->GetDisplayOptions() + TILEDisplayOptions{doAutoColResize});
+  EXPECT_EQ("150 153", Widths());
+}
+
+TEST_F(ItemListEditorColumnsTest, WhereColumnsAreItemsTheItemsShareWhatTheTitlesLeave) {
+  FEditor->SetOrientation(goHorizontal);
+  Show();
+  Fill("a b");
+  EXPECT_EQ("150 76 76", Widths());
+  FEditor->SetColWidths(0, 103);
+  EXPECT_EQ("103 100 100", Widths());
+}
+
+TEST_F(ItemListEditorColumnsTest, AWindowHasNoScrollBarUntilItsRowsNeedOneAndTheColumnsMakeRoomForIt) {
+  FWindow = std::make_unique<TWindowProbe>(*FEditor, QSize(305, 100));
+  EXPECT_EQ(0, ShownBars());
+  const int width = FEditor->GetClientWidth();
+  Fill("a b c d e f g h");
+  TWindowProbe::Settle();
+  EXPECT_EQ(1, ShownBars());
+  EXPECT_LT(FEditor->GetClientWidth(), width);
+  EXPECT_EQ(FEditor->GetClientWidth() - 2, FEditor->GetColWidths(0) + FEditor->GetColWidths(1));
 }
 
 // Sizing.
@@ -107,17 +168,63 @@ TEST_F(ItemListEditorColumnsTest, TheDividerCanBeDraggedOnAnyRow) {
   EXPECT_EQ("-", SizedAt(100, 60));
 }
 
+TEST_F(ItemListEditorColumnsTest, TheDividerIsSevenPixelsWide) {
+  Show();
+  EXPECT_EQ("-", SizedAt(146, 60));
+  EXPECT_EQ("column 0", SizedAt(147, 60));
+  EXPECT_EQ("column 0", SizedAt(153, 60));
+  EXPECT_EQ("-", SizedAt(154, 60));
+}
+
+TEST_F(ItemListEditorColumnsTest, WhereColumnsAreItemsTheirDividersCanBeDraggedOnAnyRow) {
+  FEditor->SetOrientation(goHorizontal);
+  Show();
+  Fill("a b");
+  EXPECT_EQ("column 1", SizedAt(227, 9));
+  EXPECT_EQ("column 1", SizedAt(227, 28));
+  EXPECT_EQ("column 1", SizedAt(227, 150));
+  // The titles are fixed.
+  EXPECT_EQ("-", SizedAt(150, 9));
+}
+
+TEST_F(ItemListEditorColumnsTest, FromRightToLeftTheDividerIsAsFarFromTheOtherSide) {
+  FEditor->SetBiDiMode(bdRightToLeft);
+  Show();
+  EXPECT_EQ("column 0", SizedAt(305 - 150, 60));
+  EXPECT_EQ("-", SizedAt(145, 60));
+}
+
+TEST_F(ItemListEditorColumnsTest, AColumnThatTheEdgeCutsOffCanBeSizedThere) {
+  FEditor->SetDisplayOptions(FEditor->GetDisplayOptions() - TILEDisplayOptions{doAutoColResize});
+  Show();
+  FEditor->SetColWidths(1, 400);
+  EXPECT_EQ("column 1", SizedAt(304, 60));
+  EXPECT_EQ("-", SizedAt(290, 60));
+}
+
 TEST_F(ItemListEditorColumnsTest, NothingIsSizedWithoutTheOptions) {
   Show();
   FEditor->SetOptions(FEditor->GetOptions() - TGridOptions{goColSizing});
   EXPECT_EQ("-", SizedAt(150, 9));
 }
 
+TEST_F(ItemListEditorColumnsTest, WithoutTheOptionsColumnsAreSizedAllTheSameWhileAFormIsDesigned) {
+  Show();
+  FEditor->SetOptions(FEditor->GetOptions() - TGridOptions{goColSizing});
+  Sized().SetDesigning(true);
+  EXPECT_EQ("column 0", SizedAt(150, 60));
+}
+
 TEST_F(ItemListEditorColumnsTest, RowsAreSizedOnlyWhereColumnsAreNot) {
   Show();
   Fill("a b c");
-  FEditor->SetOptions(FEditor->GetOptions() - TGridOptions{goColSizing} + TGridOptions{goRowSizing});
-  EXPECT_EQ("row 1", SizedAt(60, 19 + FEditor->CellRect(0, 1).height()));
+  const int bottom = 19 + FEditor->CellRect(0, 1).height();
+  FEditor->SetOptions(FEditor->GetOptions() + TGridOptions{goRowSizing});
+  EXPECT_EQ("-", SizedAt(60, bottom));
+  EXPECT_EQ("column 0", SizedAt(150, bottom));
+  FEditor->SetOptions(FEditor->GetOptions() - TGridOptions{goColSizing});
+  EXPECT_EQ("row 1", SizedAt(60, bottom));
+  EXPECT_EQ("row 1", SizedAt(250, bottom));
 }
 
 TEST_F(ItemListEditorColumnsTest, ADragOfTheDividerSizesTheNamesAndTheValuesFollow) {

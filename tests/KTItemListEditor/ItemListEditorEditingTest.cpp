@@ -25,9 +25,10 @@ class TEditingProbe : public TKTItemListEditor {
   using TKTItemListEditor::SetEditText;
 
   void Refresh() override {
-    ++Refreshes;
+    if (!IsEditUpdateLocked()) ++Refreshes;
     TKTItemListEditor::Refresh();
   }
+  /// Those that did something.
   int Refreshes = 0;
 
  protected:
@@ -150,7 +151,23 @@ TEST_F(ItemListEditorEditingTest, TypingIntoTheBlankLineMakesAnItemAndRefreshesN
   Editor.SetEditText(1, 1, QStringLiteral("x"));
   EXPECT_EQ("=x", Text());
   EXPECT_EQ("=x", Editor.GetItem(0)->GetDisplayName());
+  EXPECT_EQ(0, Editor.Refreshes);
   EXPECT_FALSE(Editor.IsEditUpdateLocked());
+}
+
+TEST_F(ItemListEditorEditingTest, RowsThatComeAndGoWhileTheEditorIsLockedRefreshItOnceAtTheEnd) {
+  Editor.DisableEditUpdate();
+  Editor.GetItems().Add();
+  Editor.Refreshes = 0;
+  Editor.EnableEditUpdate();
+  EXPECT_EQ(1, Editor.Refreshes);
+}
+
+TEST_F(ItemListEditorEditingTest, ALockWithoutNewRowsRefreshesNothing) {
+  Editor.Refreshes = 0;
+  Editor.DisableEditUpdate();
+  Editor.EnableEditUpdate();
+  EXPECT_EQ(0, Editor.Refreshes);
 }
 
 TEST_F(ItemListEditorEditingTest, NothingTypedIntoTheBlankLineMakesNoItem) {

@@ -46,6 +46,31 @@ TEST_F(ItemListEditorOrientationTest, TurningTwiceRestoresCountsAndSelection) {
   EXPECT_EQ("2x4 fixed 0,1 at 1,2", Counts());
 }
 
+TEST_F(ItemListEditorOrientationTest, TurningTwiceRestoresASelectionOfSeveralItems) {
+  Editor.SetOptions(Editor.GetOptions() + TGridOptions{goRangeSelect});
+  Editor.SetSelection({1, 1, 1, 3});
+  Editor.SetOrientation(goHorizontal);
+  EXPECT_EQ((TGridRect{1, 1, 3, 1}), Editor.GetSelection());
+  Editor.SetOrientation(goVertical);
+  EXPECT_EQ((TGridRect{1, 1, 1, 3}), Editor.GetSelection());
+}
+
+TEST_F(ItemListEditorOrientationTest, TurningToTheSameSideChangesNothing) {
+  Show();
+  Type(QStringLiteral("x"));
+  Editor.SetOrientation(goVertical);
+  EXPECT_TRUE(Edit().Visible());
+  EXPECT_TRUE(Edit().IsModified());
+}
+
+TEST_F(ItemListEditorOrientationTest, TurningWithoutTitlesLeavesNoFixedCells) {
+  Editor.SetDisplayOptions(Editor.GetDisplayOptions() - TILEDisplayOptions{doColumnTitles});
+  Editor.SetOrientation(goHorizontal);
+  EXPECT_EQ("3x2 fixed 0,0", Counts().substr(0, 13));
+  Editor.SetOrientation(goVertical);
+  EXPECT_EQ("2x3 fixed 0,0", Counts().substr(0, 13));
+}
+
 TEST_F(ItemListEditorOrientationTest, WhatIsTypedBeforeStaysWithItsItem) {
   Show();
   Retype(QStringLiteral("7"));

@@ -1,10 +1,12 @@
 #include "kt/rtl/strings/StringList.h"
+#include "kt/vcl/forms/Form.h"
 #include "kt/vcl/graphics/Bitmap.h"
 #include "support/Expect.h"
 #include "support/ItemLists.h"
 #include "support/PaintLog.h"
 #include "support/WindowProbe.h"
 
+#include <QLineEdit>
 #include <QPainter>
 #include <QRegularExpression>
 
@@ -41,6 +43,16 @@ class ItemListEditorPaintTest : public TItemListTest {
   }
   QString Text(int col, int row, TGridDrawState state = {}) { return Only(QStringLiteral("text"), col, row, state); }
   QString Fills(int col, int row, TGridDrawState state = {}) { return Only(QStringLiteral("fill"), col, row, state); }
+  /// The colour of the font that a handler finds when it draws a cell.
+  TColor ColorAt(int col, int row) {
+    TColor color = clNone;
+    FEditor->OnDrawCell = [&](TObject*, int, int, const QRect&, TGridDrawState) {
+      color = FEditor->GetCanvas().GetFont().GetColor();
+    };
+    Drawn(col, row);
+    FEditor->OnDrawCell = nullptr;
+    return color;
+  }
   /// Whether a glyph is in the nine pixels that start there.
   bool HasGlyphAt(int left, int col, int row) {
     return Fills(col, row).contains(QStringLiteral("fill %1,4 9x9").arg(left));
@@ -71,6 +83,16 @@ TEST_F(ItemListEditorPaintTest, ValuesAreNeverIndented) {
   FEditor->FullExpand();
   Item("a.b").SetValue("x");
   EXPECT_EQ("text 2 'x' #000000", Text(1, 2));
+}
+
+TEST_F(ItemListEditorPaintTest, AcrossTheColumnsNamesAreIndentedAndValuesAreNot) {
+  FEditor->SetOrientation(goHorizontal);
+  Fill("a [b]");
+  FEditor->FullExpand();
+  Item("a.b").SetValue("x");
+  EXPECT_TRUE(HasGlyphAt(0, 1, 0));
+  EXPECT_EQ("text 24 'b' #000000", Text(2, 0));
+  EXPECT_EQ("text 2 'x' #000000", Text(2, 1));
 }
 
 TEST_F(ItemListEditorPaintTest, FromRightToLeftTextsEndTwoPixelsInside) {
@@ -179,6 +201,42 @@ TEST_F(ItemListEditorPaintTest, ADisabledItemHasDeliberatelyTheColourOfInactiveC
   EXPECT_NE("#000000", color);
 }
 
+TEST_F(ItemListEditorPaintTest, TheValueOfADisabledItemHasThatColourToo) {
+  Items().Add("a", "one");
+  Item("a").GetValueFont().SetColor(clBlue);
+  Item("a").SetEnabled(false);
+  EXPECT_EQ("text 2 'one' " + FEditor->GetCanvas().RealColor(clInactiveCaptionText).name(), Text(1, 1));
+}
+
+TEST_F(ItemListEditorPaintTest, AReadOnlyItemLooksLikeAnyOther) {
+  Items().Add("a", "one");
+  Item("a").SetReadOnly(true);
+  EXPECT_EQ("text 2 'one' #000000", Text(1, 1));
+}
+
+TEST_F(ItemListEditorPaintTest, TheBlankLineHasTheFontsOfNamesAndOfValues) {
+  FEditor->GetFont().SetColor(clRed);
+  FEditor->GetValueFont().SetColor(clBlue);
+  EXPECT_EQ(clRed, ColorAt(0, 1));
+  EXPECT_EQ(clBlue, ColorAt(1, 1));
+}
+
+TEST_F(ItemListEditorPaintTest, AFixedRowWithoutTitlesHasTheFontOfTitles) {
+  FEditor->GetTitleCaptionFont().SetColor(clGreen);
+  FEditor->SetDisplayOptions({doShowReadOnly});
+  FEditor->SetRowCount(2);
+  FEditor->SetFixedRows(1);
+  EXPECT_EQ(clGreen, ColorAt(0, 0));
+  EXPECT_EQ(clGreen, ColorAt(1, 0));
+}
+
+TEST_F(ItemListEditorPaintTest, TitlesWithoutAFixedRowAreDrawnAsTheFirstItemDeliberately) {
+  Items().Add("a", "one");
+  Item("a").GetFont().SetColor(clRed);
+  FEditor->SetFixedRows(0);
+  EXPECT_EQ("text 13 'Property' #ff0000", Text(0, 0));
+}
+
 TEST_F(ItemListEditorPaintTest, TitlesHaveTheirFont) {
   FEditor->GetTitleCaptionFont().SetColor(clGreen);
   EXPECT_EQ("text 2 'Property' #008000", Text(0, 0));
@@ -204,6 +262,53 @@ TEST_F(ItemListEditorPaintTest, WithoutHideSelectionTheCurrentCellStaysSelected)
   EXPECT_EQ("text 2 'one' " + color, Text(1, 1, {gdSelected}));
 }
 
+TEST_F(ItemListEditorPaintTest, ANameUnderTheCursorLosesItsSelectionBehindTheIndentationOnly) {
+  FEditor->SetPropertyOptions({propEdit});
+  FEditor->SetColor(clYellow);
+  Fill("a");
+  FEditor->SetCol(0);
+  EXPECT_TRUE(Fills(0, 1, {gdSelected}).startsWith("fill 11,0 189x18 #ffff00"));
+  EXPECT_EQ("text 13 'a' #000000", Text(0, 1, {gdSelected}));
+}
+
+TEST_F(ItemListEditorPaintTest, OtherCellsKeepTheirSelectionWithoutTheFocus) {
+  FEditor->SetColor(clYellow);
+  Items().Add("a", "one");
+  EXPECT_FALSE(Fills(0, 1, {gdSelected}).contains("#ffff00"));
+}
+
+TEST_F(ItemListEditorPaintTest, TheCurrentCellIsSelectedWhileTheEditorHasTheFocus) {
+  Items().Add("a", "one");
+  TWindowProbe window(*FEditor);
+  const QString color = FEditor->GetCanvas().RealColor(clHighlightText).name();
+  FEditor->SetFocus();
+  EXPECT_EQ("text 2 'one' " + color, Text(1, 1, {gdSelected}));
+  QLineEdit other;
+  window.Window()->layout()->addWidget(&other);
+  TWindowProbe::Settle();
+  other.setFocus();
+  EXPECT_EQ("text 2 'one' #000000", Text(1, 1, {gdSelected}));
+}
+
+TEST_F(ItemListEditorPaintTest, OnAFormTheCurrentCellIsSelectedWhereTheEditorIsTheActiveControl) {
+  const auto form = Make<TForm>();
+  FEditor->SetParent(form.get());
+  Items().Add("a", "one");
+  const QString color = FEditor->GetCanvas().RealColor(clHighlightText).name();
+  EXPECT_EQ("text 2 'one' #000000", Text(1, 1, {gdSelected}));
+  form->SetActiveControl(FEditor.get());
+  EXPECT_EQ("text 2 'one' " + color, Text(1, 1, {gdSelected}));
+  FEditor->SetParent(nullptr);
+}
+
+TEST_F(ItemListEditorPaintTest, WithRowSelectAFocusedCellIsSelectedToo) {
+  Items().Add("a", "one");
+  FEditor->SetHideSelection(false);
+  FEditor->SetOptions(FEditor->GetOptions() + TGridOptions{goRowSelect});
+  const QString color = FEditor->GetCanvas().RealColor(clHighlightText).name();
+  EXPECT_EQ("text 13 'a' " + color, Text(0, 1, {gdSelected, gdFocused}));
+}
+
 TEST_F(ItemListEditorPaintTest, AFocusedCellIsPlainUnlessTheOptionsSaySo) {
   Items().Add("a", "one");
   FEditor->SetHideSelection(false);
@@ -220,6 +325,15 @@ TEST_F(ItemListEditorPaintTest, OnDrawCellGetsTheRoomBesideTheGlyph) {
   FEditor->OnDrawCell = [&got](TObject*, int, int, const QRect& rect, TGridDrawState) { got = rect; };
   Drawn(0, 1);
   EXPECT_EQ(QRect(11, 0, 189, 18), got);
+}
+
+TEST_F(ItemListEditorPaintTest, OnDrawCellDrawsOverTheText) {
+  Fill("a");
+  FEditor->OnDrawCell = [this](TObject*, int, int, const QRect&, TGridDrawState) {
+    FEditor->GetCanvas().GetBrush().SetColor(clRed);
+    FEditor->GetCanvas().FillRect({1, 2, 3, 4});
+  };
+  EXPECT_TRUE(Drawn(0, 1).section(QStringLiteral("text 13 'a'"), 1).contains("fill 1,2 3x4 #ff0000"));
 }
 
 TEST_F(ItemListEditorPaintTest, WithoutDefaultDrawingOnlyOnDrawCellDraws) {

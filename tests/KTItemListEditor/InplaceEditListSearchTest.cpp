@@ -1,0 +1,70 @@
+#include "KTItemListEditor/InplaceEditListFixture.h"
+
+namespace kt::tests {
+namespace {
+
+/// Typing while the list is open.
+using InplaceEditListSearchTest = TInplaceEditListTest;
+
+TEST_F(InplaceEditListSearchTest, TypingSelectsTheFirstLineThatBeginsWithAllThatWasTyped) {
+  ShowPickList({QStringLiteral("Bear"), QStringLiteral("badger"), QStringLiteral("bat")});
+  OpenList();
+  Type(QStringLiteral("b"));
+  EXPECT_EQ(">Bear badger bat", Lines());
+  Type(QStringLiteral("at"));
+  EXPECT_EQ("Bear badger >bat", Lines());
+  EXPECT_EQ("1", Edit().GetText());
+}
+
+TEST_F(InplaceEditListSearchTest, WhatNoLineBeginsWithSelectsNothingElse) {
+  ShowColors();
+  OpenList();
+  Type(QStringLiteral("gx"));
+  EXPECT_EQ("red >green blue", Lines());
+}
+
+TEST_F(InplaceEditListSearchTest, BackspaceHasTheSearchStartAnew) {
+  ShowColors();
+  OpenList();
+  Type(QStringLiteral("g"));
+  Key(Qt::Key_Backspace);
+  Type(QStringLiteral("b"));
+  EXPECT_EQ("red green >blue", Lines());
+}
+
+TEST_F(InplaceEditListSearchTest, APauseHasTheSearchStartAnew) {
+  ShowColors();
+  OpenList();
+  Type(QStringLiteral("g"));
+  QTest::qWait(2100);
+  Type(QStringLiteral("b"));
+  EXPECT_EQ("red green >blue", Lines());
+}
+
+/// The next one is not looked for, nor does it start another search.
+TEST_F(InplaceEditListSearchTest, AtMostThirtyTwoCharactersAreSearchedFor) {
+  const QString most(32, u'y');
+  ShowPickList({QStringLiteral("x"), most + u'1', most + u'2', QStringLiteral("2")});
+  OpenList();
+  Type(most + u'2');
+  EXPECT_EQ(1, List().GetItemIndex());
+}
+
+TEST_F(InplaceEditListSearchTest, ThirtyTwoCharactersAreAllSearchedFor) {
+  const QString fewer(31, u'y');
+  ShowPickList({QStringLiteral("x"), fewer + u'1', fewer + u'2'});
+  OpenList();
+  Type(fewer + u'2');
+  EXPECT_EQ(2, List().GetItemIndex());
+}
+
+TEST_F(InplaceEditListSearchTest, ABlankIsSearchedForLikeAnyOtherCharacter) {
+  ShowPickList({QStringLiteral("ab"), QStringLiteral("a b")});
+  OpenList();
+  Type(QStringLiteral("a "));
+  EXPECT_EQ(1, List().GetItemIndex());
+  EXPECT_TRUE(Edit().IsListVisible());
+}
+
+}  // namespace
+}  // namespace kt::tests
