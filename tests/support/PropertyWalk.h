@@ -61,6 +61,8 @@ struct TWalkRules {
   std::vector<TWalkException> Untouched = {};
   /// Do not keep every value that their type has, and so may come to have the one they had.
   std::vector<TWalkException> Choosy = {};
+  /// Need not have the same value after the way through a form.
+  std::vector<TWalkException> Derived = {};
   /// Have another value in a fresh instance than they declare.
   std::vector<TWalkException> OtherDefaults = {};
 };

@@ -140,6 +140,11 @@ TEST_F(PropertyWalkCheck, ExceptionsAreLeftAlone) {
   EXPECT_EQ(QStringList(), LostOnTheWay(Name, rules, wsChanged, wfText));
 }
 
+TEST_F(PropertyWalkCheck, WhatNeedNotComeBackIsNotCompared) {
+  const TWalkRules rules{.Handlers = {}, .Derived = {{"TForgetful.Number", "is lost"}}};
+  EXPECT_EQ(QStringList(), LostOnTheWay(Name, rules, wsChanged, wfBinary));
+}
+
 TEST_F(PropertyWalkCheck, ExceptionsForNothingAreNoticed) {
   const TWalkRules rules{.Handlers = {}, .Untouched = {{"TForgetful.Gone", "was there"}, {"TForgetful.Deaf", ""}}};
   const QStringList expected = {QStringLiteral("TForgetful.Gone"), QStringLiteral("TForgetful.Deaf")};
