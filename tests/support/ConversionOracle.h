@@ -8,6 +8,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <array>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -155,7 +156,8 @@ inline void CheckVariants(const QString& text, double number) {
 
 /// The first line of the bytes is a picture or format, the second a value.
 inline void CheckConversions(const QByteArray& bytes) {
-  static const TFormatSettings german(QLocale(QLocale::German)), english(QLocale(QLocale::English));
+  static const std::array<TFormatSettings, 3> manners = {TFormatSettings(), TFormatSettings(QLocale(QLocale::German)),
+                                                         TFormatSettings(QLocale(QLocale::English))};
   const qsizetype end = bytes.indexOf('\n');
   const QString picture = QString::fromUtf8(bytes.left(end)).left(512);
   const QString text = QString::fromUtf8(end < 0 ? bytes : bytes.mid(end + 1)).left(512);
@@ -163,7 +165,7 @@ inline void CheckConversions(const QByteArray& bytes) {
   CheckFloats(text);
   CheckAmounts(text);
   CheckTruth(text);
-  for (const TFormatSettings& settings : {TFormatSettings(), german, english}) CheckMoments(text, settings);
+  for (const TFormatSettings& settings : manners) CheckMoments(text, settings);
   const double number = Answer([&] { return StrToFloat(text); }).value_or(36526.75);
   CheckPictures(picture, number);
   CheckFormat(picture, text, number);
