@@ -16,8 +16,17 @@ target_compile_options(
   kt_own_options
   INTERFACE
     $<$<CXX_COMPILER_ID:GNU,Clang>:-Wall;-Wextra;-Wpedantic;-Wshadow;-Wnon-virtual-dtor;-Woverloaded-virtual;-Wimplicit-fallthrough>
+    # False alarms on functions that return references into their arguments.
+    $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_GREATER_EQUAL:$<CXX_COMPILER_VERSION>,13>>:-Wno-dangling-reference>
     $<$<AND:$<BOOL:${KT_WARNINGS_AS_ERRORS}>,$<CXX_COMPILER_ID:GNU,Clang>>:-Werror>)
 target_compile_definitions(kt_own_options INTERFACE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
+
+# Until 1.0 the interface may change with every minor version, so the name that programs load has it too.
+if(PROJECT_VERSION_MAJOR EQUAL 0)
+  set(KT_SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+else()
+  set(KT_SOVERSION ${PROJECT_VERSION_MAJOR})
+endif()
 
 # kt_library(<name> SOURCES ... LINKS ...): a library exported as kt::<name>.
 function(kt_library name)
@@ -28,7 +37,7 @@ function(kt_library name)
     kt_${name}
     PROPERTIES EXPORT_NAME ${name}
                VERSION ${PROJECT_VERSION}
-               SOVERSION ${PROJECT_VERSION_MAJOR}
+               SOVERSION ${KT_SOVERSION}
                DEFINE_SYMBOL "" # compiled alike for both kinds of library, so that changing the kind only links anew
                POSITION_INDEPENDENT_CODE ON)
   target_compile_features(kt_${name} PUBLIC cxx_std_20)

@@ -20,7 +20,9 @@ run_target() {
   [ -d "$corpus" ] || { echo "$name: no corpus in fuzz/corpus/$name" >&2; return 1; }
   rm -rf "$work"
   mkdir -p "$work/found"
-  if ! "$target" -max_total_time="$KT_FUZZ_SECONDS" -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 \
+  # Inputs have at most some kilobytes, and no single request for memory may be far beyond them. Of the whole, most is
+  # what the address sanitizer keeps of freed blocks.
+  if ! "$target" -max_total_time="$KT_FUZZ_SECONDS" -timeout=10 -malloc_limit_mb=16 -rss_limit_mb=768 -print_final_stats=1 \
     -artifact_prefix="$work/" "$work/found" "$corpus" >"$work/log" 2>&1; then
     tail -n 60 "$work/log" >&2
     echo "$name failed; the input is in $work" >&2

@@ -50,13 +50,18 @@ void Compare(const kt::TFormEventLog& before, const QByteArray& after, const QSt
       QStringLiteral("not the same after the way %1: %2").arg(step, FirstDifference(before.Text(), log.Text())));
 }
 
+QString Counted(qint64 count, const char* one, const char* many) {
+  return QString::number(count) + u' ' + QLatin1StringView(count == 1 ? one : many);
+}
+
 QString CheckedCounts(const QString& fileName, const kt::TFormOptions& options) {
   const QByteArray form = LoadFile(fileName);
   const kt::TFormEventLog log = LogOf(form, options);
   const QByteArray other = Converted(form, options);
   Compare(log, other, QStringLiteral("there"));
   Compare(log, Converted(other), QStringLiteral("back"));
-  return QStringLiteral("(%1 objects, %2 properties)").arg(log.ObjectCount()).arg(log.PropertyCount());
+  return u'(' + Counted(log.ObjectCount(), "object", "objects") + QStringLiteral(", ") +
+         Counted(log.PropertyCount(), "property", "properties") + u')';
 }
 
 bool Check(const QString& fileName, const kt::TFormOptions& options, TProgress& progress) {

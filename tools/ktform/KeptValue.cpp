@@ -8,6 +8,12 @@
 #include "kt/rtl/objects/KeptData.h"
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/streams/BinaryWriter.h"
+#include "kt/rtl/streams/FormNumbers.h"
+#include "kt/rtl/typeinfo/MemberAccess.h"
+
+#include <cmath>
+#include <limits>
+#include <optional>
 
 namespace ktform {
 namespace {
@@ -21,21 +27,36 @@ kt::TKeptData::TProperty* FindKept(kt::TComponent* component, QStringView path) 
   return nullptr;
 }
 
-void WriteFloat(kt::TBinaryWriter& writer, const QString& value) {
-  double number = 0;
-  if (!kt::TryNeutralToDouble(value.toLatin1(), number)) {
+long double FloatOf(const QString& value) {
+  long double number = 0;
+  if (!kt::TryNeutralToLongDouble(value.toLatin1(), number)) {
     throw kt::EConvertError(kt::Format(kt::SInvalidFloat, {value}));
   }
-  writer.WriteFloat(number);
+  return number;
+}
+
+/// The nearest number of a narrower type; raises for one that this cannot hold.
+template <class T>
+T Narrowed(const QString& value) {
+  const long double number = FloatOf(value);
+  if (std::isfinite(number) && std::fabs(number) > std::numeric_limits<T>::max()) {
+    throw kt::ERangeError(kt::SRangeError.toString());
+  }
+  return static_cast<T>(number);
+}
+
+/// A name, or a number as the text format writes it.
+QString SetElementOf(const QString& text) {
+  if (kt::IsValidIdent(text)) return text;
+  const std::optional<qint64> number = kt::ParseFormInteger(text.toLatin1());
+  if (!number) throw kt::EPropertyError(kt::SInvalidPropertyValue.toString());
+  return QString::number(*number);
 }
 
 void WriteSet(kt::TBinaryWriter& writer, QString value) {
   value.remove(u'[').remove(u']').replace(u' ', u',');
   writer.WriteSetBegin();
-  for (const QString& name : value.split(u',', Qt::SkipEmptyParts)) {
-    if (!kt::IsValidIdent(name)) throw kt::EPropertyError(kt::SInvalidPropertyValue.toString());
-    writer.WriteSetElement(name);
-  }
+  for (const QString& element : value.split(u',', Qt::SkipEmptyParts)) writer.WriteSetElement(SetElementOf(element));
   writer.WriteSetEnd();
 }
 
@@ -59,9 +80,15 @@ void WriteAs(kt::TBinaryWriter& writer, kt::TValueType type, const QString& valu
       if (!kt::IsValidIdent(value, kt::drAllowDots)) break;
       return writer.WriteIdent(value);
     case kt::vaExtended:
+      return writer.WriteFloat(FloatOf(value));
     case kt::vaSingle:
+      return writer.WriteSingle(Narrowed<float>(value));
     case kt::vaDouble:
-      return WriteFloat(writer, value);
+      return writer.WriteDouble(Narrowed<double>(value));
+    case kt::vaDate:
+      return writer.WriteDate(Narrowed<double>(value));
+    case kt::vaCurrency:
+      return writer.WriteCurrency(kt::MemberAccess::AmountOfFloat(FloatOf(value)).Scaled());
     case kt::vaSet:
       return WriteSet(writer, value);
     default:

@@ -12,8 +12,10 @@ namespace ktform {
 bool HasKeptValue(kt::TComponent* component, QStringView path);
 
 /// Changes a property of a component that its class does not know: one that the form has already, to a value of the
-/// same type as it has there (text, number, identifier, set). Throws EPropertyError for a property that the form does
-/// not have or whose value is of another kind, and EConvertError for a text that is no number.
+/// same type as it has there (text, number of whatever kind, identifier, set of names or numbers). An amount of money
+/// is given in its own unit, a date in days. Throws EPropertyError for a property that the form does not have or whose
+/// value is of another kind, EConvertError for a text that is no number, and ERangeError for one that the type cannot
+/// hold.
 void SetKeptValue(kt::TComponent* component, QStringView path, const QString& value);
 
 }  // namespace ktform

@@ -28,7 +28,7 @@ QString Usage() {
              "and in the 8-bit strings of binary forms; it takes\n%1.\n"
              "The first of them is taken when nothing is said; with utf-8 such bytes are an error. Code pages with\n"
              "several bytes a character (Chinese, Japanese, Korean) are not known: turn such text into UTF-8 first.\n"
-             "\nExit status: 0 done, 1 failed, 2 wrong usage.")
+             "\n--help shows this, --version the version. Exit status: 0 done, 1 failed, 2 wrong usage.")
              .arg(EncodingNames(7));
 }
 
@@ -66,6 +66,10 @@ TExitStatus Run(const QStringList& arguments) {
   if (arguments.isEmpty()) return WrongUsage(QStringLiteral("a command is missing"));
   if (arguments.contains(QStringLiteral("--help")) || arguments.first() == QStringLiteral("-h")) {
     Print(Usage());
+    return esDone;
+  }
+  if (arguments.first() == QStringLiteral("--version")) {
+    Print(QStringLiteral("ktform " KT_VERSION));
     return esDone;
   }
   const TCommand* command = FindCommand(arguments.first());

@@ -114,7 +114,6 @@ class TGapSequence {
   static constexpr int AsideSlot = std::numeric_limits<int>::max();
 
   int GapSize() const { return FCapacity - FCount; }
-  int SlotAt(int index) const { return index < FGapStart ? index : index + GapSize(); }
 
   void Settle() {
     if (!FAside) return;

@@ -4,14 +4,12 @@
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/streams/ReadAll.h"
-#include "kt/rtl/streams/Reader.h"
 #include "kt/rtl/streams/Writer.h"
 
 #include <QFileInfo>
 #include <QSaveFile>
 
 #include <cerrno>
-#include <functional>
 
 #ifdef Q_OS_UNIX
 #include <unistd.h>
@@ -61,9 +59,14 @@ bool WriteAll(QFileDevice& file, QByteArrayView bytes) {
   return true;
 }
 
-QByteArray BinaryOfText(const QByteArray& text) {
+/// The form with or without its resource header.
+QByteArray BinaryOf(const QByteArray& form, TEightBitEncoding encoding) {
+  const TStreamOriginalFormat format = TestStreamFormat(form);
+  if (format == sofBinary || format == sofResource) return form;
   QByteArray binary;
-  ObjectTextToBinary(text, binary);
+  TFormOptions options;
+  options.Encoding = encoding;
+  ObjectTextToBinary(form, binary, options);
   return binary;
 }
 
@@ -75,15 +78,16 @@ QByteArray FormBytes(const QByteArray& binary, TStreamOriginalFormat format) {
   return text;
 }
 
-/// Runs `read` over a file in any of the formats; errors begin with the file's name.
-void ReadFile(const QString& fileName, const std::function<void(TReader&)>& read) {
+/// Reads a file in any of the formats into `root`, or into a new one; errors begin with the file's name.
+TComponent* ReadFile(const QString& fileName, TComponent* root, const TLoadOptions& options) {
   QFile file(fileName);
   if (!file.open(QIODevice::ReadOnly)) RaiseFileError<EFOpenError>(SFOpenError, file);
   try {
-    QByteArray data = ReadAll(file);
-    if (TestStreamFormat(data) == sofText) data = BinaryOfText(data);
-    TReader reader(data);
-    read(reader);
+    TReader reader(BinaryOf(ReadAll(file), options.Encoding));
+    reader.UnknownClasses = options.UnknownClasses;
+    reader.UnknownProperties = options.UnknownProperties;
+    reader.SetEncoding(options.Encoding);
+    return reader.ReadRootComponent(root);
   } catch (Exception& error) {
     error.SetMessage(QFileInfo(fileName).absoluteFilePath() + QStringLiteral(": ") + error.Message());
     throw;
@@ -104,14 +108,12 @@ void SaveBytesToFile(const QString& fileName, QByteArrayView bytes) {
   if (!file.commit()) RaiseFileError<EWriteError>(SFWriteError, file);
 }
 
-void LoadComponentFromFile(const QString& fileName, TComponent* root) {
-  ReadFile(fileName, [root](TReader& reader) { reader.ReadRootComponent(root); });
+void LoadComponentFromFile(const QString& fileName, TComponent* root, const TLoadOptions& options) {
+  ReadFile(fileName, root, options);
 }
 
-std::unique_ptr<TComponent> LoadComponentFromFile(const QString& fileName) {
-  std::unique_ptr<TComponent> root;
-  ReadFile(fileName, [&root](TReader& reader) { root.reset(reader.ReadRootComponent(nullptr)); });
-  return root;
+std::unique_ptr<TComponent> LoadComponentFromFile(const QString& fileName, const TLoadOptions& options) {
+  return std::unique_ptr<TComponent>(ReadFile(fileName, nullptr, options));
 }
 
 void SaveComponentToFile(const QString& fileName, TComponent* component, TStreamOriginalFormat format) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kt/rtl/streams/FormConversion.h"
+#include "kt/rtl/streams/Reader.h"
 
 #include <QByteArrayView>
 #include <QString>
@@ -21,10 +22,19 @@ void SaveBytesToFile(const QString& fileName, QByteArrayView bytes);
 /// Raises also what WriteComponentToBinary() raises, before the file is touched.
 void SaveComponentToFile(const QString& fileName, TComponent* component, TStreamOriginalFormat format = sofBinary);
 
+/// How a file is loaded.
+struct TLoadOptions {
+  /// What to do with unknown classes and with unknown properties.
+  TUnknownPolicy UnknownClasses = upRaise;
+  TUnknownPolicy UnknownProperties = upRaise;
+  /// Of 8-bit strings in binary, and of text that is not Unicode.
+  TEightBitEncoding Encoding = eeWindows1252;
+};
+
 /// Reads a component and its children from a file in any of these formats; into `root`, which must not be null, or into
-/// a new one. Raises EFOpenError "Cannot open file "%s". %s"; what the content makes a reader raise (see TReader; of a
-/// text EParserError) has the file's name before its message.
-void LoadComponentFromFile(const QString& fileName, TComponent* root);
-std::unique_ptr<TComponent> LoadComponentFromFile(const QString& fileName);
+/// a new one. What is neither binary nor a resource is taken for text. Raises EFOpenError "Cannot open file "%s". %s";
+/// what the content makes a reader raise (see TReader; of a text EParserError) has the file's name before its message.
+void LoadComponentFromFile(const QString& fileName, TComponent* root, const TLoadOptions& options = {});
+std::unique_ptr<TComponent> LoadComponentFromFile(const QString& fileName, const TLoadOptions& options = {});
 
 }  // namespace kt

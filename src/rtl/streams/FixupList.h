@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QtGlobal>
 
 #include <map>
 #include <unordered_map>
@@ -29,6 +30,8 @@ struct TFixup {
   /// The policy was to keep: the reference becomes unknown data when its target is a stand-in, and is written back
   /// while it waits.
   bool IsKept;
+  /// Where the name begins in its stream; errors show it.
+  qint64 Offset = 0;
   /// The component that holds the reference, which has csFixups while it waits in a TFixupList; set by that.
   TComponent* Holder = nullptr;
 };

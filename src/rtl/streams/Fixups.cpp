@@ -8,6 +8,7 @@
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/rtl/streams/BinaryWriter.h"
+#include "kt/rtl/streams/FormErrors.h"
 #include "kt/rtl/streams/Load.h"
 #include "kt/rtl/streams/UnknownComponent.h"
 #include "kt/rtl/typeinfo/ClassInfo.h"
@@ -125,6 +126,25 @@ QByteArray StoredIdent(const QString& name) {
   return value;
 }
 
+/// The name of an object behind those of its owners.
+QString FullPathOf(TPersistent* object) {
+  QString path = object->GetNamePath();
+  const auto* component = dynamic_cast<const TComponent*>(object);
+  while (component && (component = component->GetOwnerComponent())) {
+    if (!component->GetName().isEmpty()) path = component->GetName() + u'.' + path;
+  }
+  return path;
+}
+
+/// As errors of other properties are told.
+[[noreturn]] void RaiseWithPlace(const TFixup& fixup, const Exception& error) {
+  // Null when the setter has destroyed the object.
+  const QString object = fixup.Instance ? fixup.PathStart->GetNamePath() : QString();
+  const QString place = fixup.Instance ? FullPathOf(fixup.PathStart) + u'.' + fixup.Path : fixup.Path;
+  const QString message = Format(SPropertyException, {object, u'.', fixup.Path, error.Message()});
+  throw EReadError(AtOffset(message, fixup.Offset, place));
+}
+
 /// False while the component is missing.
 bool Apply(const TFixup& fixup) {
   TComponent* target = Target(fixup);
@@ -135,9 +155,10 @@ bool Apply(const TFixup& fixup) {
   }
   try {
     SetReference(fixup, target);
-  } catch (const EInvalidCast& error) {
-    const QString object = fixup.Instance ? fixup.PathStart->GetNamePath() : QString();
-    throw EReadError(Format(SPropertyException, {object, u'.', fixup.Path, error.Message()}));
+  } catch (const EAbort&) {
+    throw;
+  } catch (const Exception& error) {
+    RaiseWithPlace(fixup, error);
   }
   return true;
 }

@@ -127,16 +127,20 @@ void TReader::LoadRoot(TComponent* root) {
   const qint64 start = FInput.Position();
   const TFormObjectHeader header = ReadHeader();
   FPlace = NameIn(header);
+  FScope = nullptr;
   FRoot = root ? root : AtPlace(start, header, [&] { return MakeRoot(header); });
   const TLoad::TUse use(*FLoad, FRoot);
   if (root) FLoad->UndoLog().Remember(*root);
   FTargetIsNew = !root;
   FScopeIsNew = !root;
-  FScope = FRoot;
   FOwner = FRoot;
   FLoad->BeginLoading(FRoot);
-  SetComponentName(FRoot, header.Name);
+  AtPlace(start, header, [&] {
+    SetComponentName(FRoot, header.Name);
+    return FRoot;
+  });
   CheckNothingLost(start, header);
+  FScope = FRoot;
   FLoad->AddLoaded(FRoot);
   if (root && header.Flags.testFlag(ffInherited)) {
     if (root->HasState(csDesigning)) FLoad->MarkAncestor(root);

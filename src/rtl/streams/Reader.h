@@ -37,10 +37,10 @@ enum TUnknownPolicy {
 /// A load is checked as a whole for a sound structure before the first object is touched. When it fails after that, all
 /// components that it created are destroyed, and what existed before gets back what it had: name, children and their
 /// order, published properties (with those of fonts and the like), lines, items, and what DefineProperties() had data
-/// for. Not put back: a value whose getter raises; defined data where there were none before; what setters and
-/// procedures of the application did elsewhere; an object that they freed. An event, setter or override may free any
-/// component: one that waits for its turn is left out, and freeing one that is just being read, or one around it, is a
-/// failure as any other.
+/// for. Not put back: a value without getter, or whose getter raises; defined data where there were none before; what
+/// setters and procedures of the application did elsewhere; an object that they freed. An event, setter or override may
+/// free any component: one that waits for its turn is left out, and freeing one that is just being read, or one around
+/// it, is a failure as any other.
 ///
 /// A descendant form is read over an instance of its ancestor: what is inherited is found in that by name. In a
 /// designer (csDesigning) what the instance holds is marked csAncestor then, and every inherited component is told

@@ -212,8 +212,8 @@ void TReader::ReadReference(TPersistent* instance, const TPropInfo* property) {
     FInput.ReadValue();
     return SetInterfaceProp(instance, property, nullptr);
   }
-  FLoad->Fixups().Add(
-      {instance, property, FScope, FInput.ReadIdent(), FPropPath.Instance, FPropPath.Path, UnknownClasses == upKeep});
+  FLoad->Fixups().Add({instance, property, FScope, FInput.ReadIdent(), FPropPath.Instance, FPropPath.Path,
+                       UnknownClasses == upKeep, FPropPath.Start});
 }
 
 void TReader::ReadMethodValue(TPersistent* instance, const TPropInfo* property) {

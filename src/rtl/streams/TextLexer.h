@@ -51,7 +51,6 @@ class TTextLexer {
   void LexString();
   void LexStringPieces();
   void LexQuoted();
-  void AppendQuoted(const char* from, const char* to);
   void LexCharacterCode();
   void AppendUtf8(const char* from, const char* to);
   [[noreturn]] void FailAt(const QString& what, const char* at) const;

@@ -37,6 +37,12 @@ bool CollectionsEqual(TCollection& a, TCollection& b) {
   return first.Data() == second.Data();
 }
 
+/// The property of that name which the ancestor has; null when there is none that can be read.
+const TPropInfo* ReadableProp(TPersistent* ancestor, const TPropInfo* property, TTypeKinds kinds) {
+  const TPropInfo* inherited = ancestor ? GetPropInfo(ancestor, property->Name(), kinds) : nullptr;
+  return inherited && inherited->IsReadable() ? inherited : nullptr;
+}
+
 /// Variants of one type compare without a conversion, so nothing is raised, and a text is no number.
 bool VariantsEqual(const Variant& a, const Variant& b) { return VarType(a) == VarType(b) && VarSameValue(a, b); }
 
@@ -144,13 +150,12 @@ void TWriter::WriteSetValue(const TTypeInfo* type, qint64 bits) {
 }
 
 TObject* TWriter::AncestorObject(const TPropInfo* property) {
-  if (!FAncestor || !GetPropInfo(FAncestor, property->Name(), {tkClass})) return nullptr;
-  return GetObjectProp(FAncestor, property->Name());
+  const TPropInfo* inherited = ReadableProp(FAncestor, property, {tkClass});
+  return inherited ? GetObjectProp(FAncestor, inherited) : nullptr;
 }
 
 IInterface* TWriter::AncestorInterface(const TPropInfo* property) {
-  if (!FAncestor) return nullptr;
-  const TPropInfo* inherited = GetPropInfo(FAncestor, property->Name(), {tkInterface});
+  const TPropInfo* inherited = ReadableProp(FAncestor, property, {tkInterface});
   return inherited ? GetInterfaceProp(FAncestor, inherited) : nullptr;
 }
 
@@ -245,8 +250,8 @@ void TWriter::WriteMethodProperty(TPersistent* instance, const TPropInfo* proper
   const TMethod method = GetMethodProp(instance, property);
   const QString name = method.Instance() ? method.Instance()->ClassType()->MethodName(method) : QString();
   if (name.isEmpty()) return;
-  if (FAncestor && GetPropInfo(FAncestor, property->Name(), tkMethods)) {
-    const TMethod inherited = GetMethodProp(FAncestor, property->Name());
+  if (const TPropInfo* inheritedProp = ReadableProp(FAncestor, property, tkMethods)) {
+    const TMethod inherited = GetMethodProp(FAncestor, inheritedProp);
     if (inherited.Instance() && inherited.Instance()->ClassType()->MethodName(inherited) == name) return;
   }
   WritePropertyName(property->Name());

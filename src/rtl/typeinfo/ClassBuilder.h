@@ -31,9 +31,9 @@ class TClassBuilder {
     if constexpr (!std::same_as<T, TObject>) FDefinition.Parent = T::Inherited::Class();
   }
 
-  /// Publishes a property. `Get` and `Set` are member functions or functions taking the instance first; a public data
-  /// member serves as both. Without `Set` the property is read-only. `type` names a type of its own, for example a
-  /// colour's.
+  /// Publishes a property. `Get` and `Set` are (member) functions; a data member is both. Without `Set` it is
+  /// read-only; without `Get` the type is unknown, so only class infos made at run time have write-only properties.
+  /// `type` names a type of its own, for example a colour's.
   template <auto Get, auto Set = nullptr>
   TClassBuilder& Property(const char* name, const TTypeInfo* (*type)() = nullptr) {
     using TAccess = TMemberAccess<T, Get, Set>;

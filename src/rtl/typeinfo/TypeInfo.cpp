@@ -25,7 +25,7 @@ qint64 LargestOf(TOrdType storage) {
 
 [[noreturn]] void RaiseInvalidType(const QString& name) { throw EPropertyError(Format(SInvalidPropertyType, {name})); }
 
-/// A set takes the smallest ordinal that has a bit for each member.
+/// A set takes the smallest ordinal that has a bit for each member; those of more than 32 members have no name here.
 TOrdType StorageForMembers(const QString& name, const TTypeInfo* component) {
   const TOrdTypeInfo* members = OrdTypeOf(component);
   if (!members) RaiseInvalidType(name);

@@ -46,8 +46,8 @@ class TOrdTypeInfo : public TTypeInfo {
   qint64 FMax;
 };
 
-/// tkEnumeration: names for the ordinals from MinValue() on. The Boolean types that are wider than one bit have a
-/// negative MinValue(), count as derived from Boolean and have the two names of Boolean.
+/// tkEnumeration: names for the ordinals from 0 on, which is MinValue(). The Boolean types that are wider than one bit
+/// have a negative MinValue(), count as derived from Boolean and have the two names of Boolean.
 class TEnumTypeInfo : public TOrdTypeInfo {
  public:
   TEnumTypeInfo(QString name, QStringList names, const TEnumTypeInfo* base = nullptr);
@@ -62,7 +62,7 @@ class TEnumTypeInfo : public TOrdTypeInfo {
   const TEnumTypeInfo* FBase;
 };
 
-/// tkSet: the type of the members.
+/// tkSet: the type of the members. OrdType() is otULong for every set of more than 16 members, up to the 64 that fit.
 class TSetTypeInfo : public TOrdTypeInfo {
  public:
   /// Raises EPropertyError when `component` has no ordinals.

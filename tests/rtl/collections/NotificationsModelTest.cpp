@@ -1,10 +1,10 @@
 // Random operations on two collections: order, ids, and the log of notifications, compared with a model of vectors.
 #include "kt/rtl/collections/Collection.h"
 #include "support/Expect.h"
+#include "support/ModelRun.h"
 #include "support/Samples.h"
 
 #include <gtest/gtest.h>
-#include <random>
 #include <vector>
 
 namespace kt {
@@ -18,7 +18,7 @@ class TLogged : public TCollection {
   QString State() const {
     QString state;
     for (int i = 0; i < GetCount(); ++i) {
-      EXPECT_EQ(i, GetItem(i)->GetIndex());
+      if (GetItem(i)->GetIndex() != i) state += u'!';
       state += QStringLiteral("%1=%2 ").arg(GetItem(i)->GetID()).arg(At(i)->GetCaption());
     }
     return state;
@@ -90,9 +90,8 @@ struct TModel {
 
 class TRun {
  public:
-  explicit TRun(unsigned seed) : FRandom(seed) {}
-
-  void Step() {
+  void Step(quint32 number) {
+    FRandom = tests::TStepRandom(number);
     const int side = Pick(2);
     TLogged& real = *FReal[side];
     TModel& model = FModel[side];
@@ -100,6 +99,7 @@ class TRun {
     FActual.clear();
     FExpected.clear();
     const int operation = Pick(12);
+    FText = QStringLiteral("operation %1 on side %2, which has %3").arg(operation).arg(side).arg(model.State());
     if (operation < 3 || count == 0) return Add(real, model, operation == 0 ? Pick(count + 1) : count);
     const int index = Pick(count);
     switch (operation) {
@@ -132,11 +132,16 @@ class TRun {
         return Bracket(real, model);
     }
   }
-  QString Actual() const { return FReal[0]->State() + u'/' + FReal[1]->State() + u'/' + FActual; }
-  QString Expected() const { return FModel[0].State() + u'/' + FModel[1].State() + u'/' + FExpected; }
+  QString StepText() const { return FText; }
+  QString Fault() const {
+    if (Actual() == Expected()) return {};
+    return QStringLiteral("is ") + Actual() + QStringLiteral("\ninstead of ") + Expected();
+  }
 
  private:
-  int Pick(int limit) { return static_cast<int>(FRandom() % static_cast<unsigned>(limit)); }
+  QString Actual() const { return FReal[0]->State() + u'/' + FReal[1]->State() + u'/' + FActual; }
+  QString Expected() const { return FModel[0].State() + u'/' + FModel[1].State() + u'/' + FExpected; }
+  int Pick(int limit) { return FRandom.Below(limit); }
 
   void Add(TLogged& real, TModel& model, int index) {
     if (real.GetCount() > 40) return Clear(real, model);
@@ -175,7 +180,8 @@ class TRun {
     real.EndUpdate();
   }
 
-  std::mt19937 FRandom;
+  tests::TStepRandom FRandom;
+  QString FText;
   QString FActual;
   QString FExpected;
   std::unique_ptr<TLogged> FReal[2] = {Make<TLogged>(FActual), Make<TLogged>(FActual)};
@@ -186,11 +192,7 @@ class TRun {
 class NotificationsModelTest : public ::testing::TestWithParam<unsigned> {};
 
 TEST_P(NotificationsModelTest, RandomOperationsGiveTheOrderTheIdsAndTheNotificationsOfTheModel) {
-  TRun run(GetParam());
-  for (int step = 0; step < 50000; ++step) {
-    run.Step();
-    ASSERT_EQ(run.Expected(), run.Actual()) << "seed " << GetParam() << ", step " << step;
-  }
+  tests::TModelRun(tests::ModelSeed(GetParam()), [] { return std::make_unique<TRun>(); }).Run(50000);
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, NotificationsModelTest, ::testing::Values(1u, 2u, 3u));

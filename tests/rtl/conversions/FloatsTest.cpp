@@ -118,6 +118,30 @@ TEST(FloatsTest, WhatIsNoTruthValueIsAnError) {
   EXPECT_TRUE(StrToBoolDef(u"yes", true));
 }
 
+TEST(FloatsTest, TryWithAnAmountLeavesTheValueWhenItFails) {
+  const TFormatSettings neutral;
+  Currency value(5.5);
+  EXPECT_FALSE(TryStrToCurr(u"922337203685477.5808", value, neutral));
+  EXPECT_FALSE(TryStrToCurr(u"", value, neutral));
+  EXPECT_FALSE(TryStrToCurr(u"$1", value, neutral));
+  EXPECT_EQ(Currency(5.5), value);
+  EXPECT_TRUE(TryStrToCurr(u"922337203685477.5807", value, neutral));
+  EXPECT_EQ(std::numeric_limits<qint64>::max(), value.Scaled());
+}
+
+TEST(FloatsTest, TryWithATruthValueLeavesTheValueWhenItFails) {
+  bool value = true;
+  EXPECT_FALSE(TryStrToBool(u"yes", value));
+  EXPECT_FALSE(TryStrToBool(u"", value));
+  EXPECT_TRUE(value);
+  EXPECT_TRUE(TryStrToBool(u"false", value));
+  EXPECT_FALSE(value);
+  EXPECT_FALSE(TryStrToBool(u"no", value));
+  EXPECT_FALSE(value);
+  EXPECT_TRUE(TryStrToBool(u"-2", value));
+  EXPECT_TRUE(value);
+}
+
 /// The first of many random numbers whose 15 digits, read back and written again, are another text.
 QString FirstUnstableNumber(const TFormatSettings& settings) {
   std::mt19937_64 random(7);

@@ -86,6 +86,16 @@ TEST(IntegersTest, TryLeavesTheValueWhenItFails) {
   EXPECT_EQ(-3, value);
 }
 
+TEST(IntegersTest, TryWithSixtyFourBitsLeavesTheValueWhenItFails) {
+  qint64 value = 5;
+  EXPECT_FALSE(TryStrToInt64(u"9223372036854775808", value));
+  EXPECT_FALSE(TryStrToInt64(u"", value));
+  EXPECT_FALSE(TryStrToInt64(u"1x", value));
+  EXPECT_EQ(5, value);
+  EXPECT_TRUE(TryStrToInt64(u"-9223372036854775808", value));
+  EXPECT_EQ(MinInt64, value);
+}
+
 TEST(IntegersTest, UnsignedNumbersHaveNoMinus) {
   quint64 value = 5;
   EXPECT_TRUE(TryStrToUInt64(u"18446744073709551615", value));

@@ -2,6 +2,7 @@
 #include "kt/rtl/objects/Component.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Make.h"
+#include "kt/rtl/typeinfo/TypeOf.h"
 #include "support/Expect.h"
 
 #include <gtest/gtest.h>
@@ -21,6 +22,7 @@ class TStrict : public TComponent {
   static QString Take() { return std::exchange(Log, QString()).trimmed(); }
   QString Refused;
   void BeginDesign() { SetDesigning(true); }
+  void SetDesigned(bool value) { SetDesignInstance(value); }
 
  protected:
   explicit TStrict(TComponent* owner = nullptr) : TComponent(owner) {}
@@ -131,6 +133,29 @@ TEST_F(ComponentHooksTest, ARefusedRemovalLeavesTheComponentOwned) {
 TEST_F(ComponentHooksTest, AComponentThatIsConstructedAsksInItsConstruction) {
   New<TStrict>(Owner.get());
   EXPECT_EQ(QStringLiteral("-.container(O) O.insert(-) O.rename(- ->-)"), TStrict::Take());
+}
+
+TEST_F(ComponentHooksTest, TheRootThatADesignerEditsIsMarkedAlone) {
+  auto* child = New<TStrict>(Owner.get());
+  Owner->SetDesigned(true);
+  EXPECT_EQ(TComponentState{csDesignInstance}, Owner->GetComponentState());
+  EXPECT_FALSE(child->HasState(csDesignInstance));
+  Owner->SetDesigned(false);
+  EXPECT_EQ(TComponentState(), Owner->GetComponentState());
+}
+
+TEST_F(ComponentHooksTest, AComponentThatIsNoControlHasNoParentWhoeverOwnsIt) {
+  auto* child = New<TStrict>(Owner.get());
+  EXPECT_FALSE(child->HasParent());
+  EXPECT_EQ(nullptr, child->GetParentComponent());
+}
+
+TEST(InterfaceTest, TheReferenceToAComponentHasTheNumberThatItsTypeSays) {
+  EXPECT_EQ(QStringLiteral("{e28b1858-ec86-4559-8fcd-6b4f824151ed}"), IInterfaceComponentReference::Guid.toString());
+  const TTypeInfo* type = TypeInfoOf<IInterfaceComponentReference*>();
+  EXPECT_EQ(tkInterface, type->Kind());
+  EXPECT_EQ(QStringLiteral("IInterfaceComponentReference"), type->Name());
+  EXPECT_EQ(IInterfaceComponentReference::Guid, static_cast<const TInterfaceTypeInfo*>(type)->Guid());
 }
 
 /// Takes every name.

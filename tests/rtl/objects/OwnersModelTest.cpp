@@ -1,12 +1,13 @@
 // Random owners and free notifications, compared with a set of pairs: who owns whom, and who is told of what.
 #include "kt/rtl/objects/Component.h"
 #include "kt/rtl/objects/Make.h"
+#include "support/ModelRun.h"
 
 #include <QStringList>
 
 #include <gtest/gtest.h>
 #include <map>
-#include <random>
+#include <memory>
 #include <set>
 #include <vector>
 
@@ -35,20 +36,22 @@ class TOwnersModel {
   /// Who was told what of whom.
   using TTold = std::set<std::tuple<int, char, int>>;
 
-  explicit TOwnersModel(unsigned seed) : FRandom(seed) {}
   ~TOwnersModel() {
     while (!FPlayers.empty()) delete FPlayers.at(RootOf(FPlayers.begin()->first));
   }
 
-  void Step() {
+  void Step(quint32 number) {
+    FRandom = tests::TStepRandom(number);
     FTold.clear();
     FExpected.clear();
     FNested = 0;
     const int count = static_cast<int>(FOwner.size());
     const int operation = count < 5 ? 0 : Pick(count > 60 ? 12 : 9);
-    if (operation < 2) return Create();
+    FText = QStringLiteral("create");
+    if (operation < 2 || FPlayers.empty()) return Create();
     const int one = AnyPlayer();
     const int other = AnyPlayer();
+    FText = QStringLiteral("operation %1 with %2 and %3").arg(operation).arg(one).arg(other);
     if (operation == 2) return Insert(one, other);
     if (operation == 3) return Remove(one);
     if (operation < 6) return Watch(one, other);
@@ -58,7 +61,7 @@ class TOwnersModel {
   }
 
   /// Empty when the components are as the model has them.
-  QString Differences() const {
+  QString Fault() const {
     if (FPlayers.size() != FOwner.size()) return QStringLiteral("others are alive");
     for (const auto& [id, player] : FPlayers) {
       const auto* owner = static_cast<TPlayer*>(player->GetOwnerComponent());
@@ -68,6 +71,7 @@ class TOwnersModel {
     if (FNested > 0) return {};
     return FTold == FExpected ? QString() : QStringLiteral("told %1 instead of %2").arg(Text(FTold), Text(FExpected));
   }
+  QString StepText() const { return FText; }
   int NestedFrees() const { return FNestedFrees; }
 
   void Died(int id) { FPlayers.erase(id); }
@@ -86,7 +90,7 @@ class TOwnersModel {
  private:
   using TPair = std::pair<int, int>;
 
-  int Pick(int limit) { return static_cast<int>(FRandom() % static_cast<unsigned>(limit)); }
+  int Pick(int limit) { return FRandom.Below(limit); }
   int AnyPlayer() { return std::next(FPlayers.begin(), Pick(static_cast<int>(FPlayers.size())))->first; }
   int RootOf(int id) const {
     while (FOwner.at(id)) id = FOwner.at(id);
@@ -180,7 +184,8 @@ class TOwnersModel {
     FChildren.erase(id);
   }
 
-  std::mt19937 FRandom;
+  tests::TStepRandom FRandom;
+  QString FText;
   std::map<int, TPlayer*> FPlayers;
   int FLastId = 0;
   // What the model knows: the owner of each (0 for none) and the owned in order, who watch each other, and who was ever
@@ -208,12 +213,9 @@ void TPlayer::Notification(TComponent* component, TOperation operation) {
 class OwnersModelTest : public ::testing::TestWithParam<unsigned> {};
 
 TEST_P(OwnersModelTest, RandomOwnersAndWatchersAreToldAsASetOfPairsSays) {
-  TOwnersModel model(GetParam());
-  for (int step = 0; step < 50000; ++step) {
-    model.Step();
-    ASSERT_EQ(QString(), model.Differences()) << "seed " << GetParam() << ", step " << step;
-  }
-  EXPECT_GT(model.NestedFrees(), 100);
+  tests::TModelRun run(tests::ModelSeed(GetParam()), [] { return std::make_unique<TOwnersModel>(); });
+  const auto model = run.Run(50000);
+  EXPECT_GT(model->NestedFrees(), 100);
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, OwnersModelTest, ::testing::Values(1u, 2u, 3u));

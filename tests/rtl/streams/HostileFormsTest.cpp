@@ -3,6 +3,7 @@
 #include "kt/rtl/streams/Reader.h"
 #include "support/Expect.h"
 #include "support/FormText.h"
+#include "support/HostileForms.h"
 #include "support/Samples.h"
 
 #include <gtest/gtest.h>
@@ -10,32 +11,10 @@
 namespace kt {
 namespace {
 
+using namespace tests::hostile;
 using tests::BinaryOf;
 using tests::MessageOf;
 using tests::TSample;
-
-constexpr char kSignature[] = "TPF0";
-
-QByteArray ShortText(const QByteArray& text) { return static_cast<char>(text.size()) + text; }
-
-/// The start of an object without properties: its children, or a zero byte, come next.
-QByteArray Opened(const QByteArray& name) { return ShortText("TSample") + ShortText(name) + '\0'; }
-
-/// `levels` objects, each the only child of the one before.
-QByteArray Nested(int levels) { return kSignature + Opened({}).repeated(levels) + QByteArray(1, 0).repeated(levels); }
-
-/// A form with one property, whose stored value is given.
-QByteArray WithProperty(const QByteArray& name, const QByteArray& value) {
-  return kSignature + ShortText("TSample") + ShortText("S") + ShortText(name) + value + QByteArray(2, 0);
-}
-
-/// A text of that kind which says that it has two thousand million characters.
-QByteArray WithHugeText(TValueType type) {
-  return WithProperty("Text", static_cast<char>(type) + QByteArray::fromHex("00943577"));
-}
-
-/// Of a class that hears no notifications: those that do hear of each other, which takes a time of its own.
-QByteArray FiftyThousandChildren() { return (ShortText("TComponent") + QByteArray(3, 0)).repeated(50'000); }
 
 /// Damaged forms that are loaded over an existing one, which has to stay as it is.
 class HostileFormsTest : public ::testing::Test {
@@ -99,13 +78,12 @@ TEST_F(HostileFormsTest, FiftyThousandSiblingsAreTakenBackWhenTheLastIsWrong) {
 }
 
 TEST_F(HostileFormsTest, FiftyThousandItemsAreLoaded) {
-  const QByteArray item = static_cast<char>(vaList) + QByteArray(1, 0);
-  const auto root = Load(WithProperty("Items", static_cast<char>(vaCollection) + item.repeated(50'000) + '\0'));
+  const auto root = Load(WithItems(50'000));
   EXPECT_EQ(50'000, root->GetItems().GetCount());
 }
 
 TEST_F(HostileFormsTest, DanglingReferencesWaitAndAreForgottenWithTheirForm) {
-  const auto root = Load(WithProperty("Partner", static_cast<char>(vaIdent) + ShortText("Nobody.Nothing")));
+  const auto root = Load(WithReference("Nobody.Nothing"));
   EXPECT_EQ(nullptr, root->Partner);
   EXPECT_EQ(QStringList{QStringLiteral("Nobody.Nothing")}, GetFixupReferenceNames(root.get()));
 }

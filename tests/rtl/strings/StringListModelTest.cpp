@@ -1,9 +1,10 @@
 #include "kt/rtl/conversions/TextCompare.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "rtl/strings/StringsFixture.h"
+#include "support/ModelRun.h"
 
 #include <algorithm>
-#include <random>
+#include <memory>
 
 namespace kt::tests {
 namespace {
@@ -67,7 +68,7 @@ void PrintTo(const TMode& mode, std::ostream* out) { *out << mode.Name; }
 /// Does the same random operations to a list and to the model and compares after each.
 class TStringListMachine {
  public:
-  TStringListMachine(const TMode& mode, unsigned seed) : FMode(mode), FRandom(seed) {
+  explicit TStringListMachine(const TMode& mode) : FMode(mode) {
     FList->SetCaseSensitive(FModel.CaseSensitive = mode.CaseSensitive);
     FList->SetDuplicates(FModel.Duplicates = mode.Duplicates);
     FList->SetSorted(FModel.Sorted = mode.Sorted);
@@ -75,17 +76,28 @@ class TStringListMachine {
     FList->OnChange = [this](TObject*) { ++FAfter; };
   }
 
-  /// The number of the first step after which the two differ, or -1.
-  int Run(int steps) {
-    for (int step = 0; step < steps; ++step) {
-      Step();
-      if (!IsSame()) return step;
-    }
-    return -1;
+  void Step(quint32 number) {
+    FRandom = TStepRandom(number);
+    Step();
   }
+  /// Empty while the two are the same.
+  QString Fault() const {
+    if (!FIsRight) return QStringLiteral("the last operation did not answer as the model did");
+    if (FBefore != FAfter) return QStringLiteral("OnChanging and OnChange do not come in pairs");
+    return IsSame() ? QString() : QStringLiteral("[%1] instead of [%2]").arg(FList->GetCommaText(), ModelText());
+  }
+  QString StepText() const { return FText; }
 
  private:
-  int Below(int limit) { return std::uniform_int_distribution(0, limit - 1)(FRandom); }
+  int Below(int limit) { return FRandom.Below(limit); }
+  void Note(const char* what, int index = -1, const QString& text = {}) {
+    FText = QStringLiteral("%1 %2 '%3'").arg(QLatin1StringView(what)).arg(index).arg(text);
+  }
+  QString ModelText() const {
+    QStringList texts;
+    for (const TModel::TLine& line : FModel.Lines) texts += line.Text;
+    return texts.join(u',');
+  }
   int Count() const { return static_cast<int>(FModel.Lines.size()); }
   QString AnyText() {
     QString text;
@@ -122,6 +134,7 @@ class TStringListMachine {
         return SetCaseSensitive();
       default:
         FList->SetDuplicates(FModel.Duplicates = static_cast<TDuplicates>(Below(3)));
+        Note("duplicates", FModel.Duplicates);
     }
   }
 
@@ -144,6 +157,7 @@ class TStringListMachine {
     const QString text = AnyText();
     TObject* object = AnyObject();
     const int expected = FModel.Add(text, object);
+    Note("add", expected, text);
     int index = -2;
     Raises(expected == -2, [&] { index = FList->AddObject(text, object); });
     Expect(index == expected);
@@ -153,6 +167,7 @@ class TStringListMachine {
     const QString text = AnyText();
     TObject* object = AnyObject();
     const bool refused = FModel.Sorted || index > Count();
+    Note("insert", index, text);
     if (!refused) FModel.Lines.insert(FModel.Lines.begin() + index, {text, object});
     Raises(refused, [&] { FList->InsertObject(index, text, object); });
   }
@@ -160,12 +175,14 @@ class TStringListMachine {
     const int index = Below(Count() + 1);
     const bool refused = index == Count();
     if (!refused) FModel.Lines.erase(FModel.Lines.begin() + index);
+    Note("delete", index);
     Raises(refused, [&] { FList->Delete(index); });
   }
   void Put() {
     const int index = Below(Count() + 1);
     const QString text = AnyText();
     const bool refused = FModel.Sorted || index == Count();
+    Note("put", index, text);
     if (!refused) FModel.Lines[static_cast<size_t>(index)].Text = text;
     Raises(refused, [&] { FList->SetStrings(index, text); });
   }
@@ -174,17 +191,20 @@ class TStringListMachine {
     TObject* object = AnyObject();
     const bool refused = index == Count();
     if (!refused) FModel.Lines[static_cast<size_t>(index)].Object = object;
+    Note(object ? "put object" : "put no object", index);
     Raises(refused, [&] { FList->SetObjects(index, object); });
   }
   /// Not in a sorted list, where it would leave the model's order undefined.
   void Exchange() {
     if (FModel.Sorted || Count() == 0) return;
     const int first = Below(Count()), second = Below(Count());
+    Note("exchange", first, QString::number(second));
     std::swap(FModel.Lines[static_cast<size_t>(first)], FModel.Lines[static_cast<size_t>(second)]);
     FList->Exchange(first, second);
   }
   void Move() {
     const int from = Below(Count() + 1), to = Below(Count() + 1);
+    Note("move", from, QString::number(to));
     const bool refused = from != to && (FModel.Sorted || from == Count() || to == Count());
     if (!refused && from != to) {
       const TModel::TLine line = FModel.Lines[static_cast<size_t>(from)];
@@ -195,6 +215,7 @@ class TStringListMachine {
   }
   void Search() {
     const QString text = AnyText();
+    Note("search", -1, text);
     Expect(FList->IndexOf(text) == FModel.IndexOf(text));
     if (!FModel.Sorted) return;
     int index = -1;
@@ -202,7 +223,9 @@ class TStringListMachine {
     Expect(index == FModel.PlaceOf(text));
   }
   void Rare() {
-    switch (Below(20)) {
+    const int which = Below(20);
+    Note("clear, sort, set capacity or reload", which);
+    switch (which) {
       case 0:
         FModel.Lines.clear();
         return FList->Clear();
@@ -226,16 +249,18 @@ class TStringListMachine {
   void SetSorted() {
     const bool value = Below(2) == 0;
     if (value && !FModel.Sorted) FModel.Sort();
+    Note("sorted", value);
     FList->SetSorted(FModel.Sorted = value);
   }
   void SetCaseSensitive() {
     FModel.CaseSensitive = Below(2) == 0;
+    Note("case sensitive", FModel.CaseSensitive);
     if (FModel.Sorted && FModel.CaseSensitive != FList->GetCaseSensitive()) FModel.Sort();
     FList->SetCaseSensitive(FModel.CaseSensitive);
   }
 
-  bool IsSame() {
-    if (!FIsRight || FBefore != FAfter || FList->GetCount() != Count()) return false;
+  bool IsSame() const {
+    if (FList->GetCount() != Count()) return false;
     if (FList->GetSorted() != FModel.Sorted || FList->GetCapacity() < Count()) return false;
     for (int i = 0; i < Count(); ++i) {
       if (FModel.Lines[static_cast<size_t>(i)] != TModel::TLine{FList->GetStrings(i), FList->GetObjects(i)})
@@ -245,7 +270,8 @@ class TStringListMachine {
   }
 
   const TMode& FMode;
-  std::mt19937 FRandom;
+  TStepRandom FRandom;
+  QString FText;
   TModel FModel;
   std::unique_ptr<TObject> FObjects[3] = {Make<TObject>(), Make<TObject>(), Make<TObject>()};
   std::unique_ptr<TStringList> FList = Make<TStringList>();
@@ -257,9 +283,7 @@ class TStringListMachine {
 class StringListModelTest : public testing::TestWithParam<TMode> {};
 
 TEST_P(StringListModelTest, RandomOperationsGiveWhatTheModelGives) {
-  constexpr int Steps = 200'000;
-  const unsigned seed = std::random_device{}();
-  EXPECT_EQ(-1, TStringListMachine(GetParam(), seed).Run(Steps)) << "seed " << seed;
+  TModelRun(ModelSeed(1), [] { return std::make_unique<TStringListMachine>(GetParam()); }).Run(200'000);
 }
 
 INSTANTIATE_TEST_SUITE_P(StringListModelTest, StringListModelTest,

@@ -28,6 +28,31 @@ TEST(TypeInfoTest, ASetOfWhatHasNoOrdinalsIsRefused) {
             MessageOf<EPropertyError>([] { TSetTypeInfo(QStringLiteral("TNothings"), nullptr); }));
 }
 
+TOrdType StorageOf(int members) {
+  const TOrdTypeInfo range(tkInteger, QStringLiteral("TRange"), otUByte, 0, members - 1);
+  return TSetTypeInfo(QStringLiteral("TSetOfRange"), &range).OrdType();
+}
+
+TEST(TypeInfoTest, ASetTakesTheSmallestOrdinalWithABitForEachMember) {
+  EXPECT_EQ(otUByte, StorageOf(8));
+  EXPECT_EQ(otUWord, StorageOf(9));
+  EXPECT_EQ(otUWord, StorageOf(16));
+  EXPECT_EQ(otULong, StorageOf(17));
+  EXPECT_EQ(otULong, StorageOf(32));
+}
+
+TEST(TypeInfoTest, ASetOfMoreMembersThanTheLargestOrdinalHasSaysTheLargestAllTheSame) {
+  EXPECT_EQ(otULong, StorageOf(33));
+  EXPECT_EQ(otULong, StorageOf(64));
+}
+
+TEST(TypeInfoTest, AnEnumerationBeginsAtZero) {
+  const TEnumTypeInfo type(QStringLiteral("TFew"), {QStringLiteral("fwOne"), QStringLiteral("fwTwo")});
+  EXPECT_EQ(0, type.MinValue());
+  EXPECT_EQ(1, type.MaxValue());
+  EXPECT_EQ(QStringLiteral("fwOne"), GetEnumName(&type, 0));
+}
+
 /// Kinds that need more than a name.
 class TypeInfoKindTest : public ::testing::TestWithParam<TTypeKind> {};
 

@@ -75,7 +75,7 @@ TEST_F(KtFormTest, CheckPrintsOneLineAFile) {
   Write("a.bin", kBinary);
   const TRun run = Run({"check", "a.dfm", "a.bin"});
   EXPECT_EQ(0, run.Status);
-  EXPECT_EQ("a.dfm: ok (1 objects, 1 properties)\na.bin: ok (1 objects, 1 properties)\n", run.Output);
+  EXPECT_EQ("a.dfm: ok (1 object, 1 property)\na.bin: ok (1 object, 1 property)\n", run.Output);
   EXPECT_EQ("", run.Errors);
 }
 
@@ -85,7 +85,7 @@ TEST_F(KtFormTest, CheckGoesOnAfterAnErrorAndFails) {
   Write("c.dfm", kText);
   const TRun run = Run({"check", "a.dfm", "b.bin", "c.dfm"});
   EXPECT_EQ(1, run.Status);
-  EXPECT_EQ("c.dfm: ok (1 objects, 1 properties)\n", run.Output);
+  EXPECT_EQ("c.dfm: ok (1 object, 1 property)\n", run.Output);
   EXPECT_EQ("a.dfm: error: '=' expected on line 2, column 5\nb.bin: error: Stream read error at offset 15 (A)\n",
             run.Errors);
 }
@@ -141,8 +141,8 @@ INSTANTIATE_TEST_SUITE_P(Forms, KtFormSampleTest,
                          ::testing::Values(TSampleForm{"collections.dfm", "(3 objects, 18 properties)"},
                                            TSampleForm{"inherited.dfm", "(6 objects, 16 properties)"},
                                            TSampleForm{"nested.dfm", "(6 objects, 50 properties)"},
-                                           TSampleForm{"strings.dfm", "(1 objects, 9 properties)"},
-                                           TSampleForm{"values.dfm", "(1 objects, 21 properties)"}));
+                                           TSampleForm{"strings.dfm", "(1 object, 9 properties)"},
+                                           TSampleForm{"values.dfm", "(1 object, 21 properties)"}));
 
 TEST_F(KtFormTest, EverySampleFormIsChecked) {
   EXPECT_EQ(QString("collections.dfm inherited.dfm nested.dfm strings.dfm values.dfm"),

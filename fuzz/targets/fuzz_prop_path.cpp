@@ -1,0 +1,9 @@
+#include "support/PropPathOracle.h"
+
+#include <cstddef>
+#include <cstdint>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  kt::oracle::CheckPropPath(QByteArray(reinterpret_cast<const char*>(data), qsizetype(size)));
+  return 0;
+}

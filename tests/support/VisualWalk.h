@@ -1,0 +1,19 @@
+#pragma once
+
+#include "kt/vcl/controls/ControlTypes.h"
+#include "kt/vcl/forms/FormTypes.h"
+#include "kt/vcl/grids/GridTypes.h"
+#include "support/PropertyWalk.h"
+
+/// What the walk over all properties has to know of the visual platform.
+namespace kt::tests {
+
+inline std::vector<TClassInfo::TPublishedMethod> VisualHandlers() {
+  return {HandlerOf<TNotifyEvent>(),     HandlerOf<TKeyEvent>(),        HandlerOf<TKeyPressEvent>(),
+          HandlerOf<TMouseEvent>(),      HandlerOf<TMouseMoveEvent>(),  HandlerOf<TContextPopupEvent>(),
+          HandlerOf<TCloseEvent>(),      HandlerOf<TCloseQueryEvent>(), HandlerOf<TDrawCellEvent>(),
+          HandlerOf<TSelectCellEvent>(), HandlerOf<TGetEditEvent>(),    HandlerOf<TSetEditEvent>(),
+          HandlerOf<TMovedEvent>()};
+}
+
+}  // namespace kt::tests
