@@ -1,4 +1,5 @@
 #include "kt/KTItemListEditor/ItemListEditor.h"
+#include "kt/KTItemListEditor/ItemRows.h"
 #include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/strings/StringList.h"
 
@@ -105,7 +106,11 @@ void TKTCustomItemListEditor::SetDisplayOptions(TILEDisplayOptions value) {
   const bool reopens = changed.Has(doColumnTitles) && IsEditorMode();
   if (changed.Has(doColumnTitles)) SetColumnTitles(value.Has(doColumnTitles));
   if (removed.Has(doMultiColValues)) SetGridCount(gcFieldCount, 2);
+  // What is typed is written while the rows are what they were; a handler that refuses it finds nothing changed.
+  if (changed.Has(doShowReadOnly)) HideEditor();
   FDisplayOptions = value;
+  if (changed.Has(doShowReadOnly)) TItemRows::MarkAllStale(*FItems);
+  if (changed.Has(doShowReadOnly) && !IsUpdating()) TItemRows::Recount(*FItems);
   AdjustColWidths();
   // Both ways: read-only items come back as they went.
   if (changed.Has(doShowReadOnly)) RefreshVisibleItems();

@@ -81,7 +81,13 @@ void TKTCustomItemListEditor::InvalidateItem(const TKTItemProp& item) {
 // Bringing the grid in step.
 
 void TKTCustomItemListEditor::ShowRows() {
-  HideEditor();
+  try {
+    HideEditor();
+  } catch (...) {
+    // Whoever refused what was typed gets the rows counted all the same.
+    TItemRows::Recount(*FItems);
+    throw;
+  }
   TItemRows::Recount(*FItems);
   AdjustGridCount();
   // Rows that only changed places leave their number as it was.

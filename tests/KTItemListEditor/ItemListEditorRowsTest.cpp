@@ -1,4 +1,6 @@
 #include "KTItemListEditor/InplaceEditListFixture.h"
+#include "kt/rtl/objects/Exceptions.h"
+#include "support/ItemLists.h"
 
 #include <functional>
 
@@ -96,6 +98,16 @@ TEST_F(ItemListEditorRowsTest, ItemsThatChangePlacesArePainted) {
   ShowWithoutEditor();
   EXPECT_EQ("0 1 2 3", Painted([&] { Editor.GetItems().Exchange(0, 2); }));
   EXPECT_EQ("0 1 2 3", Painted([&] { Item(0).SetIndex(1); }));
+}
+
+TEST_F(ItemListEditorRowsTest, ATextThatIsRefusedWhileReadOnlyItemsGoLeavesTheRowsRight) {
+  Show();
+  Item(2).SetReadOnly(true);
+  Type("x");
+  Editor.OnSetEditText = [](TObject*, int, int, const QString&) { throw EConvertError("refused"); };
+  const TILEDisplayOptions options = Editor.GetDisplayOptions() - TILEDisplayOptions{doShowReadOnly};
+  EXPECT_THROW(Editor.SetDisplayOptions(options), EConvertError);
+  EXPECT_EQ(WalkedRows(Editor), Rows(Editor));
 }
 
 }  // namespace

@@ -50,6 +50,9 @@ void TCustomGrid::SetOptions(TGridOptions value) {
     } else {
       HideEditor();
     }
+  } else if (!value.Has(goEditing) || value.Has(goRowSelect)) {
+    // It could not follow the cell any more.
+    HideEdit();
   }
   if (value.Has(goRowSelect)) MoveCurrent(FCurrent.X, FCurrent.Y, true, false);
   InvalidateGrid();

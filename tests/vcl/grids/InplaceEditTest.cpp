@@ -243,5 +243,16 @@ TEST_F(InplaceEditTest, UndoAndClipboardAreThoseOfTheLineEditor) {
   EXPECT_EQ(Editor().GetText(), "1,1");
 }
 
+TEST_F(InplaceEditTest, GoesWhenTheOptionsLeaveNothingToEdit) {
+  TWindowProbe::Key(Qt::Key_F2);
+  Grid.SetOptions(Grid.GetOptions() + TGridOptions{goRowSelect});
+  EXPECT_FALSE(IsShown());
+  Grid.SetOptions(Grid.GetOptions() - TGridOptions{goRowSelect});
+  Grid.SetEditorMode(true);
+  ASSERT_TRUE(IsShown());
+  Grid.SetOptions(Grid.GetOptions() - TGridOptions{goEditing});
+  EXPECT_FALSE(IsShown());
+}
+
 }  // namespace
 }  // namespace kt
