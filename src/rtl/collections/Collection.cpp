@@ -101,6 +101,9 @@ void TCollection::Assign(TPersistent* source) {
   const TLifeWatch watchOfSource(source);
   TUpdateOfLiving target{*this, watch};
   const TUpdateBracket bracket(target);
+  // Whoever hears that something is going to change may free either.
+  CheckAlive(watch);
+  CheckAlive(watchOfSource);
   TItemsExchange formerItems(*this);
   try {
     for (int i = 0; i < other->GetCount(); ++i) {

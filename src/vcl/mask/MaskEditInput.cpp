@@ -1,4 +1,5 @@
 // What keys, clipboard and input methods do in TCustomMaskEdit.
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/controls/ControlBody.h"
 #include "kt/vcl/controls/VirtualKeys.h"
 #include "kt/vcl/mask/MaskEdit.h"
@@ -95,8 +96,9 @@ void TCustomMaskEdit::Undo() {
 
 void TCustomMaskEdit::DefaultHandler(TMessage& message) {
   if (IsMasked() && HandleKey(message)) return;
+  const TLifeWatch self(this);
   TCustomEdit::DefaultHandler(message);
-  CheckCursor();
+  if (self.IsAlive()) CheckCursor();
 }
 
 bool TCustomMaskEdit::HandleKey(const TMessage& message) {
