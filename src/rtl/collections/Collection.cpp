@@ -101,15 +101,20 @@ void TCollection::Assign(TPersistent* source) {
   const TLifeWatch watchOfSource(source);
   TUpdateOfLiving target{*this, watch};
   const TUpdateBracket bracket(target);
-  // Whoever hears that something is going to change may free either.
-  CheckAlive(watch);
-  CheckAlive(watchOfSource);
+  // Whoever hears of a change may free either.
+  const auto checkBoth = [&] {
+    CheckAlive(watch);
+    CheckAlive(watchOfSource);
+  };
+  checkBoth();
   TItemsExchange formerItems(*this);
   try {
+    checkBoth();
     for (int i = 0; i < other->GetCount(); ++i) {
-      Add()->Assign(other->GetItem(i));
-      CheckAlive(watch);
-      CheckAlive(watchOfSource);
+      TCollectionItem* item = Add();
+      checkBoth();
+      item->Assign(other->GetItem(i));
+      checkBoth();
     }
   } catch (...) {
     if (watch.IsAlive()) formerItems.PutBack();
