@@ -4,12 +4,18 @@
 #include <cstdlib>
 
 #if defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
+#if __has_feature(address_sanitizer)
 #define KT_SANITIZED 1
 #endif
+#if __has_feature(thread_sanitizer)
+#define KT_THREAD_SANITIZED 1
 #endif
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#endif
+#if defined(__SANITIZE_ADDRESS__)
 #define KT_SANITIZED 1
+#endif
+#if defined(__SANITIZE_THREAD__)
+#define KT_THREAD_SANITIZED 1
 #endif
 
 namespace {
@@ -17,7 +23,7 @@ namespace {
 bool IsWatching = false;
 std::size_t Largest = 0;
 
-void Note(std::size_t size) {
+[[maybe_unused]] void Note(std::size_t size) {
   if (IsWatching) Largest = std::max(Largest, size);
 }
 
@@ -31,7 +37,7 @@ namespace {
 const int IsInstalled = __sanitizer_install_malloc_and_free_hooks(
     [](const volatile void*, std::size_t size) { Note(size); }, [](const volatile void*) {});
 }
-#elif defined(__GLIBC__)
+#elif defined(__GLIBC__) && !defined(KT_THREAD_SANITIZED)
 namespace {
 const int IsInstalled = 1;
 }
@@ -59,6 +65,7 @@ void* aligned_alloc(std::size_t alignment, std::size_t size) noexcept {
 }
 }
 #else
+// The thread sanitizer's allocator does not tell of `operator new`.
 namespace {
 const int IsInstalled = 0;
 }
