@@ -1,4 +1,4 @@
-# Headers of others that nearly every file includes, compiled once a target: builds that are only run take half the time.
+# Headers of others that nearly every file includes, compiled once a target: it saves builds that are only run much of their time.
 # The debug build does without, so that every file is still seen to include what it needs.
 option(KT_PRECOMPILE "Compile the headers of Qt, GoogleTest and the standard library once for each target" OFF)
 

@@ -113,7 +113,7 @@ void TKTCustomItemListEditor::SetDisplayOptions(TILEDisplayOptions value) {
   if (changed.Has(doShowReadOnly) && !IsUpdating()) TItemRows::Recount(*FItems);
   AdjustColWidths();
   // Both ways: read-only items come back as they went.
-  if (changed.Has(doShowReadOnly)) RefreshVisibleItems();
+  if (changed.Has(doShowReadOnly)) ShowRows();
   Refresh();
   if (reopens) ShowEditor();
 }

@@ -14,6 +14,7 @@
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 
 #include <exception>
+#include <optional>
 #include <vector>
 
 namespace kt {
@@ -148,7 +149,8 @@ struct TKTItemProp::TLooks {
 
 void TKTItemProp::SetCollection(TCollection* value) {
   const TItemWatch self(this);
-  const TLooks looks(*this);
+  std::optional<TLooks> looks;
+  if (value) looks.emplace(*this);
   try {
     if (value && GetCollection() && GetCollection() != value && InheritsFrom(value->GetItemClass())) {
       MoveTo(*this, *value);
@@ -162,7 +164,7 @@ void TKTItemProp::SetCollection(TCollection* value) {
     throw;
   }
   // There may be a whole tree below, which mostly goes on inheriting the same.
-  if (self && (FRare || FItems) && !(looks == TLooks(*this))) FollowFonts();
+  if (self && looks && (FRare || FItems) && *looks != TLooks(*this)) FollowFonts();
 }
 
 TKTItemProp* TKTItemProp::GetParent() const {
