@@ -24,22 +24,29 @@ TRegistry& Registry() {
   return registry;
 }
 
-/// False when the class was there already.
-bool AddClass(const TClassInfo* classInfo) {
-  TRegistry& registry = Registry();
-  const std::lock_guard lock(registry.Mutex);
-  const TClassInfo*& entry = registry.Classes[LowerCase(classInfo->ClassName())];
-  if (entry == classInfo) return false;
-  if (entry) throw EFilerError(Format(SDuplicateClass, {classInfo->ClassName()}));
-  entry = classInfo;
-  return true;
+bool EndsLineage(const TClassInfo* classInfo) { return !classInfo || classInfo == TObject::Class(); }
+
+/// The classes that registering `classInfo` adds, itself first: up to one that is there already, or to TPersistent.
+std::vector<const TClassInfo*> MissingLineage(const TRegistry& registry, const TClassInfo* classInfo) {
+  std::vector<const TClassInfo*> missing;
+  for (; !EndsLineage(classInfo); classInfo = classInfo->ClassParent()) {
+    const TClassInfo* entry = registry.Classes.value(LowerCase(classInfo->ClassName()));
+    if (entry == classInfo) break;
+    if (entry) throw EFilerError(Format(SDuplicateClass, {classInfo->ClassName()}));
+    missing.push_back(classInfo);
+    if (classInfo == TPersistent::Class()) break;
+  }
+  return missing;
 }
 
 }  // namespace
 
+// In one step, since to another thread a class that is there means that its parents are.
 void RegisterClass(const TClassInfo* classInfo) {
-  while (classInfo && classInfo != TObject::Class() && AddClass(classInfo) && classInfo != TPersistent::Class()) {
-    classInfo = classInfo->ClassParent();
+  TRegistry& registry = Registry();
+  const std::lock_guard lock(registry.Mutex);
+  for (const TClassInfo* missing : MissingLineage(registry, classInfo)) {
+    registry.Classes[LowerCase(missing->ClassName())] = missing;
   }
 }
 

@@ -12,7 +12,7 @@ class TClassInfo;
 /// The classes that streams can create by name. Shared by the whole process; every operation locks.
 
 /// Registers a class and its ancestors up to TPersistent. Raises EFilerError "A class named %s already exists" when
-/// another class of that name is registered; registering one class twice does nothing.
+/// another class of that name is registered, and then registers nothing; registering one class twice does nothing.
 void RegisterClass(const TClassInfo* classInfo);
 void RegisterClasses(std::initializer_list<const TClassInfo*> classInfos);
 /// Takes back a registration; its ancestors stay.

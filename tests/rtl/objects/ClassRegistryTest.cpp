@@ -51,6 +51,15 @@ TEST_F(ClassRegistryTest, AnotherClassOfTheSameNameIsRefused) {
             MessageOf<EFilerError>([&] { RegisterClass(&impostor); }));
 }
 
+TEST_F(ClassRegistryTest, ARefusedClassLeavesNoneOfItsLineBehind) {
+  RegisterClass(TSample::Class());
+  const TClassInfo impostor({.Name = QStringLiteral("TSAMPLE"), .Parent = TComponent::Class()});
+  const TClassInfo child({.Name = QStringLiteral("TChildOfImpostor"), .Parent = &impostor});
+  EXPECT_EQ(QStringLiteral("A class named TSAMPLE already exists"),
+            MessageOf<EFilerError>([&] { RegisterClass(&child); }));
+  EXPECT_EQ(nullptr, GetClass(u"TChildOfImpostor"));
+}
+
 TEST_F(ClassRegistryTest, AnUnregisteredClassIsGoneAndItsAncestorsStay) {
   RegisterClass(TSample::Class());
   UnRegisterClass(TSample::Class());

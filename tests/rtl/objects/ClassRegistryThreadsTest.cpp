@@ -4,13 +4,15 @@
 #include "support/InThreads.h"
 
 #include <atomic>
+#include <barrier>
+#include <deque>
 #include <gtest/gtest.h>
 
 namespace kt {
 namespace {
 
 constexpr int kThreads = 4;
-constexpr int kTurns = 300;
+constexpr int kTurns = 200;
 
 /// A class for each thread, and one that all register.
 class ClassRegistryThreadsTest : public ::testing::Test {
@@ -34,6 +36,27 @@ TEST_F(ClassRegistryThreadsTest, EachThreadFindsItsClassWhileOthersComeAndGo) {
     }
   });
   EXPECT_EQ(2 * kThreads * kTurns, found);
+}
+
+TEST_F(ClassRegistryThreadsTest, ARegisteredClassHasItsAncestorsWhicheverThreadRegisteredIt) {
+  // Long enough for another thread to arrive in the middle.
+  constexpr int length = 60;
+  std::atomic<int> found = 0;
+  for (int i = 0; i < kTurns; ++i) {
+    std::deque<TClassInfo> line;
+    for (int j = 0; j < length; ++j) {
+      const TClassInfo* parent = j > 0 ? &line.back() : TComponent::Class();
+      line.emplace_back(TClassInfo::TDefinition{QStringLiteral("TThreaded%1").arg(j), parent});
+    }
+    std::barrier start(kThreads);
+    tests::InThreads(kThreads, [&](int) {
+      start.arrive_and_wait();
+      RegisterClass(&line.back());
+      found += GetClass(u"TThreaded0") == &line.front();
+    });
+    for (const TClassInfo& info : line) UnRegisterClass(&info);
+  }
+  EXPECT_EQ(kThreads * kTurns, found);
 }
 
 TEST_F(ClassRegistryThreadsTest, TheListIsOneMomentsListWhileOthersRegister) {
