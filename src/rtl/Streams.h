@@ -7,5 +7,6 @@
 #include "kt/rtl/streams/FormConversion.h"
 #include "kt/rtl/streams/IntegerConsts.h"
 #include "kt/rtl/streams/Reader.h"
+#include "kt/rtl/streams/TextPlaces.h"
 #include "kt/rtl/streams/UnknownComponent.h"
 #include "kt/rtl/streams/Writer.h"

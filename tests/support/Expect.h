@@ -1,15 +1,10 @@
 #pragma once
 
-#include <QByteArray>
+#include "support/Print.h"
+
 #include <QString>
 
 #include <gtest/gtest.h>
-#include <ostream>
-
-inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
-inline void PrintTo(const QByteArray& bytes, std::ostream* out) {
-  *out << ::testing::PrintToString(bytes.toStdString());
-}
 
 namespace kt::tests {
 

@@ -44,22 +44,26 @@ void Release(void* block) {
 
 }  // namespace
 
-// The array and nothrow forms of the library end in these.
+// Every form that code uses here. Those of the standard library end in the first, but those of a sanitizer do not.
 void* operator new(std::size_t size) { return AllocateOrThrow(size, alignof(std::max_align_t)); }
 void* operator new(std::size_t size, std::align_val_t alignment) {
   return AllocateOrThrow(size, static_cast<std::size_t>(alignment));
+}
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  return Allocate(size, alignof(std::max_align_t));
+}
+void* operator new[](std::size_t size) { return AllocateOrThrow(size, alignof(std::max_align_t)); }
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
+  return Allocate(size, alignof(std::max_align_t));
 }
 void operator delete(void* block) noexcept { Release(block); }
 void operator delete(void* block, std::size_t) noexcept { Release(block); }
 void operator delete(void* block, std::align_val_t) noexcept { Release(block); }
 void operator delete(void* block, std::size_t, std::align_val_t) noexcept { Release(block); }
-
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-// These sanitizers bring array forms of their own, which do not end in ours.
-void* operator new[](std::size_t size) { return AllocateOrThrow(size, alignof(std::max_align_t)); }
+void operator delete(void* block, const std::nothrow_t&) noexcept { Release(block); }
 void operator delete[](void* block) noexcept { Release(block); }
 void operator delete[](void* block, std::size_t) noexcept { Release(block); }
-#endif
+void operator delete[](void* block, const std::nothrow_t&) noexcept { Release(block); }
 
 namespace kt::tests {
 

@@ -6,25 +6,19 @@
 #include "kt/rtl/streams/FormConversion.h"
 #include "kt/rtl/streams/FormEventLog.h"
 #include "kt/rtl/streams/TextParser.h"
+#include "support/Print.h"
 
 #include <QFile>
 
 #include <gtest/gtest.h>
-#include <iostream>
-
-/// Makes GoogleTest show texts as texts.
-inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
-inline void PrintTo(const QByteArray& bytes, std::ostream* out) {
-  *out << '"' << bytes.toPercentEncoding(" \n:'=[]()<>{}+#,").toStdString() << '"';
-}
 
 /// How the tests of the form formats look at things: events as one line, errors as "class: message".
-namespace kt::testing {
+namespace kt::tests {
 
 inline QString OneLine(const QString& log) { return log.trimmed().replace(u'\n', QStringLiteral(" | ")); }
 
 /// The events of a form in either format.
-inline QString Events(const QByteArray& form, const TFormOptions& options = {}) {
+inline QString EventsOf(const QByteArray& form, const TFormOptions& options = {}) {
   TFormEventLog log;
   ReadForm(form, log, options);
   return OneLine(log.Text());
@@ -40,7 +34,7 @@ inline QString ValuePart(const QString& events) {
 }
 
 /// The events of one value in text.
-inline QString ValueEvents(const QByteArray& value) { return ValuePart(Events(FormWith(value))); }
+inline QString ValueEvents(const QByteArray& value) { return ValuePart(EventsOf(FormWith(value))); }
 
 template <typename TError>
 QString Named(const char* name, const TError& error) {
@@ -113,4 +107,4 @@ inline QByteArray BinaryWith(const QByteArray& value) {
   return BinaryHead() + QByteArray("\1X", 2) + value + QByteArray("\0\0", 2);
 }
 
-}  // namespace kt::testing
+}  // namespace kt::tests

@@ -81,6 +81,17 @@ enum TWalkState { wsFresh, wsChanged };
 enum TWalkFormat { wfBinary, wfText };
 QStringList LostOnTheWay(const QString& className, const TWalkRules& rules, TWalkState state, TWalkFormat format);
 
+/// What a test program walks; PropertyWalkTest.cpp asks for it, and the program has it in a file of its own.
+struct TProgramWalk {
+  const TWalkRules& (*Rules)();
+  /// Around each test.
+  void (*Register)();
+  void (*Unregister)();
+  /// The names of the walked classes; leaves none registered that was not.
+  std::vector<QString> (*Classes)();
+};
+TProgramWalk WalkOfProgram();
+
 /// Exceptions that name no property of a registered class, or stand there without a reason.
 QStringList IdleExceptions(const TWalkRules& rules);
 

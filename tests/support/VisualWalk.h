@@ -1,5 +1,6 @@
 #pragma once
 
+#include "kt/vcl/actions/ActionTypes.h"
 #include "kt/vcl/controls/ControlTypes.h"
 #include "kt/vcl/forms/FormTypes.h"
 #include "kt/vcl/grids/GridTypes.h"
@@ -9,11 +10,23 @@
 namespace kt::tests {
 
 inline std::vector<TClassInfo::TPublishedMethod> VisualHandlers() {
-  return {HandlerOf<TNotifyEvent>(),     HandlerOf<TKeyEvent>(),        HandlerOf<TKeyPressEvent>(),
-          HandlerOf<TMouseEvent>(),      HandlerOf<TMouseMoveEvent>(),  HandlerOf<TContextPopupEvent>(),
-          HandlerOf<TCloseEvent>(),      HandlerOf<TCloseQueryEvent>(), HandlerOf<TDrawCellEvent>(),
-          HandlerOf<TSelectCellEvent>(), HandlerOf<TGetEditEvent>(),    HandlerOf<TSetEditEvent>(),
-          HandlerOf<TMovedEvent>()};
+  return {HandlerOf<TNotifyEvent>(),
+          HandlerOf<TKeyEvent>(),
+          HandlerOf<TKeyPressEvent>(),
+          HandlerOf<TMouseEvent>(),
+          HandlerOf<TMouseMoveEvent>(),
+          HandlerOf<TContextPopupEvent>(),
+          HandlerOf<TCloseEvent>(),
+          HandlerOf<TCloseQueryEvent>(),
+          HandlerOf<TDrawCellEvent>(),
+          HandlerOf<TSelectCellEvent>(),
+          HandlerOf<TGetEditEvent>(),
+          HandlerOf<TSetEditEvent>(),
+          HandlerOf<TMovedEvent>(),
+          HandlerOf<TActionEvent>(),
+          HandlerOf<THintEvent>(),
+          HandlerOf<TMouseWheelEvent>(),
+          HandlerOf<TMouseWheelUpDownEvent>()};
 }
 
 }  // namespace kt::tests

@@ -11,8 +11,6 @@
 #include "kt/rtl/streams/FormNumbers.h"
 #include "kt/rtl/typeinfo/MemberAccess.h"
 
-#include <cmath>
-#include <limits>
 #include <optional>
 
 namespace ktform {
@@ -38,11 +36,7 @@ long double FloatOf(const QString& value) {
 /// The nearest number of a narrower type; raises for one that this cannot hold.
 template <class T>
 T Narrowed(const QString& value) {
-  const long double number = FloatOf(value);
-  if (std::isfinite(number) && std::fabs(number) > std::numeric_limits<T>::max()) {
-    throw kt::ERangeError(kt::SRangeError.toString());
-  }
-  return static_cast<T>(number);
+  return kt::MemberAccess::NarrowedFloat<T>(FloatOf(value));
 }
 
 /// A name, or a number as the text format writes it.

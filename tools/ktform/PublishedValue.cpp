@@ -24,6 +24,15 @@ void SetInteger(const kt::TPropTarget& target, const QString& value) {
   kt::SetPropValue(target.Instance, target.Property, kt::Variant(named ? *named : kt::StrToInt64(value)));
 }
 
+/// As a text, "1.5" would be taken for a number to be rounded.
+void SetInt64(const kt::TPropTarget& target, const QString& value) {
+  quint64 natural = 0;
+  const bool isUnsigned = kt::Int64TypeOf(target.Property->PropType())->IsUnsigned();
+  const bool isNatural = isUnsigned && kt::TryStrToUInt64(value, natural);
+  const kt::Variant number = isNatural ? kt::Variant(natural) : kt::Variant(kt::StrToInt64(value));
+  kt::SetPropValue(target.Instance, target.Property, number);
+}
+
 void SetCharacter(const kt::TPropTarget& target, const QString& value) {
   if (value.size() != 1) RaiseInvalidValue();
   kt::SetPropValue(target.Instance, target.Property, kt::Variant(int(value.front().unicode())));
@@ -65,6 +74,8 @@ void SetPublishedValue(kt::TComponent* root, const kt::TPropTarget& target, cons
   switch (target.Property->Kind()) {
     case kt::tkInteger:
       return SetInteger(target, value);
+    case kt::tkInt64:
+      return SetInt64(target, value);
     case kt::tkChar:
     case kt::tkWChar:
       return SetCharacter(target, value);

@@ -1,6 +1,8 @@
 #include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/streams/BinaryFormParser.h"
 #include "kt/rtl/streams/FormConversion.h"
 #include "kt/rtl/streams/Reader.h"
+#include "kt/rtl/streams/TextPlaces.h"
 #include "kt/rtl/streams/UnknownComponent.h"
 #include "kt/rtl/streams/Writer.h"
 #include "kt/rtl/typeinfo/PropPath.h"
@@ -10,6 +12,8 @@
 #include "ktform/FormTextEdit.h"
 #include "ktform/KeptValue.h"
 #include "ktform/PublishedValue.h"
+
+#include <QtEndian>
 
 #include <memory>
 
@@ -22,8 +26,16 @@ struct TFormProperty {
   QStringView Path;
 };
 
-std::unique_ptr<kt::TComponent> LoadForm(const QByteArray& binary) {
+bool IsTextForm(const QByteArray& form) {
+  const kt::TStreamOriginalFormat format = kt::TestStreamFormat(form);
+  return format == kt::sofText || format == kt::sofUnknown;
+}
+
+/// Errors tell the line when the form is text.
+std::unique_ptr<kt::TComponent> LoadForm(const QByteArray& form, const QByteArray& binary,
+                                         kt::TEightBitEncoding encoding) {
   kt::TReader reader(binary);
+  if (IsTextForm(form)) reader.SetPlaceWording(kt::PlacesInText(form, encoding));
   reader.UnknownClasses = kt::upKeep;
   reader.UnknownProperties = kt::upKeep;
   return std::unique_ptr<kt::TComponent>(reader.ReadRootComponent(nullptr));
@@ -70,18 +82,35 @@ QByteArray EditBinaryForm(const QByteArray& original, const QByteArray& before, 
   return binary;
 }
 
+/// The file `original` with another form in it: the name, number and flags of a resource header stay, and so does what
+/// follows the form.
+QByteArray WithForm(const QByteArray& original, const QByteArray& form, kt::TEightBitEncoding encoding) {
+  kt::TBinaryReader reader(original);
+  reader.SetEncoding(encoding);
+  const bool isResource = reader.IsAtResourceHeader();
+  const qint64 oldSize = isResource ? reader.ReadResourceHeader() : 0;
+  QByteArray result = original.first(reader.Position());
+  kt::TIdleFormSink nowhere;
+  kt::TBinaryFormParser(reader, nowhere).ParseForm();
+  const qint64 oldForm = reader.Position() - result.size();
+  if (isResource) {
+    const auto size = static_cast<quint32>(oldSize - oldForm + form.size());
+    qToLittleEndian(size, result.data() + result.size() - sizeof(size));
+  }
+  return result + form + original.sliced(reader.Position());
+}
+
 /// Makes the changes in memory; the result has the format and manner of the file that `form` came from.
 QByteArray Changed(const QByteArray& form, const QStringList& assignments, kt::TEightBitEncoding encoding) {
   const QByteArray binary = BinaryOf(form, encoding);
-  const std::unique_ptr<kt::TComponent> root = LoadForm(binary);
+  const std::unique_ptr<kt::TComponent> root = LoadForm(form, binary, encoding);
   const QByteArray before = kt::WriteComponentToBinary(root.get());
   for (const QString& assignment : assignments) Assign(root.get(), assignment);
   const QByteArray after = kt::WriteComponentToBinary(root.get());
   switch (kt::TestStreamFormat(form)) {
     case kt::sofBinary:
-      return EditBinaryForm(binary, before, after);
     case kt::sofResource:
-      return kt::WithResourceHeader(EditBinaryForm(binary, before, after));
+      return WithForm(form, EditBinaryForm(binary, before, after), encoding);
     default:
       return EditFormText(form, before, after, encoding);
   }

@@ -1,5 +1,7 @@
 #include "kt/rtl/conversions/DateTimeFormat.h"
 
+#include "kt/rtl/conversions/MaskText.h"
+
 #include <algorithm>
 
 namespace kt {
@@ -51,8 +53,6 @@ qsizetype HalfLength(QStringView rest) {
   if (StartsWith(rest, u"ampm")) return 4;
   return StartsWith(rest, u"a/p") ? 3 : 0;
 }
-
-bool IsQuote(QChar c) { return c == u'\'' || c == u'"'; }
 
 bool HasHalf(QStringView mask) {
   for (qsizetype i = 0; i < mask.size(); ++i) {

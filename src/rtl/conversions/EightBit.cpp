@@ -2,6 +2,8 @@
 
 #include "kt/rtl/conversions/CodePages.h"
 
+#include <QStringConverter>
+
 #include <cstring>
 
 namespace kt {
@@ -28,7 +30,7 @@ void MapUpperHalf(QString& text, const char16_t* characters) {
 
 bool DecodeUtf8(QByteArrayView bytes, QString& text) {
   if (FindInvalidUtf8(bytes) >= 0) return false;
-  text = QString::fromUtf8(bytes);
+  text = TextOfUtf8(bytes);
   return true;
 }
 
@@ -58,6 +60,11 @@ qsizetype SequenceLength(const quint8* data, qsizetype left) {
 }
 
 }  // namespace
+
+QString TextOfUtf8(QByteArrayView bytes) {
+  using TFlag = QStringConverter::Flag;
+  return QStringDecoder(QStringConverter::Utf8, TFlag::Stateless | TFlag::ConvertInitialBom).decode(bytes);
+}
 
 qsizetype FindInvalidUtf8(QByteArrayView bytes) {
   const qsizetype size = bytes.size();

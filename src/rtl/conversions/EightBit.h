@@ -26,6 +26,10 @@ enum TEightBitEncoding : quint8 {
 /// Decodes into `text`, whose memory is used again. False when the bytes are not valid in that encoding.
 bool DecodeEightBit(QByteArrayView bytes, TEightBitEncoding encoding, QString& text);
 
+/// Decodes well-formed UTF-8. A U+FEFF at the start stays: inside a form or a list it is a character like any other,
+/// and `QString::fromUtf8` would drop it as the mark of a whole file.
+QString TextOfUtf8(QByteArrayView bytes);
+
 /// The offset of the first byte that is no well-formed UTF-8 (overlong forms and surrogates are not), or -1.
 qsizetype FindInvalidUtf8(QByteArrayView bytes);
 

@@ -2,6 +2,7 @@
 
 #include "kt/rtl/conversions/FloatDecimal.h"
 #include "kt/rtl/conversions/FloatText.h"
+#include "kt/rtl/conversions/MaskText.h"
 
 #include <algorithm>
 #include <array>
@@ -13,8 +14,6 @@ namespace {
 
 constexpr int kMaskPrecision = 15;
 constexpr int kHighestFixedExponent = 18;
-
-bool IsQuote(QChar c) { return c == u'\'' || c == u'"'; }
 
 /// Where the text quoted at `at` ends: at its closing quote, or at the last character.
 qsizetype EndOfQuoted(QStringView mask, qsizetype at) {

@@ -14,13 +14,14 @@
 namespace kt {
 
 const TClassInfo* TComponent::Class() {
-  static const TClassInfo info = TClassBuilder<TComponent>("TComponent")
-                                     .Property<&TComponent::GetName, &TComponent::SetName>("Name")
-                                     .NotStored()
-                                     .Property<&TComponent::GetTag, &TComponent::SetTag>("Tag")
-                                     .Default(0)
-                                     .Creatable()
-                                     .Done();
+  static const TClassInfo info =
+      TClassBuilder<TComponent>("TComponent")
+          .Property<&TComponent::GetName, &TComponent::SetName>("Name", &TypeInfos::ComponentName)
+          .NotStored()
+          .Property<&TComponent::GetTag, &TComponent::SetTag>("Tag")
+          .Default(0)
+          .Creatable()
+          .Done();
   return &info;
 }
 

@@ -15,7 +15,10 @@ class Exception : public std::exception {
   /// The text meant for the user.
   const QString& Message() const { return FMessage; }
   /// For handlers that know more, before they pass the exception on.
-  void SetMessage(const QString& value) { FMessage = value; }
+  void SetMessage(const QString& value) {
+    FMessage = value;
+    FUtf8.clear();
+  }
   /// The same text in UTF-8, for code that knows only the standard library.
   const char* what() const noexcept override;
 

@@ -5,13 +5,13 @@
 namespace kt {
 namespace {
 
-thread_local TLifeTable* Innermost = nullptr;
+thread_local TLifeTable* InnermostTable = nullptr;
 
 }  // namespace
 
-TLifeTable::TLifeTable() : FOuter(std::exchange(Innermost, this)) {}
+TLifeTable::TLifeTable() : FOuter(std::exchange(InnermostTable, this)) {}
 
-TLifeTable::~TLifeTable() { Innermost = FOuter; }
+TLifeTable::~TLifeTable() { InnermostTable = FOuter; }
 
 TLifeTable::TLife TLifeTable::Watch(TObject* object) {
   if (!object) return {};
@@ -27,7 +27,7 @@ bool TLifeTable::IsAlive(const TLife& life) const {
 }
 
 void TLifeTable::Forget(const TObject* object) noexcept {
-  for (TLifeTable* table = Innermost; table; table = table->FOuter) table->FAlive.erase(object);
+  for (TLifeTable* table = InnermostTable; table; table = table->FOuter) table->FAlive.erase(object);
 }
 
 }  // namespace kt

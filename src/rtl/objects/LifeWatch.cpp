@@ -5,16 +5,16 @@
 namespace kt {
 namespace {
 
-thread_local TLifeWatch* Innermost = nullptr;
+thread_local TLifeWatch* InnermostWatch = nullptr;
 
 }  // namespace
 
-TLifeWatch::TLifeWatch(const TObject* object) : FObject(object), FOuter(std::exchange(Innermost, this)) {}
+TLifeWatch::TLifeWatch(const TObject* object) : FObject(object), FOuter(std::exchange(InnermostWatch, this)) {}
 
-TLifeWatch::~TLifeWatch() { Innermost = FOuter; }
+TLifeWatch::~TLifeWatch() { InnermostWatch = FOuter; }
 
 void TLifeWatch::Forget(const TObject* object) noexcept {
-  for (TLifeWatch* watch = Innermost; watch; watch = watch->FOuter) {
+  for (TLifeWatch* watch = InnermostWatch; watch; watch = watch->FOuter) {
     if (watch->FObject == object) watch->FObject = nullptr;
   }
 }

@@ -22,4 +22,20 @@ class TLifeWatch {
   TLifeWatch* FOuter;
 };
 
+/// Sets a flag of an object for the time of a block, in which the object may die. Nests.
+class TLiveFlag {
+ public:
+  TLiveFlag(const TObject* owner, bool& flag) : FOwner(owner), FFlag(flag), FBefore(flag) { FFlag = true; }
+  ~TLiveFlag() {
+    if (FOwner.IsAlive()) FFlag = FBefore;
+  }
+  TLiveFlag(const TLiveFlag&) = delete;
+  TLiveFlag& operator=(const TLiveFlag&) = delete;
+
+ private:
+  const TLifeWatch FOwner;
+  bool& FFlag;
+  const bool FBefore;
+};
+
 }  // namespace kt

@@ -4,19 +4,34 @@
 #include "kt/rtl/objects/LifeTable.h"
 #include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/objects/ObjectRef.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 
 namespace kt {
 namespace {
 
-/// The destructions that run inside each other in this thread, the innermost first.
-struct TEnding {
-  const TObject* Object;
-  const TEnding* Outer;
-};
+class TEnding;
+/// The destructions that run inside each other in this thread, the innermost first, and their number.
 thread_local const TEnding* Endings = nullptr;
 thread_local int Depth = 0;
+
+class TEnding {
+ public:
+  explicit TEnding(const TObject* object) : Object(object), Outer(Endings) {
+    Endings = this;
+    ++Depth;
+  }
+  ~TEnding() {
+    --Depth;
+    Endings = Outer;
+  }
+  TEnding(const TEnding&) = delete;
+  TEnding& operator=(const TEnding&) = delete;
+
+  const TObject* const Object;
+  const TEnding* const Outer;
+};
 
 bool IsEnding(const TObject* object) {
   for (const TEnding* ending = Endings; ending; ending = ending->Outer) {
@@ -52,7 +67,10 @@ void TObjectLife::Begin(TObject* object) {
     object->Construct();
     if (watch.IsAlive()) object->AfterConstruction();
   } catch (...) {
-    if (watch.IsAlive()) Abandon(object);
+    if (watch.IsAlive()) {
+      const TEnding ending(object);
+      Abandon(object);
+    }
     throw;
   }
   if (!watch.IsAlive()) throw EInvalidOperation(SObjectFreed.toString());
@@ -64,6 +82,7 @@ void TObjectLife::Abandon(TObject* object) noexcept {
   void* memory = dynamic_cast<void*>(object);
   TLifeWatch::Forget(object);
   TLifeTable::Forget(object);
+  TObjectRef::Forget(object);
   object->~TObject();
   Release(memory);
 }
@@ -71,13 +90,9 @@ void TObjectLife::Abandon(TObject* object) noexcept {
 void TObjectLife::End(TObject* object) noexcept {
   // A handler cannot know that what it frees is on its way out already.
   if (IsEnding(object)) return GuardedCall([object] { object->DestructAgain(); });
-  const TEnding ending{object, Endings};
-  Endings = &ending;
-  ++Depth;
+  const TEnding ending(object);
   GuardedCall([object] { object->BeforeDestruction(); });
   Abandon(object);
-  --Depth;
-  Endings = ending.Outer;
 }
 
 bool TObjectLife::IsDeep() {

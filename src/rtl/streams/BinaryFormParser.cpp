@@ -59,7 +59,7 @@ void TBinaryFormParser::Step() {
 void TBinaryFormParser::Push(TFrameKind kind) {
   if (FFrames.size() >= std::size_t(FNestingLimit)) {
     const QString what = MessageAbout(SNestingTooDeep, QString::number(FNestingLimit));
-    throw EReadError(AtOffset(what, FReader.Position(), FReader.Path().ToString()));
+    throw EReadError(FReader.AtPlace(what, FReader.Position()));
   }
   FFrames.push_back({kind});
 }

@@ -3,7 +3,6 @@
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/streams/BinaryFormParser.h"
-#include "kt/rtl/streams/FormErrors.h"
 
 #include <QtEndian>
 
@@ -20,11 +19,15 @@ constexpr quint16 kRawDataType = 10;
 
 }  // namespace
 
-void TBinaryReader::FailReading(QLatin1StringView what, qint64 offset) {
-  throw EReadError(AtOffset(QString(what), offset < 0 ? Position() : offset, FPath.ToString()));
+QString TBinaryReader::AtPlace(const QString& what, qint64 offset) const {
+  return kt::AtPlace(FWording, what, offset, FPath.ToString());
 }
 
-void TBinaryReader::FailImage() { throw EInvalidImage(AtOffset(QString(SInvalidImage), Position(), FPath.ToString())); }
+void TBinaryReader::FailReading(QLatin1StringView what, qint64 offset) {
+  throw EReadError(AtPlace(QString(what), offset < 0 ? Position() : offset));
+}
+
+void TBinaryReader::FailImage() { throw EInvalidImage(AtPlace(QString(SInvalidImage), Position())); }
 
 inline const char* TBinaryReader::Take(qsizetype count) {
   const char* bytes = FSource.Take(count);
@@ -46,8 +49,8 @@ void TBinaryReader::ReadSignature() {
   const char* bytes = FSource.Take(kFormSignature.size());
   if (bytes == nullptr && IsAtEnd()) FailReading(SReadError);
   if (bytes == nullptr || QByteArrayView(bytes, kFormSignature.size()) != kFormSignature) {
-    throw EInvalidImage(AtOffset(QString(SInvalidImage), Position() - (bytes == nullptr ? 0 : kFormSignature.size()),
-                                 FPath.ToString()));
+    const qint64 start = Position() - (bytes == nullptr ? 0 : kFormSignature.size());
+    throw EInvalidImage(AtPlace(QString(SInvalidImage), start));
   }
 }
 

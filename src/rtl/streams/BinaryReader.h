@@ -3,6 +3,7 @@
 #include "kt/rtl/conversions/EightBit.h"
 #include "kt/rtl/streams/BinaryFormat.h"
 #include "kt/rtl/streams/ByteSource.h"
+#include "kt/rtl/streams/FormErrors.h"
 #include "kt/rtl/streams/FormPath.h"
 
 #include <QString>
@@ -22,6 +23,10 @@ class TBinaryReader {
 
   /// What 8-bit strings are decoded with; Windows-1252 unless set.
   void SetEncoding(TEightBitEncoding encoding) { FEncoding = encoding; }
+  /// How errors tell their place; by offset and path unless set.
+  void SetPlaceWording(TPlaceWording wording) { FWording = std::move(wording); }
+  /// `what` with `offset` and path, in that wording.
+  QString AtPlace(const QString& what, qint64 offset) const;
   /// Offset of the next byte from where reading began.
   qint64 Position() const { return FSource.Position(); }
   /// Goes on at another offset of what Position() answered before. Only for a reader of a byte array.
@@ -102,6 +107,7 @@ class TBinaryReader {
 
   TByteSource FSource;
   TFormPath FPath;
+  TPlaceWording FWording;
   TEightBitEncoding FEncoding = eeWindows1252;
   QString FScratch;
 };

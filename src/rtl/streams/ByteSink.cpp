@@ -11,13 +11,13 @@
 namespace kt {
 namespace {
 
-constexpr qsizetype kBlock = 64 * 1024;
+constexpr qsizetype kSinkBlock = 64 * 1024;
 
 }  // namespace
 
 TByteSink::TByteSink(QByteArray& target) : FTarget(&target) { Restart(4096); }
 
-TByteSink::TByteSink(QIODevice& device) : FDevice(&device) { Restart(kBlock); }
+TByteSink::TByteSink(QIODevice& device) : FDevice(&device) { Restart(kSinkBlock); }
 
 void TByteSink::Restart(qsizetype size) {
   FBuffer.resize(size);

@@ -7,7 +7,7 @@
 namespace kt {
 namespace {
 
-constexpr qsizetype kBlock = 64 * 1024;
+constexpr qsizetype kSourceBlock = 64 * 1024;
 
 }  // namespace
 
@@ -31,7 +31,7 @@ bool TByteSource::Fill(qsizetype count) {
   DropTaken();
   // Grows by what has come so far, so a huge count in a short file costs nothing.
   while (FBuffer.size() < count)
-    if (!ReadBlock(std::max(kBlock, FBuffer.size()))) return false;
+    if (!ReadBlock(std::max(kSourceBlock, FBuffer.size()))) return false;
   return true;
 }
 

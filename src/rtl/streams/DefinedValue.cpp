@@ -4,6 +4,8 @@
 #include "kt/rtl/streams/Reader.h"
 #include "kt/rtl/streams/Writer.h"
 
+#include <utility>
+
 namespace kt {
 
 /// A writer that passes over all defined properties but one.
@@ -15,11 +17,15 @@ class TDefinedValueWriter final : public TWriter {
   }
 
   void DefineProperty(QStringView name, const TReaderProc& read, const TWriterProc& write, bool hasData) override {
-    if (SameText(name, FName)) TWriter::DefineProperty(name, read, write, hasData);
+    if (!FIsInside && !SameText(name, FName)) return;
+    // What stands inside the value, as the lines of an item's list, belongs to it.
+    const bool outer = std::exchange(FIsInside, true);
+    TWriter::DefineProperty(name, read, write, hasData);
+    FIsInside = outer;
   }
   void DefineBinaryProperty(QStringView name, const TReadBinaryProc& read, const TWriteBinaryProc& write,
                             bool hasData) override {
-    if (SameText(name, FName)) TWriter::DefineBinaryProperty(name, read, write, hasData);
+    if (FIsInside || SameText(name, FName)) TWriter::DefineBinaryProperty(name, read, write, hasData);
   }
   QByteArray ListOf(TPersistent& object) {
     DefineWith(object);
@@ -30,6 +36,7 @@ class TDefinedValueWriter final : public TWriter {
 
  private:
   QStringView FName;
+  bool FIsInside = false;
 };
 
 QByteArray DefinedValueOf(TPersistent& object, QStringView name, TComponent* root) {

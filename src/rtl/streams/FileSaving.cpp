@@ -4,6 +4,7 @@
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/streams/ReadAll.h"
+#include "kt/rtl/streams/TextPlaces.h"
 #include "kt/rtl/streams/Writer.h"
 
 #include <QFileInfo>
@@ -59,15 +60,21 @@ bool WriteAll(QFileDevice& file, QByteArrayView bytes) {
   return true;
 }
 
-/// The form with or without its resource header.
-QByteArray BinaryOf(const QByteArray& form, TEightBitEncoding encoding) {
+/// A reader of a form in any of the formats.
+std::unique_ptr<TReader> ReaderOf(const QByteArray& form, const TLoadOptions& options) {
   const TStreamOriginalFormat format = TestStreamFormat(form);
-  if (format == sofBinary || format == sofResource) return form;
+  if (format == sofBinary || format == sofResource) {
+    auto reader = std::make_unique<TReader>(form);
+    reader->RefusesRest = true;
+    return reader;
+  }
   QByteArray binary;
-  TFormOptions options;
-  options.Encoding = encoding;
-  ObjectTextToBinary(form, binary, options);
-  return binary;
+  TFormOptions conversion;
+  conversion.Encoding = options.Encoding;
+  ObjectTextToBinary(form, binary, conversion);
+  auto reader = std::make_unique<TReader>(binary);
+  reader->SetPlaceWording(PlacesInText(form, options.Encoding));
+  return reader;
 }
 
 QByteArray FormBytes(const QByteArray& binary, TStreamOriginalFormat format) {
@@ -83,11 +90,11 @@ TComponent* ReadFile(const QString& fileName, TComponent* root, const TLoadOptio
   QFile file(fileName);
   if (!file.open(QIODevice::ReadOnly)) RaiseFileError<EFOpenError>(SFOpenError, file);
   try {
-    TReader reader(BinaryOf(ReadAll(file), options.Encoding));
-    reader.UnknownClasses = options.UnknownClasses;
-    reader.UnknownProperties = options.UnknownProperties;
-    reader.SetEncoding(options.Encoding);
-    return reader.ReadRootComponent(root);
+    const std::unique_ptr<TReader> reader = ReaderOf(ReadAll(file), options);
+    reader->UnknownClasses = options.UnknownClasses;
+    reader->UnknownProperties = options.UnknownProperties;
+    reader->SetEncoding(options.Encoding);
+    return reader->ReadRootComponent(root);
   } catch (Exception& error) {
     error.SetMessage(QFileInfo(fileName).absoluteFilePath() + QStringLiteral(": ") + error.Message());
     throw;

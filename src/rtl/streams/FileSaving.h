@@ -32,8 +32,9 @@ struct TLoadOptions {
 };
 
 /// Reads a component and its children from a file in any of these formats; into `root`, which must not be null, or into
-/// a new one. What is neither binary nor a resource is taken for text. Raises EFOpenError "Cannot open file "%s". %s";
-/// what the content makes a reader raise (see TReader; of a text EParserError) has the file's name before its message.
+/// a new one. What is neither binary nor a resource is taken for text. The form must be all there is in the file, but
+/// for zero bytes. Raises EFOpenError "Cannot open file "%s". %s"; what the content makes a reader raise (see TReader;
+/// of a text EParserError) has the file's name before its message, and of a text line and column as its place.
 void LoadComponentFromFile(const QString& fileName, TComponent* root, const TLoadOptions& options = {});
 std::unique_ptr<TComponent> LoadComponentFromFile(const QString& fileName, const TLoadOptions& options = {});
 

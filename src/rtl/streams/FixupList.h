@@ -30,7 +30,7 @@ struct TFixup {
   /// The policy was to keep: the reference becomes unknown data when its target is a stand-in, and is written back
   /// while it waits.
   bool IsKept;
-  /// Where the name begins in its stream; errors show it.
+  /// Where the name begins in its stream; errors show it, unless it is negative.
   qint64 Offset = 0;
   /// The component that holds the reference, which has csFixups while it waits in a TFixupList; set by that.
   TComponent* Holder = nullptr;

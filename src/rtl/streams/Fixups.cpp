@@ -137,16 +137,17 @@ QString FullPathOf(TPersistent* object) {
 }
 
 /// As errors of other properties are told.
-[[noreturn]] void RaiseWithPlace(const TFixup& fixup, const Exception& error) {
+[[noreturn]] void RaiseWithPlace(const TFixup& fixup, const Exception& error, const TPlaceWording& wording) {
   // Null when the setter has destroyed the object.
   const QString object = fixup.Instance ? fixup.PathStart->GetNamePath() : QString();
   const QString place = fixup.Instance ? FullPathOf(fixup.PathStart) + u'.' + fixup.Path : fixup.Path;
   const QString message = Format(SPropertyException, {object, u'.', fixup.Path, error.Message()});
-  throw EReadError(AtOffset(message, fixup.Offset, place));
+  if (fixup.Offset < 0) throw EReadError(message + QStringLiteral(" (") + place + u')');
+  throw EReadError(AtPlace(wording, message, fixup.Offset, place));
 }
 
 /// False while the component is missing.
-bool Apply(const TFixup& fixup) {
+bool Apply(const TFixup& fixup, const TPlaceWording& wording = {}) {
   TComponent* target = Target(fixup);
   if (!target || !fixup.Instance) return false;
   if (fixup.IsKept && dynamic_cast<TUnknownComponent*>(target)) {
@@ -158,7 +159,7 @@ bool Apply(const TFixup& fixup) {
   } catch (const EAbort&) {
     throw;
   } catch (const Exception& error) {
-    RaiseWithPlace(fixup, error);
+    RaiseWithPlace(fixup, error, wording);
   }
   return true;
 }
@@ -200,8 +201,13 @@ void TFixups::Wait() {
   for (; !FList.empty(); FList.pop_back()) AddWaiting(FList.back());
 }
 
-void TFixups::Resolve() {
-  ResolveAll([](const TFixup& fixup) { return Apply(fixup); });
+void TFixups::Resolve(const TPlaceWording& wording) {
+  ResolveAll([&wording](TFixup& fixup) {
+    const bool isSet = Apply(fixup, wording);
+    // When a reference that waits is set, nobody is there any more who knows what its offset means.
+    if (!isSet && wording) fixup.Offset = -1;
+    return isSet;
+  });
 }
 
 void TFixups::ResolveGuarded() {

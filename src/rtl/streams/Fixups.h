@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kt/rtl/streams/FixupList.h"
+#include "kt/rtl/streams/FormErrors.h"
 
 #include <QString>
 #include <QStringList>
@@ -25,8 +26,9 @@ class TFixups {
   void TakeBack() noexcept;
   /// Lets all references wait.
   void Wait();
-  /// Sets every reference whose component exists now and hands the others to the waiting list of the process.
-  void Resolve();
+  /// Sets every reference whose component exists now and hands the others to the waiting list of the process. Errors
+  /// word their place by `wording`.
+  void Resolve(const TPlaceWording& wording);
   /// The same, but a reference that cannot be set is reported (HandleException()) and dropped, and the others go on.
   void ResolveGuarded();
 

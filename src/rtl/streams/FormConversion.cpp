@@ -33,14 +33,7 @@ void ParseResource(TBinaryReader& reader, IFormSink& sink, const TFormOptions& o
   const qint64 size = reader.ReadResourceHeader();
   const qint64 end = reader.Position() + size;
   ParseBinary(reader, sink, options);
-  if (reader.Position() > end) reader.FailImage();
-  reader.SkipBytes(end - reader.Position());
-}
-
-/// Nothing but padding may follow the form.
-void CheckRest(const QByteArray& data, qint64 from) {
-  const auto stray = std::find_if(data.begin() + from, data.end(), [](char byte) { return byte != 0; });
-  if (stray != data.end()) throw EInvalidImage(AtOffset(QString(SDataAfterForm), stray - data.begin(), QString()));
+  PassResourceEnd(reader, end);
 }
 
 using TParse = void (*)(TBinaryReader& reader, IFormSink& sink, const TFormOptions& options);
@@ -48,7 +41,7 @@ using TParse = void (*)(TBinaryReader& reader, IFormSink& sink, const TFormOptio
 void ParseWhole(TParse parse, const QByteArray& data, IFormSink& sink, const TFormOptions& options) {
   TBinaryReader reader(data);
   parse(reader, sink, options);
-  CheckRest(data, reader.Position());
+  CheckNothingBehind(data, reader.Position());
 }
 
 void ParseDevice(TParse parse, QIODevice& device, IFormSink& sink, const TFormOptions& options) {
@@ -157,6 +150,16 @@ QByteArray WithResourceHeader(const QByteArray& binary) {
   writer.WriteRaw(binary);
   writer.Flush();
   return resource;
+}
+
+void PassResourceEnd(TBinaryReader& reader, qint64 end) {
+  if (reader.Position() > end) reader.FailImage();
+  reader.SkipBytes(end - reader.Position());
+}
+
+void CheckNothingBehind(const QByteArray& data, qint64 from) {
+  const auto stray = std::find_if(data.begin() + from, data.end(), [](char byte) { return byte != 0; });
+  if (stray != data.end()) throw EInvalidImage(AtOffset(QString(SDataAfterForm), stray - data.begin(), QString()));
 }
 
 void ReadForm(const QByteArray& form, IFormSink& sink, const TFormOptions& options) {

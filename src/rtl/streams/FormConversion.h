@@ -11,6 +11,8 @@ class QIODevice;
 
 namespace kt {
 
+class TBinaryReader;
+
 /// What a stored form looks like.
 enum TStreamOriginalFormat : quint8 {
   sofUnknown,
@@ -47,6 +49,12 @@ void ObjectResourceToText(QIODevice& resource, QIODevice& text, const TFormOptio
 
 /// A binary form with a resource header before it, named after the class of the root object.
 QByteArray WithResourceHeader(const QByteArray& binary);
+
+/// Skips the rest of the resource that ends at `end`. Raises EInvalidImage when the reader is beyond that, and
+/// EReadError when the input ends before.
+void PassResourceEnd(TBinaryReader& reader, qint64 end);
+/// Raises EInvalidImage "Data after the form" with the offset when anything but zero bytes, which are padding, follows.
+void CheckNothingBehind(const QByteArray& data, qint64 from);
 
 /// Sends the events of a form in whatever format it is; what is neither binary nor a resource is read as text.
 void ReadForm(const QByteArray& form, IFormSink& sink, const TFormOptions& options = {});

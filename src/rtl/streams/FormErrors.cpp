@@ -23,6 +23,10 @@ QString AtOffset(const QString& what, qint64 offset, const QString& path) {
   return path.isEmpty() ? where : where + QStringLiteral(" (") + path + u')';
 }
 
+QString AtPlace(const TPlaceWording& wording, const QString& what, qint64 offset, const QString& path) {
+  return wording ? wording(what, offset, path) : AtOffset(what, offset, path);
+}
+
 QString OnLine(const QString& what, qint64 line, qint64 column) {
   return Format(SParseError, {what, line}) + QStringLiteral(", column ") + QString::number(column);
 }

@@ -1,6 +1,7 @@
 #include "kt/rtl/streams/Load.h"
 
 #include "kt/rtl/objects/Component.h"
+#include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
 
 #include <algorithm>
@@ -19,9 +20,16 @@ void ClearLast(std::vector<TComponent*>& list, const TPersistent* object) {
   if (found != list.rend()) *found = nullptr;
 }
 
+/// As readers show a component: by its name, behind that of its form.
+QString PathOf(const TComponent* component) {
+  const QString name = component->GetName().isEmpty() ? component->ClassName() : component->GetName();
+  const TComponent* owner = component->GetOwnerComponent();
+  return owner && !owner->GetName().isEmpty() ? owner->GetName() + u'.' + name : name;
+}
+
 }  // namespace
 
-TLoad::TLoad() : FOuter(std::exchange(Innermost, this)) {}
+TLoad::TLoad(TPlaceWording wording) : FWording(std::move(wording)), FOuter(std::exchange(Innermost, this)) {}
 
 TLoad::~TLoad() { Innermost = FOuter; }
 
@@ -52,18 +60,53 @@ void TLoad::BeginUpdating(TComponent* component) {
 
 void TLoad::EndUpdating() {
   for (size_t i = 0; i < FUpdating.size(); ++i) {
-    if (TComponent* component = std::exchange(FUpdating[i], nullptr)) component->Updated();
+    TComponent* component = std::exchange(FUpdating[i], nullptr);
+    if (!component) continue;
+    try {
+      component->Updated();
+    } catch (const EAbort&) {
+      throw;
+    } catch (Exception& error) {
+      AddPlace(error, component);
+      throw;
+    }
   }
   FUpdating.clear();
 }
 
-void TLoad::Finish() {
-  FFixups.Resolve();
-  EndUpdating();
+void TLoad::AddLoaded(TComponent* component, qint64 offset) {
+  FOffsets.push_back(offset);
+  FLoaded.push_back(component);
+}
+
+void TLoad::TellLoaded() {
   // By index: a handler may free components, which become null here.
   for (size_t i = 0; i < FLoaded.size(); ++i) {
-    if (FLoaded[i]) FLoaded[i]->Loaded();
+    TComponent* component = FLoaded[i];
+    if (!component) continue;
+    try {
+      component->Loaded();
+    } catch (const EAbort&) {
+      throw;
+    } catch (Exception& error) {
+      AddPlace(error, component);
+      throw;
+    }
   }
+}
+
+/// Nothing when the component, which may have been freed, is none that has been read completely.
+void TLoad::AddPlace(Exception& error, const TComponent* component) const {
+  const auto found = std::find(FLoaded.begin(), FLoaded.end(), component);
+  if (found == FLoaded.end()) return;
+  const qint64 offset = FOffsets[static_cast<size_t>(found - FLoaded.begin())];
+  error.SetMessage(AtPlace(FWording, error.Message(), offset, PathOf(component)));
+}
+
+void TLoad::Finish() {
+  FFixups.Resolve(FWording);
+  EndUpdating();
+  TellLoaded();
 }
 
 TComponent* TLoad::Keep() noexcept {

@@ -9,6 +9,7 @@
 
 namespace kt {
 
+class Exception;
 class TComponent;
 class TPersistent;
 
@@ -35,7 +36,8 @@ class TLoad {
     TUse* FOuter;
   };
 
-  TLoad();
+  /// Errors word their place by `wording`.
+  explicit TLoad(TPlaceWording wording = {});
   ~TLoad();
   TLoad(const TLoad&) = delete;
   TLoad& operator=(const TLoad&) = delete;
@@ -48,8 +50,9 @@ class TLoad {
   void MarkAncestor(TComponent* root);
   /// Tells a component that is marked so that a descendant form changes it; Finish() and Undo() tell it the end.
   void BeginUpdating(TComponent* component);
-  /// A component whose properties and children are complete: its Loaded() is still to be called.
-  void AddLoaded(TComponent* component) { FLoaded.push_back(component); }
+  /// A component whose properties and children are complete: its Loaded() is still to be called. It begins at `offset`
+  /// of the input.
+  void AddLoaded(TComponent* component, qint64 offset);
   TFixups& Fixups() { return FFixups; }
   /// What existed before and is about to be changed.
   TUndoLog& UndoLog() { return FUndoLog; }
@@ -72,6 +75,8 @@ class TLoad {
  private:
   void ForgetHere(TPersistent* object);
   void EndUpdating();
+  void TellLoaded();
+  void AddPlace(Exception& error, const TComponent* component) const;
   void ForgetUses(const TPersistent* object);
 
   std::vector<TComponent*> FCreated;
@@ -79,6 +84,9 @@ class TLoad {
   std::vector<TComponent*> FMarked;
   std::vector<TComponent*> FUpdating;
   std::vector<TComponent*> FLoaded;
+  /// Where each of those begins.
+  std::vector<qint64> FOffsets;
+  TPlaceWording FWording;
   TFixups FFixups;
   TUndoLog FUndoLog;
   TUse* FUses = nullptr;

@@ -7,29 +7,47 @@
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/streams/BinaryFormParser.h"
+#include "kt/rtl/streams/FormConversion.h"
 #include "kt/rtl/streams/ReadAll.h"
 #include "kt/rtl/typeinfo/ClassInfo.h"
 
 #include <QScopeGuard>
 
 #include <cmath>
+#include <optional>
 #include <utility>
 
 namespace kt {
 
-TReader::TReader(const QByteArray& data) : FData(data), FInput(FData) {}
+TReader::TReader(const QByteArray& data) : FData(data), FInput(FData) {
+  FInput.SetPlaceWording(
+      [this](const QString& what, qint64 offset, const QString& path) { return WordInputError(what, offset, path); });
+}
 
 TReader::TReader(QIODevice& device) : TReader(ReadAll(device)) {}
 
 TReader::~TReader() = default;
 
+/// `end` is that of the resource which the form stands in.
+static void CheckRest(TBinaryReader& reader, const QByteArray& data, std::optional<qint64> end) {
+  if (end) PassResourceEnd(reader, *end);
+  CheckNothingBehind(data, reader.Position());
+}
+
 TComponent* TReader::ReadRootComponent(TComponent* root) {
-  if (FInput.IsAtResourceHeader()) FInput.ReadResourceHeader();
-  CheckStructure([](TBinaryReader&, TBinaryFormParser& parser) { parser.ParseForm(); });
+  std::optional<qint64> end;
+  if (FInput.IsAtResourceHeader()) {
+    const qint64 size = FInput.ReadResourceHeader();
+    end = FInput.Position() + size;
+  }
+  CheckStructure([&](TBinaryReader& reader, TBinaryFormParser& parser) {
+    parser.ParseForm();
+    if (RefusesRest) CheckRest(reader, FData, end);
+  });
   FInput.ReadSignature();
-  TLoad load;
+  TLoad load(FWording);
   FLoad = &load;
-  const auto done = qScopeGuard([this] { FLoad = nullptr; });
+  const auto done = qScopeGuard([this] { EndLoad(); });
   const TLoad::TUse use(load, root);
   try {
     LoadRoot(root);
@@ -46,9 +64,9 @@ void TReader::ReadComponents(TComponent* owner, TComponent* parent, const std::f
   CheckStructure([](TBinaryReader& reader, TBinaryFormParser& parser) {
     while (!reader.EndOfList()) parser.ParseForm();
   });
-  TLoad load;
+  TLoad load(FWording);
   FLoad = &load;
-  const auto loaded = qScopeGuard([this] { FLoad = nullptr; });
+  const auto loaded = qScopeGuard([this] { EndLoad(); });
   FRoot = owner;
   FScope = owner;
   FScopeIsNew = false;
@@ -71,6 +89,12 @@ void TReader::ReadComponents(TComponent* owner, TComponent* parent, const std::f
   }
 }
 
+void TReader::EndLoad() {
+  FLoad = nullptr;
+  // An error leaves it.
+  FPropPath = {};
+}
+
 void TReader::SetEncoding(TEightBitEncoding encoding) {
   FEncoding = encoding;
   FInput.SetEncoding(encoding);
@@ -82,6 +106,7 @@ void TReader::RaiseInvalidRoot() { throw EInvalidCast(SInvalidCast.toString()); 
 void TReader::CheckStructure(const TParseProc& parse) {
   TBinaryReader reader(FData);
   reader.SetEncoding(FEncoding);
+  reader.SetPlaceWording(FWording);
   reader.Seek(FInput.Position());
   TIdleFormSink nowhere;
   TBinaryFormParser parser(reader, nowhere);
@@ -91,15 +116,15 @@ void TReader::CheckStructure(const TParseProc& parse) {
 void TReader::InLoad(const std::function<void()>& read, const TParseProc& parse) {
   if (FLoad) return read();
   CheckStructure(parse);
-  TLoad load;
+  TLoad load(FWording);
   FLoad = &load;
   FScope = FRoot;
   FScopeIsNew = false;
   FTargetIsNew = false;
   FPlace.clear();
-  const auto done = qScopeGuard([this] { FLoad = nullptr; });
+  const auto done = qScopeGuard([this] { EndLoad(); });
   try {
-    read();
+    ReadAtPosition(read);
     load.Finish();
     GlobalFixupReferences();
     load.Keep();
@@ -107,6 +132,35 @@ void TReader::InLoad(const std::function<void()>& read, const TParseProc& parse)
     load.Undo();
     throw;
   }
+}
+
+/// What is raised besides the errors of properties is told to be where reading has come to.
+void TReader::ReadAtPosition(const std::function<void()>& read) {
+  try {
+    read();
+  } catch (const EAbort&) {
+    throw;
+  } catch (Exception& error) {
+    AddPlace(error, FInput.Position(), QString());
+    throw;
+  }
+}
+
+bool TReader::HasPlace(const Exception& error) const {
+  return !FPlacedMessage.isEmpty() && error.Message() == FPlacedMessage;
+}
+
+void TReader::AddPlace(Exception& error, qint64 offset, const QString& path) {
+  if (HasPlace(error)) return;
+  FPlacedMessage = kt::AtPlace(FWording, error.Message(), offset, path);
+  error.SetMessage(FPlacedMessage);
+}
+
+/// The error of a value gets the place of its property, and needs none of its own.
+QString TReader::WordInputError(const QString& what, qint64 offset, const QString& path) {
+  if (FPropPath.Instance) return what;
+  FPlacedMessage = kt::AtPlace(FWording, what, offset, path);
+  return FPlacedMessage;
 }
 
 TFormObjectHeader TReader::ReadHeader() {
@@ -128,7 +182,10 @@ void TReader::LoadRoot(TComponent* root) {
   const TFormObjectHeader header = ReadHeader();
   FPlace = NameIn(header);
   FScope = nullptr;
-  FRoot = root ? root : AtPlace(start, header, [&] { return MakeRoot(header); });
+  FRoot = root;
+  AtPlace(start, header, [&] {
+    if (!root) FRoot = MakeRoot(header);
+  });
   const TLoad::TUse use(*FLoad, FRoot);
   if (root) FLoad->UndoLog().Remember(*root);
   FTargetIsNew = !root;
@@ -137,17 +194,16 @@ void TReader::LoadRoot(TComponent* root) {
   FLoad->BeginLoading(FRoot);
   AtPlace(start, header, [&] {
     SetComponentName(FRoot, header.Name);
-    return FRoot;
+    CheckNothingLost();
+    FScope = FRoot;
+    FLoad->AddLoaded(FRoot, start);
+    if (root && header.Flags.testFlag(ffInherited)) {
+      if (root->HasState(csDesigning)) FLoad->MarkAncestor(root);
+      FLoad->BeginUpdating(root);
+      CheckNothingLost();
+    }
+    ReadState(FRoot);
   });
-  CheckNothingLost(start, header);
-  FScope = FRoot;
-  FLoad->AddLoaded(FRoot);
-  if (root && header.Flags.testFlag(ffInherited)) {
-    if (root->HasState(csDesigning)) FLoad->MarkAncestor(root);
-    FLoad->BeginUpdating(root);
-    CheckNothingLost(start, header);
-  }
-  ReadState(FRoot);
 }
 
 void TReader::DefineProperty(QStringView name, const TReaderProc& read, const TWriterProc&, bool) {

@@ -46,9 +46,10 @@ enum TUnknownPolicy {
 /// designer (csDesigning) what the instance holds is marked csAncestor then, and every inherited component is told
 /// Updating() before its properties are read and Updated() when all references are set, before Loaded().
 ///
-/// Every failure is one exception: EReadError with the object, the property and the place ("Error reading
-/// Button1.Color: Invalid property value at offset 85 (Form1.Button1.Color)"), EClassNotFound, EComponentError, or the
-/// exception of the binary format; each with its byte offset.
+/// Every failure is one exception that tells its place: EReadError with the object and the property ("Error reading
+/// Button1.Color: Invalid property value at offset 85 (Form1.Button1.Color)"), EClassNotFound, EComponentError, the
+/// exception of the binary format, or what a constructor, event or override has raised for the component as a whole,
+/// which keeps its class. EAbort and exceptions that are none of this package's pass as they are.
 class TReader : public TFiler {
  public:
   using TFindMethodEvent = std::function<TMethod(const QString& name)>;
@@ -77,6 +78,9 @@ class TReader : public TFiler {
   TSetNameEvent OnSetName;
   /// Asked for every property that cannot be read; true passes over it, false stops the load.
   TErrorEvent OnError;
+  /// Whether ReadRootComponent() refuses input that goes on behind the form with anything but zero bytes, and a form
+  /// that is larger than its resource header says. A reader of a stream may leave the rest to others.
+  bool RefusesRest = false;
 
   /// Reads one form. With `root` null the root is created, and the caller owns it; else its class need not match the
   /// stream.
@@ -118,6 +122,8 @@ class TReader : public TFiler {
   void ReadListEnd() { FInput.ReadListEnd(); }
   bool EndOfList() { return FInput.EndOfList(); }
   void SkipValue() { FInput.SkipValue(); }
+  /// How errors word their place; by byte offset and path unless set, see also PlacesInText().
+  void SetPlaceWording(TPlaceWording wording) { FWording = std::move(wording); }
   /// How 8-bit strings with bytes from 128 up are read: in the encoding of the form's author; Windows-1252 unless set.
   void SetEncoding(TEightBitEncoding encoding);
   void ReadCollectionBegin() { FInput.ReadCollectionBegin(); }
@@ -143,22 +149,26 @@ class TReader : public TFiler {
   /// Runs `read` as part of the load that is under way, or else as a load of its own for which `parse` checks the
   /// structure.
   void InLoad(const std::function<void()>& read, const TParseProc& parse);
+  void ReadAtPosition(const std::function<void()>& read);
   void ReadItems(TCollection& collection);
   void ReadNewItems(TCollection& collection);
   TFormObjectHeader ReadHeader();
   /// The bytes of the next value, its type code included.
   QByteArray TakeValue();
   void LoadRoot(TComponent* root);
+  void EndLoad();
 
   void ReadData(TComponent* instance);
   void ReadComponent(const std::function<void(TComponent*)>& done = {});
   /// Raises EReadError when an event, setter or override has freed an object that is being read.
   void CheckNothingLost() const;
-  void CheckNothingLost(qint64 offset, const TFormObjectHeader& header);
-  TComponent* AtPlace(qint64 offset, const TFormObjectHeader& header, const std::function<TComponent*()>& make);
+  void AtPlace(qint64 offset, const TFormObjectHeader& header, const std::function<void()>& read);
+  bool HasPlace(const Exception& error) const;
+  void AddPlace(Exception& error, qint64 offset, const QString& path);
+  QString WordInputError(const QString& what, qint64 offset, const QString& path);
   TComponent* MakeRoot(const TFormObjectHeader& header);
   TComponent* MakeChild(const TFormObjectHeader& header, TLoad::TUse& use);
-  QString PlaceOf(const TFormObjectHeader& header) const;
+  QString PlaceOf(const TFormObjectHeader& header, const TComponent* scope) const;
   /// The component of the ancestor form that an inherited one stands for; null for others, or when the policy is to
   /// keep.
   TComponent* FindInherited(const TFormObjectHeader& header);
@@ -168,6 +178,7 @@ class TReader : public TFiler {
   const TClassInfo* FindComponentClass(const QString& className);
   void SetComponentName(TComponent* component, QString name);
   void PlaceChild(TComponent* child, const TFormObjectHeader& header);
+  void OrderChild(TComponent* child, const TFormObjectHeader& header, bool isNew);
   void ReadState(TComponent* component);
 
   void ReadProperty(TPersistent* instance);
@@ -187,6 +198,7 @@ class TReader : public TFiler {
   void KeepProperty();
   void ReadPropValue(TPersistent* instance, const TPropInfo* property);
   void ReadOrdValue(TPersistent* instance, const TPropInfo* property);
+  void ReadCharValue(TPersistent* instance, const TPropInfo* property);
   void ReadSetValue(TPersistent* instance, const TPropInfo* property);
   void ReadClassValue(TPersistent* instance, const TPropInfo* property);
   void ReadMethodValue(TPersistent* instance, const TPropInfo* property);
@@ -198,6 +210,9 @@ class TReader : public TFiler {
   QByteArray FData;
   TBinaryReader FInput;
   TEightBitEncoding FEncoding = eeWindows1252;
+  TPlaceWording FWording;
+  /// The last message that got a place: around what it is about stands more that would add another.
+  QString FPlacedMessage;
   TComponent* FOwner = nullptr;
   TComponent* FParent = nullptr;
   /// The name, as DefineProperties() has to match it, of the property being read; empty once somebody has taken it.

@@ -6,7 +6,6 @@
 #include "kt/rtl/objects/Make.h"
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/streams/BinaryFormParser.h"
-#include "kt/rtl/streams/FormErrors.h"
 #include "kt/rtl/streams/Reader.h"
 #include "kt/rtl/streams/UnknownComponent.h"
 #include "kt/rtl/typeinfo/ClassInfo.h"
@@ -50,7 +49,8 @@ void TReader::ReadComponent(const std::function<void(TComponent*)>& done) {
   const TFormObjectHeader header = ReadHeader();
   FPlace = NameIn(header);
   TLoad::TUse use(*FLoad);
-  TComponent* component = AtPlace(start, header, [&] { return MakeChild(header, use); });
+  TComponent* component = nullptr;
+  AtPlace(start, header, [&] { component = MakeChild(header, use); });
   if (!component) {
     FInput.Seek(start);
     TIdleFormSink nowhere;
@@ -58,47 +58,40 @@ void TReader::ReadComponent(const std::function<void(TComponent*)>& done) {
     return;
   }
   const bool isNew = FScopeIsNew || FLoad->HasJustCreated(component);
-  const bool outerIsNew = std::exchange(FTargetIsNew, isNew);
-  PlaceChild(component, header);
-  CheckNothingLost(start, header);
-  ReadState(component);
-  FTargetIsNew = outerIsNew;
-  if (header.Flags.testFlag(ffChildPos) && FParent) {
-    if (!isNew) FLoad->UndoLog().RememberOrder(*FParent, FRoot);
-    FParent->SetChildOrder(component, header.ChildPos);
-  }
-  CheckNothingLost(start, header);
-  FLoad->AddLoaded(component);
-  if (done) done(component);
-  CheckNothingLost(start, header);
+  AtPlace(start, header, [&] {
+    const bool outerIsNew = std::exchange(FTargetIsNew, isNew);
+    PlaceChild(component, header);
+    CheckNothingLost();
+    ReadState(component);
+    FTargetIsNew = outerIsNew;
+    OrderChild(component, header, isNew);
+    FLoad->AddLoaded(component, start);
+    if (done) done(component);
+    CheckNothingLost();
+  });
 }
 
 void TReader::CheckNothingLost() const {
   if (FLoad->HasLostObject()) throw EReadError(SObjectFreed.toString());
 }
 
-void TReader::CheckNothingLost(qint64 offset, const TFormObjectHeader& header) {
-  if (FLoad->HasLostObject()) throw EReadError(AtOffset(SObjectFreed.toString(), offset, NameIn(header)));
-}
-
-/// Runs `make`; errors about the component as a whole get the place.
-TComponent* TReader::AtPlace(qint64 offset, const TFormObjectHeader& header, const std::function<TComponent*()>& make) {
+/// Runs `read`; an error about the component as a whole gets the place.
+void TReader::AtPlace(qint64 offset, const TFormObjectHeader& header, const std::function<void()>& read) {
+  // Reading changes it, and an error leaves it as it is then.
+  const TComponent* scope = FScope;
   try {
-    return make();
-  } catch (const EClassNotFound& error) {
-    throw EClassNotFound(AtOffset(error.Message(), offset, PlaceOf(header)));
-  } catch (const EComponentError& error) {
-    throw EComponentError(AtOffset(error.Message(), offset, PlaceOf(header)));
-  } catch (const EInvalidCast& error) {
-    throw EInvalidCast(AtOffset(error.Message(), offset, PlaceOf(header)));
-  } catch (const EReadError& error) {
-    throw EReadError(AtOffset(error.Message(), offset, PlaceOf(header)));
+    read();
+  } catch (const EAbort&) {
+    throw;
+  } catch (Exception& error) {
+    AddPlace(error, offset, PlaceOf(header, scope));
+    throw;
   }
 }
 
-QString TReader::PlaceOf(const TFormObjectHeader& header) const {
+QString TReader::PlaceOf(const TFormObjectHeader& header, const TComponent* scope) const {
   const QString name = NameIn(header);
-  return FLoad->HasLostObject() || !FScope || FScope->GetName().isEmpty() ? name : FScope->GetName() + u'.' + name;
+  return FLoad->HasLostObject() || !scope || scope->GetName().isEmpty() ? name : scope->GetName() + u'.' + name;
 }
 
 /// There is no form without its root: that one cannot be skipped.
@@ -196,6 +189,15 @@ void TReader::PlaceChild(TComponent* child, const TFormObjectHeader& header) {
   if (FParent && !AsUnknown(FParent)) {
     EnsureKeptData(FParent).Children.push_back({FChildIndex, unknown});
   }
+}
+
+/// Tells the parent of a component the place that the stream says.
+void TReader::OrderChild(TComponent* child, const TFormObjectHeader& header, bool isNew) {
+  if (header.Flags.testFlag(ffChildPos) && FParent) {
+    if (!isNew) FLoad->UndoLog().RememberOrder(*FParent, FRoot);
+    FParent->SetChildOrder(child, header.ChildPos);
+  }
+  CheckNothingLost();
 }
 
 }  // namespace kt

@@ -18,11 +18,6 @@
 namespace kt {
 namespace {
 
-/// An error that tells its place already.
-class EPlacedError : public EReadError {
-  using EReadError::EReadError;
-};
-
 /// Colours and the like are stored with or without their sign: 32 bits fit every 32-bit type.
 bool FitsType(const TOrdTypeInfo* type, qint64 value) {
   const bool isFullWidth = type->OrdType() == otSLong || type->OrdType() == otULong;
@@ -61,9 +56,13 @@ void TReader::HandlePropertyError(const TPropPath& place, const Exception& error
   const QString message = Format(SPropertyException, {object, dot, place.Path, error.Message()});
   if (isLost || !OnError || !OnError(message)) {
     // Around the property of an item stands that of its collection; the inner one has the place.
-    if (dynamic_cast<const EPlacedError*>(&error)) throw EPlacedError(message);
-    const QString where = isLost ? object : FullPathOf(place.Instance);
-    throw EPlacedError(AtOffset(message, place.Start, where + dot + place.Path));
+    if (HasPlace(error)) {
+      FPlacedMessage = message;
+      throw EReadError(message);
+    }
+    EReadError failure(message);
+    AddPlace(failure, place.Start, (isLost ? object : FullPathOf(place.Instance)) + dot + place.Path);
+    throw EReadError(failure.Message());
   }
   // The event itself may have freed it.
   if (FLoad->HasLostObject()) HandlePropertyError(place, EReadError(SObjectFreed.toString()));
@@ -158,7 +157,7 @@ void TReader::ReadPropValue(TPersistent* instance, const TPropInfo* property) {
 
 void TReader::ReadOrdValue(TPersistent* instance, const TPropInfo* property) {
   const TTypeInfo* type = property->PropType();
-  if (type->Kind() == tkChar || type->Kind() == tkWChar) return SetOrdProp(instance, property, ReadChar().unicode());
+  if (type->Kind() == tkChar || type->Kind() == tkWChar) return ReadCharValue(instance, property);
   const bool isIdent = FInput.NextValue() == vaIdent || type->Kind() == tkEnumeration;
   if (!isIdent) {
     const qint64 value = FInput.ReadInt64();
@@ -170,13 +169,23 @@ void TReader::ReadOrdValue(TPersistent* instance, const TPropInfo* property) {
   const QString ident = FInput.ReadIdent();
   if (type->Kind() == tkEnumeration) {
     const qint64 value = GetEnumValue(type, ident);
-    if (value < 0 && !IsBoolType(type)) throw EReadError(SInvalidPropertyValue.toString());
+    // The ordinal of True where False and True are as wide as an integer; such a type refuses unknown names itself.
+    const bool hasNegative = OrdTypeOf(type)->MinValue() < 0;
+    if (value < 0 && !hasNegative) throw EReadError(SInvalidPropertyValue.toString());
     return SetOrdProp(instance, property, value);
   }
   const auto consts = FindIntegerConsts(type);
   const std::optional<qint64> value = consts ? consts->IdentToInt(ident) : std::nullopt;
   if (!value) throw EReadError(SInvalidPropertyValue.toString());
   SetOrdProp(instance, property, *value);
+}
+
+/// An 8-bit property holds the characters up to U+00FF. One that a form's encoding puts beyond them is refused, rather
+/// than cut to another character.
+void TReader::ReadCharValue(TPersistent* instance, const TPropInfo* property) {
+  const qint64 value = ReadChar().unicode();
+  if (!FitsType(OrdTypeOf(property->PropType()), value)) throw EReadError(SInvalidPropertyValue.toString());
+  SetOrdProp(instance, property, value);
 }
 
 void TReader::ReadSetValue(TPersistent* instance, const TPropInfo* property) {

@@ -68,7 +68,7 @@ TTextLexer::TTextLexer(QByteArray utf8) : FBuffer(std::move(utf8)) {
 }
 
 void TTextLexer::FailAt(const QString& what, const char* at) const {
-  const TTextPosition position = FindTextPosition(FBuffer, at - FBuffer.constData());
+  const TTextPosition position = PositionOf(at - FBuffer.constData());
   throw EParserError(OnLine(what, position.Line, position.Column));
 }
 
@@ -200,7 +200,7 @@ void TTextLexer::AppendUtf8(const char* from, const char* to) {
   }
   if (seen < 0x80) return;
   FText.resize(at);
-  FText.append(QString::fromUtf8(bytes));
+  FText.append(TextOfUtf8(bytes));
 }
 
 void TTextLexer::LexString() {

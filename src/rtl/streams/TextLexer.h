@@ -1,5 +1,7 @@
 #pragma once
 
+#include "kt/rtl/streams/TextEncoding.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -32,6 +34,10 @@ class TTextLexer {
   QStringView Text() const { return FText; }
   /// True when a line end stands between this token and the one before.
   bool IsOnNewLine() const { return FOnNewLine; }
+
+  /// Where the token begins.
+  qsizetype Offset() const { return FStart - FBuffer.constData(); }
+  TTextPosition PositionOf(qsizetype offset) const { return FindTextPosition(FBuffer, offset); }
 
   /// After the symbol `{`: the bytes up to the closing brace, which is taken too. Good until the next call.
   const QByteArray& ReadHex();

@@ -59,6 +59,7 @@ bool TTextParser::IsObjectNext() const {
 }
 
 void TTextParser::BeginObject() {
+  FPlace = FLexer.Offset();
   TFormObject object;
   object.Flags.setFlag(ffInherited, FLexer.IsWord("inherited"));
   object.Flags.setFlag(ffInline, FLexer.IsWord("inline"));
@@ -144,6 +145,7 @@ void TTextParser::StepCollection() {
     return FSink.EndCollection();
   }
   if (!FLexer.IsWord("item")) Fail(SSymbolExpected, u"ITEM");
+  FPlace = FLexer.Offset();
   Push(fkItem);
   FLexer.Next();
   std::optional<int> index;
@@ -160,6 +162,7 @@ void TTextParser::StepItem() {
 
 void TTextParser::Property() {
   ExpectIdentifier();
+  FPlace = FLexer.Offset();
   FName.resize(0);
   FName.append(FLexer.Text());
   FLexer.Next();

@@ -32,6 +32,9 @@ class TTextParser {
   /// The root object and then the end of the text.
   void ParseForm();
 
+  /// Where the object, item or property begins that was the last to begin. For sinks that tell the user.
+  TTextPosition Place() const { return FLexer.PositionOf(FPlace); }
+
  private:
   enum TFrameKind : quint8 { fkProperties, fkChildren, fkList, fkCollection, fkItem };
 
@@ -66,6 +69,7 @@ class TTextParser {
   QString FName;
   QString FClassName;
   int FNestingLimit;
+  qsizetype FPlace = 0;
 };
 
 }  // namespace kt

@@ -25,6 +25,7 @@ QByteArray TWriter::Data() {
 void TWriter::WriteRootComponent(TComponent* root, TComponent* ancestor) {
   FRoot = root;
   FLookupRoot = root;
+  FAncestorOfRoot = ancestor;
   FRootAncestor = ancestor;
   FLookupAncestor = ancestor;
   FAncestor = ancestor;

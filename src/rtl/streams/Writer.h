@@ -19,7 +19,8 @@ class TPropInfo;
 class TTypeInfo;
 
 /// Writes components and their properties in the binary object format: what is stored and differs from the declared
-/// default, or, for the descendant of another form, what differs from that.
+/// default, or, for the descendant of another form, what differs from that. An event is written when its handler is a
+/// published method of the root, as readers look for handlers there; others are left out.
 ///
 /// Everything goes into memory first, so a failing getter or predicate leaves no half-written file. Raises EWriteError
 /// for what the format cannot hold, and passes on what getters raise.
@@ -112,6 +113,8 @@ class TWriter : public TFiler {
   QString FPropPath;
   /// The form or nested form that the names in references are relative to.
   TComponent* FLookupRoot = nullptr;
+  /// The counterpart of the root; handlers that are methods of the one are inherited as methods of the other.
+  TComponent* FAncestorOfRoot = nullptr;
   /// The form whose descendant is being written.
   TComponent* FRootAncestor = nullptr;
   /// The counterpart of FLookupRoot in that form.

@@ -27,14 +27,22 @@ bool IsReference(const TComponent* value, const TPersistent* instance, const TPr
   return property->IsWritable() && owner && owner != instance;
 }
 
-/// Equal as streams see it: by what would be written.
-bool CollectionsEqual(TCollection& a, TCollection& b) {
+/// Equal as streams see it: by what would be written in the form `root`, and in that of the ancestor.
+bool CollectionsEqual(TCollection& a, TComponent* root, TCollection& b, TComponent* ancestorRoot) {
   if (a.GetCount() != b.GetCount()) return false;
   TWriter first;
   TWriter second;
+  first.SetRoot(root);
+  second.SetRoot(ancestorRoot);
   first.WriteCollection(a);
   second.WriteCollection(b);
   return first.Data() == second.Data();
+}
+
+/// The name by which a reader of the form `root` finds a handler: that of a published method of the root itself. Empty
+/// for any other.
+QString HandlerName(const TMethod& method, const TComponent* root) {
+  return root && method.Instance() == root ? root->ClassType()->MethodName(method) : QString();
 }
 
 /// The property of that name which the ancestor has; null when there is none that can be read.
@@ -230,7 +238,7 @@ void TWriter::WriteCollectionProperty(const TPropInfo* property, TCollection* co
   WriteNested(property, collection);
   auto* inherited = dynamic_cast<TCollection*>(AncestorObject(property));
   // Without an ancestor an empty collection is written too, as the framework does.
-  if (inherited && CollectionsEqual(*collection, *inherited)) return;
+  if (inherited && CollectionsEqual(*collection, FRoot, *inherited, FAncestorOfRoot)) return;
   WritePropertyName(property->Name());
   WriteCollection(*collection);
 }
@@ -247,13 +255,15 @@ void TWriter::WriteInterfaceProperty(TPersistent* instance, const TPropInfo* pro
 }
 
 void TWriter::WriteMethodProperty(TPersistent* instance, const TPropInfo* property) {
+  const TPropInfo* inheritedProp = ReadableProp(FAncestor, property, tkMethods);
+  const TMethod inherited = inheritedProp ? GetMethodProp(FAncestor, inheritedProp) : TMethod();
   const TMethod method = GetMethodProp(instance, property);
-  const QString name = method.Instance() ? method.Instance()->ClassType()->MethodName(method) : QString();
-  if (name.isEmpty()) return;
-  if (const TPropInfo* inheritedProp = ReadableProp(FAncestor, property, tkMethods)) {
-    const TMethod inherited = GetMethodProp(FAncestor, inheritedProp);
-    if (inherited.Instance() && inherited.Instance()->ClassType()->MethodName(inherited) == name) return;
+  if (method.IsEmpty() && !inherited.IsEmpty()) {
+    WritePropertyName(property->Name());
+    return FOutput.WriteConstant(fcNil);
   }
+  const QString name = HandlerName(method, FRoot);
+  if (name.isEmpty() || name == HandlerName(inherited, FAncestorOfRoot)) return;
   WritePropertyName(property->Name());
   FOutput.WriteIdent(name);
 }

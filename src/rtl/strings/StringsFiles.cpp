@@ -2,6 +2,7 @@
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/streams/FileSaving.h"
+#include "kt/rtl/streams/ReadAll.h"
 #include "kt/rtl/strings/Strings.h"
 #include "kt/rtl/strings/TextEncoding.h"
 
@@ -11,19 +12,6 @@
 namespace kt {
 
 namespace {
-
-QByteArray ReadToEnd(QIODevice& stream) {
-  constexpr qint64 ChunkSize = 64 * 1024;
-  QByteArray bytes;
-  for (;;) {
-    const qsizetype size = bytes.size();
-    bytes.resize(size + ChunkSize);
-    const qint64 count = stream.read(bytes.data() + size, ChunkSize);
-    if (count < 0) throw EReadError(SReadError.toString());
-    bytes.resize(size + count);
-    if (count == 0) return bytes;
-  }
-}
 
 template <class E>
 [[noreturn]] void RaiseFileError(QLatin1StringView message, const QFileDevice& file) {
@@ -38,7 +26,7 @@ void TStrings::LoadFromFile(const QString& fileName) {
   LoadFromStream(file);
 }
 
-void TStrings::LoadFromStream(QIODevice& stream) { SetTextStr(DecodeText(ReadToEnd(stream))); }
+void TStrings::LoadFromStream(QIODevice& stream) { SetTextStr(DecodeText(ReadAll(stream))); }
 
 void TStrings::SaveToFile(const QString& fileName) { SaveBytesToFile(fileName, EncodeText(GetTextStr())); }
 

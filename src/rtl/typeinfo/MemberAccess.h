@@ -4,6 +4,7 @@
 #include "kt/rtl/typeinfo/PropAccess.h"
 #include "kt/rtl/typeinfo/TypeOf.h"
 
+#include <cmath>
 #include <concepts>
 #include <functional>
 #include <type_traits>
@@ -89,6 +90,15 @@ const TMethod& Checked(const TMethod& method) {
 }
 [[noreturn]] void RaiseCannotAssignNil(const TClassInfo* target);
 [[noreturn]] void RaiseInvalidCast();
+[[noreturn]] void RaiseRangeError();
+/// The nearest number of a type that may be narrower; raises ERangeError when that would be an infinity made of a
+/// finite value. Infinities and NaN stay what they are.
+template <std::floating_point V>
+V NarrowedFloat(long double value) {
+  const auto narrowed = static_cast<V>(value);
+  if (std::isinf(narrowed) && !std::isinf(value)) RaiseRangeError();
+  return narrowed;
+}
 /// An amount on the road of floating-point numbers, and back: the nearest amount, halves to even. Raises ERangeError
 /// for values that do not fit and for NaN.
 long double FloatOfAmount(Currency amount);
@@ -153,6 +163,8 @@ class TMemberAccess final
       Assign(object, target);
     } else if constexpr (std::same_as<TValue, Currency>) {
       Assign(object, MemberAccess::AmountOfFloat(value));
+    } else if constexpr (std::floating_point<TValue>) {
+      Assign(object, MemberAccess::NarrowedFloat<TValue>(value));
     } else {
       Assign(object, static_cast<TValue>(value));
     }

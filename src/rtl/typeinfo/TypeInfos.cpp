@@ -89,6 +89,16 @@ const TTypeInfo* ShortText() {
   return &info;
 }
 
+const TTypeInfo* FileName() {
+  static const TTypeInfo info(tkLString, QStringLiteral("TFileName"));
+  return &info;
+}
+
+const TTypeInfo* ComponentName() {
+  static const TTypeInfo info(tkLString, QStringLiteral("TComponentName"));
+  return &info;
+}
+
 const TTypeInfo* VariantType() {
   static const TTypeInfo info(tkVariant, QStringLiteral("Variant"));
   return &info;

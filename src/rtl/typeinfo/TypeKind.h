@@ -27,6 +27,18 @@ enum TTypeKind {
 };
 using TTypeKinds = TSet<TTypeKind>;
 
+template <class E>
+struct TEnumNames;
+template <>
+struct TEnumNames<TTypeKind> {
+  static constexpr char Name[] = "TTypeKind";
+  static constexpr const char* Values[] = {"tkUnknown",   "tkInteger", "tkChar",    "tkEnumeration", "tkFloat",
+                                           "tkString",    "tkSet",     "tkClass",   "tkMethod",      "tkWChar",
+                                           "tkLString",   "tkWString", "tkVariant", "tkArray",       "tkRecord",
+                                           "tkInterface", "tkInt64",   "tkDynArray"};
+  static constexpr char SetName[] = "TTypeKinds";
+};
+
 /// Every kind.
 inline constexpr TTypeKinds tkAny = TTypeKinds::Range(tkUnknown, tkDynArray);
 inline constexpr TTypeKinds tkMethods = {tkMethod};

@@ -53,6 +53,9 @@ const TTypeInfo* Floating(TFloatType storage);
 const TTypeInfo* LongString();
 const TTypeInfo* WideText();
 const TTypeInfo* ShortText();
+/// Texts with types of their own, so that editors tell them from any other.
+const TTypeInfo* FileName();
+const TTypeInfo* ComponentName();
 const TTypeInfo* VariantType();
 const TTypeInfo* DateTime();
 const TTypeInfo* Date();

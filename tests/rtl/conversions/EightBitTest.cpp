@@ -96,6 +96,13 @@ TEST(EightBitTest, Utf8MustBeValid) {
   EXPECT_EQ("invalid", Decoded("\xE9", eeUtf8));
 }
 
+TEST(EightBitTest, AByteOrderMarkInsideTextIsACharacter) {
+  EXPECT_EQ(QStringLiteral("\ufeffa"), Decoded("\xEF\xBB\xBF"
+                                               "a",
+                                               eeUtf8));
+  EXPECT_EQ(QStringLiteral("\ufeff\u00e9"), TextOfUtf8("\xEF\xBB\xBF\xC3\xA9"));
+}
+
 TEST(EightBitTest, ANameIsUtf8WhenItCanBe) {
   EXPECT_EQ(QStringLiteral("\u00e9"), DecodedName("\xC3\xA9", eeWindows1252));
   EXPECT_EQ(QStringLiteral("\u00e9\u20ac"), DecodedName("\xE9\x80", eeWindows1252));

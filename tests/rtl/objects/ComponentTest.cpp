@@ -244,11 +244,10 @@ TEST(ComponentTest, AWatcherMayFreeItsSiblingInsideTheNotification) {
   auto* watcher = New<TWatcher>(owner.get());
   auto watched = Make<TComponent>();
   watched->FreeNotification(watcher);
-  watcher->OnNotification = [&](TComponent* component, TOperation) {
-    if (component == watched.get()) delete std::exchange(sibling, nullptr);
+  watcher->OnNotification = [&sibling, dying = watched.get()](TComponent* component, TOperation) {
+    if (component == dying) delete std::exchange(sibling, nullptr);
   };
-  delete watched.get();
-  (void)watched.release();
+  watched.reset();
   EXPECT_EQ(1, owner->GetComponentCount());
 }
 

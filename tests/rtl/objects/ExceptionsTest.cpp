@@ -10,6 +10,13 @@ TEST(ExceptionsTest, WhatIsTheMessageInUtf8) {
   EXPECT_STREQ("\xc3\xa9 is no number", error.what());
 }
 
+TEST(ExceptionsTest, WhatFollowsAChangeOfTheMessage) {
+  EConvertError error(QStringLiteral("no number"));
+  EXPECT_STREQ("no number", error.what());
+  error.SetMessage(QStringLiteral("line 3: no number"));
+  EXPECT_STREQ("line 3: no number", error.what());
+}
+
 TEST(ExceptionsTest, ADescendantIsCaughtAsItsAncestor) {
   try {
     throw EClassNotFound(QStringLiteral("Class TFoo not found"));

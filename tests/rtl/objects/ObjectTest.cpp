@@ -154,6 +154,16 @@ TEST_F(ObjectTest, AnObjectThatIsFreedWhileItIsBeingDestroyedIsDestroyedOnce) {
   EXPECT_EQ("before destruct gone ", FLog);
 }
 
+class TStillborn : public TImpatient {
+ protected:
+  void Construct() override { throw EInvalidOperation(QStringLiteral("no")); }
+};
+
+TEST_F(ObjectTest, AnObjectThatIsFreedWhileItsFailedConstructionIsUndoneIsDestroyedOnce) {
+  EXPECT_THROW(static_cast<void>(Make<TStillborn>()), EInvalidOperation);
+  EXPECT_EQ("destruct gone ", FLog);
+}
+
 TEST_F(ObjectTest, AnExceptionWhileDestroyingIsReportedAndTheDestructionGoesOn) {
   QString reported;
   const TExceptionHandler previous = SetExceptionHandler([&reported](std::exception_ptr error) {

@@ -4,12 +4,12 @@
 namespace kt {
 namespace {
 
-using namespace kt::testing;
+using namespace kt::tests;
 
 QByteArray Hex(const char* text) { return QByteArray::fromHex(text); }
 
 /// The events of one value, its bytes in hexadecimal with the type byte first.
-QString BinaryValue(const char* hex) { return ValuePart(Events(BinaryWith(Hex(hex)))); }
+QString BinaryValue(const char* hex) { return ValuePart(EventsOf(BinaryWith(Hex(hex)))); }
 
 struct TCase {
   const char* Name;
@@ -88,11 +88,11 @@ TEST(BinaryFormParserTest, ReadsChildrenWithTheirFlags) {
       "object A: TA | inherited B: TB | end object | inherited : TC [5] | end object | object inline D: TD | end "
       "object | "
       "end object",
-      Events(form));
+      EventsOf(form));
 }
 
 TEST(BinaryFormParserTest, AnInheritedFrameCountsAsInherited) {
-  EXPECT_EQ("inherited A: TA | end object", Events(Hex("54504630 f5 02 54 41 01 41 00 00")));
+  EXPECT_EQ("inherited A: TA | end object", EventsOf(Hex("54504630 f5 02 54 41 01 41 00 00")));
 }
 
 TEST(BinaryFormParserTest, AnEmptyFileIsAReadError) {

@@ -6,7 +6,7 @@
 namespace kt {
 namespace {
 
-using namespace kt::testing;
+using namespace kt::tests;
 
 TBinaryReader ReaderOf(const char* hex) { return TBinaryReader(QByteArray::fromHex(hex)); }
 
@@ -138,7 +138,7 @@ TEST(BinaryReaderTest, ADeviceInDripsReadsLikeMemory) {
   TBinaryReader reader(device);
   TFormEventLog log;
   TBinaryFormParser(reader, log).ParseForm();
-  EXPECT_EQ(Events(form), OneLine(log.Text()));
+  EXPECT_EQ(EventsOf(form), OneLine(log.Text()));
 }
 
 TEST(BinaryReaderTest, ADeviceStandsBehindTheFormAfterwards) {

@@ -6,7 +6,7 @@
 namespace kt {
 namespace {
 
-using namespace kt::testing;
+using namespace kt::tests;
 
 template <typename TWrite>
 QByteArray Written(TWrite write) {

@@ -55,8 +55,74 @@ TEST_P(FileLoadingTest, WhatIsWrongInAFileIsToldWithItsName) {
 
 TEST_F(FileLoadingTest, AnUnknownClassKeepsItsKindOfException) {
   SaveBytesToFile(Path(), "object A: TNoSuch\nend\n");
-  EXPECT_EQ(Path() + QStringLiteral(": Class TNoSuch not found at offset 4 (A)"),
+  EXPECT_EQ(Path() + QStringLiteral(": Class TNoSuch not found on line 1, column 1 (A)"),
             MessageOf<EClassNotFound>([&] { LoadComponentFromFile(Path()); }));
+}
+
+TEST_F(FileLoadingTest, AnUnknownPropertyInATextTellsTheLine) {
+  SaveBytesToFile(
+      Path(),
+      "object A: TSample\r\n  Whole = 5\r\n  object B: TSample\r\n    Nothing =\r\n      1\r\n  end\r\nend\r\n");
+  EXPECT_EQ(
+      Path() + QStringLiteral(
+                   ": Error reading B.Nothing: Property Nothing does not exist on line 4, column 5 (A.B.Nothing)"),
+      MessageOf<EReadError>([&] { LoadComponentFromFile(Path()); }));
+}
+
+TEST_F(FileLoadingTest, AValueInATextThatDoesNotFitTellsTheLine) {
+  SaveBytesToFile(Path(), "object A: TSample\n  Whole = 'five'\nend\n");
+  EXPECT_EQ(Path() + QStringLiteral(": Error reading A.Whole: Invalid property value on line 2, column 3 (A.Whole)"),
+            MessageOf<EReadError>([&] { LoadComponentFromFile(Path()); }));
+  SaveBytesToFile(Path(),
+                  "object A: TSample\n  Items = <\n    item\n    end\n    item\n      Caption = 1\n    end>\nend\n");
+  const QString message = MessageOf<EReadError>([&] { LoadComponentFromFile(Path()); });
+  EXPECT_TRUE(message.endsWith(QStringLiteral(" on line 6, column 7 (A.Items[1].Caption)"))) << message.toStdString();
+}
+
+TEST_F(FileLoadingTest, AReferenceInATextThatCannotBeSetTellsTheLine) {
+  RegisterClass(TComponent::Class());
+  SaveBytesToFile(Path(), "object A: TSample\n  Sibling = B\n  object B: TComponent\n  end\nend\n");
+  EXPECT_EQ(
+      Path() + QStringLiteral(": Error reading A.Sibling: Invalid class typecast on line 2, column 3 (A.Sibling)"),
+      MessageOf<EReadError>([&] { LoadComponentFromFile(Path()); }));
+  UnRegisterClass(TComponent::Class());
+}
+
+QByteArray SampleInBinary() { return tests::BinaryOf("object A: TSample\n  Whole = 5\nend\n"); }
+
+TEST_F(FileLoadingTest, DataBehindTheFormRaises) {
+  const QByteArray form = SampleInBinary();
+  SaveBytesToFile(Path(), form + "\1");
+  EXPECT_EQ(Path() + QStringLiteral(": Unexpected data after the end of the form at offset %1").arg(form.size()),
+            MessageOf<EInvalidImage>([&] { LoadComponentFromFile(Path()); }));
+  SaveBytesToFile(Path(), WithResourceHeader(form) + form);
+  EXPECT_THROW(LoadComponentFromFile(Path()), EInvalidImage);
+  EXPECT_EQ(0, TSample::Alive);
+}
+
+TEST_F(FileLoadingTest, ZeroBytesBehindTheFormArePadding) {
+  SaveBytesToFile(Path(), SampleInBinary() + QByteArray(3, '\0'));
+  EXPECT_NE(nullptr, LoadComponentFromFile(Path()));
+}
+
+TEST_F(FileLoadingTest, AFormBeyondItsResourceRaises) {
+  const QByteArray form = SampleInBinary();
+  QByteArray resource = WithResourceHeader(form);
+  char& size = resource.data()[resource.size() - form.size() - 4];
+  ASSERT_EQ(form.size(), size);
+  --size;
+  SaveBytesToFile(Path(), resource);
+  EXPECT_EQ(Path() + QStringLiteral(": Invalid stream format at offset %1").arg(resource.size()),
+            MessageOf<EInvalidImage>([&] { LoadComponentFromFile(Path()); }));
+  size = char(form.size() + 1);
+  SaveBytesToFile(Path(), resource);
+  EXPECT_THROW(LoadComponentFromFile(Path()), EReadError);
+  EXPECT_EQ(0, TSample::Alive);
+}
+
+TEST_F(FileLoadingTest, AReaderLeavesWhatIsBehindTheFormToOthers) {
+  TReader reader(SampleInBinary() + "more");
+  EXPECT_EQ(5, reader.ReadRoot<TSample>()->Whole);
 }
 
 TEST_F(FileLoadingTest, AnErrorInATextTellsTheLine) {
@@ -80,11 +146,12 @@ constexpr char kUnknown[] =
 
 TEST_F(FileLoadingTest, UnknownThingsStopTheLoadUnlessAskedFor) {
   SaveBytesToFile(Path(), kUnknown);
-  EXPECT_TRUE(MessageOf<EReadError>([&] {
-                LoadComponentFromFile(Path());
-              }).startsWith(Path() + QStringLiteral(": Error reading A.Nothing: Property Nothing does not exist at ")));
+  EXPECT_EQ(Path() + QStringLiteral(
+                         ": Error reading A.Nothing: Property Nothing does not exist on line 4, column 3 (A.Nothing)"),
+            MessageOf<EReadError>([&] { LoadComponentFromFile(Path()); }));
   const auto passesProperties = [&] { LoadComponentFromFile(Path(), {.UnknownProperties = upSkip}); };
-  EXPECT_TRUE(MessageOf<EClassNotFound>(passesProperties).contains(QStringLiteral(": Class TNoSuch not found at ")));
+  EXPECT_EQ(Path() + QStringLiteral(": Class TNoSuch not found on line 6, column 3 (A.B)"),
+            MessageOf<EClassNotFound>(passesProperties));
 }
 
 TEST_F(FileLoadingTest, UnknownThingsCanBePassedOverOrKept) {

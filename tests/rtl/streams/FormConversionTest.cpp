@@ -7,7 +7,7 @@
 namespace kt {
 namespace {
 
-using namespace kt::testing;
+using namespace kt::tests;
 
 constexpr char kText[] = "object A: TA\n  X = 'x'\nend\n";
 
@@ -39,7 +39,8 @@ QStringList FilesWithOtherValues(const QStringList& names) {
   for (const QString& name : names) {
     const QByteArray text = FileContent(name);
     const QByteArray binary = ToBinary(text);
-    if (Events(text) != Events(binary) || Events(text) != Events(ToText(binary))) changed += name.section(u'/', -1);
+    if (EventsOf(text) != EventsOf(binary) || EventsOf(text) != EventsOf(ToText(binary)))
+      changed += name.section(u'/', -1);
   }
   return changed;
 }
@@ -64,7 +65,7 @@ TEST(FormConversionTest, AResourceBecomesText) {
   EXPECT_EQ(kText, text);
 }
 
-TEST(FormConversionTest, AResourceHasTheEventsOfItsForm) { EXPECT_EQ(Events(kText), Events(Resource())); }
+TEST(FormConversionTest, AResourceHasTheEventsOfItsForm) { EXPECT_EQ(EventsOf(kText), EventsOf(Resource())); }
 
 TEST(FormConversionTest, APaddedResourceBecomesText) {
   QByteArray text;
@@ -182,7 +183,7 @@ TEST(FormConversionTest, EveryConstructSurvivesByteForByte) {
 }
 
 TEST(FormConversionTest, ANullInAListIsNotTheEndOfTheList) {
-  EXPECT_EQ("list | constant Null | integer 1 | end list", ValuePart(Events(ToBinary(FormWith("(Null 1)")))));
+  EXPECT_EQ("list | constant Null | integer 1 | end list", ValuePart(EventsOf(ToBinary(FormWith("(Null 1)")))));
 }
 
 TEST(FormConversionTest, AVeryLongStringSurvives) {

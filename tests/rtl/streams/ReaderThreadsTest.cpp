@@ -16,7 +16,7 @@ using tests::InThreads;
 using tests::SampleColorTypeInfo;
 using tests::TSample;
 
-constexpr char kForm[] = R"(object Form1: TSample
+constexpr char kThreadForm[] = R"(object Form1: TSample
   Whole = 7
   Color = 255
   Partner = Other1
@@ -47,7 +47,7 @@ TEST(ReaderThreadsTest, SeveralThreadsLoadAndSaveFormsOfTheirOwn) {
   constexpr int threads = 4, turns = 40;
   RegisterClass(TSample::Class());
   QByteArray binary;
-  ObjectTextToBinary(kForm, binary);
+  ObjectTextToBinary(kThreadForm, binary);
   const QByteArray expected = LoadedAndSaved(binary);
   std::atomic<int> good = 0;
   InThreads(threads, [&](int) {

@@ -7,6 +7,7 @@
 #include "support/Samples.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace kt {
 namespace {
@@ -54,6 +55,50 @@ TEST_F(ReaderValuesTest, ItemsAreNoValueOfAReference) {
 TEST_F(ReaderValuesTest, ACharacterIsNeitherTwoNorNone) {
   EXPECT_EQ(QStringLiteral("Error reading S.Letter: Invalid property value"), ErrorOf("Letter = 'ab'"));
   EXPECT_EQ(QStringLiteral("Error reading S.WideLetter: Invalid property value"), ErrorOf("WideLetter = ''"));
+}
+
+TEST_F(ReaderValuesTest, AnUnknownTruthValueRaises) {
+  EXPECT_EQ(QStringLiteral("Error reading S.Flag: Invalid property value"), ErrorOf("Flag = Maybe"));
+  EXPECT_EQ(QStringLiteral("Error reading S.Flag: Invalid property value"), ErrorOf("Flag = nil"));
+  EXPECT_EQ(QStringLiteral("Error reading S.Flag: Invalid property value"), ErrorOf("Flag = Null"));
+  EXPECT_EQ(QStringLiteral("Error reading S.Wide: 'Maybe' is not a valid integer value"), ErrorOf("Wide = Maybe"));
+  EXPECT_EQ(QStringLiteral("Error reading S.Wide: 'nil' is not a valid integer value"), ErrorOf("Wide = nil"));
+  EXPECT_EQ(QStringLiteral("Error reading S.Wide: 'Null' is not a valid integer value"), ErrorOf("Wide = Null"));
+}
+
+TEST_F(ReaderValuesTest, TrueIsAValueOfEveryBoolean) {
+  const auto sample = Load(SampleWith("Flag = True\n  Wide = true"));
+  EXPECT_TRUE(static_cast<TSample*>(sample.get())->Flag);
+  EXPECT_TRUE(static_cast<TSample*>(sample.get())->Wide);
+}
+
+TEST_F(ReaderValuesTest, ACharacterBeyondItsTypeRaises) {
+  EXPECT_EQ(QStringLiteral("Error reading S.Letter: Invalid property value"), ErrorOf("Letter = #8364"));
+  EXPECT_EQ(QStringLiteral("Error reading S.Letter: Invalid property value"), ErrorOf("Letter = #256"));
+  const auto sample = Load(SampleWith("Letter = #255\n  WideLetter = #8364"));
+  EXPECT_EQ('\xFF', static_cast<TSample*>(sample.get())->Letter);
+  EXPECT_EQ(QChar(u'\u20AC'), static_cast<TSample*>(sample.get())->WideLetter);
+}
+
+char LetterOfStoredByte(char byte, TEightBitEncoding encoding) {
+  TReader reader(QByteArray("TPF0\7TSample\1S\6Letter\6\1", 23) + byte + QByteArray(2, '\0'));
+  reader.SetEncoding(encoding);
+  return reader.ReadRoot<TSample>()->Letter;
+}
+
+TEST_F(ReaderValuesTest, AStoredByteIsTheCharacterThatTheEncodingSays) {
+  EXPECT_EQ('\xE9', LetterOfStoredByte('\xE9', eeWindows1252));
+  EXPECT_EQ('\x80', LetterOfStoredByte('\x80', eeLatin1));
+  // The euro sign, and a Cyrillic letter.
+  EXPECT_THROW(LetterOfStoredByte('\x80', eeWindows1252), EReadError);
+  EXPECT_THROW(LetterOfStoredByte('\xE9', eeWindows1251), EReadError);
+}
+
+TEST_F(ReaderValuesTest, ANumberBeyondSingleRaises) {
+  EXPECT_EQ(QStringLiteral("Error reading S.Narrow: Range check error"), ErrorOf("Narrow = 1E39"));
+  EXPECT_EQ(QStringLiteral("Error reading S.Narrow: Range check error"), ErrorOf("Narrow = -1E39"));
+  const auto sample = Load(SampleWith("Narrow = 3.4028235E38"));
+  EXPECT_EQ(std::numeric_limits<float>::max(), static_cast<TSample*>(sample.get())->Narrow);
 }
 
 TEST_F(ReaderValuesTest, AClassThatIsNoComponentIsAnErrorWithItsPlace) {

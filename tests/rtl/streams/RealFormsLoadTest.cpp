@@ -18,7 +18,7 @@ QByteArray Contents(const QString& fileName) {
   return file.readAll();
 }
 
-QByteArray LoadedAndSaved(const QByteArray& binary) {
+QByteArray WithPropertiesKept(const QByteArray& binary) {
   TReader reader(binary);
   reader.UnknownClasses = upKeep;
   reader.UnknownProperties = upKeep;
@@ -33,7 +33,7 @@ TEST(RealFormsLoadTest, EveryFormComesBackAsItWas) {
     SCOPED_TRACE(name.toStdString());
     QByteArray binary;
     ObjectTextToBinary(Contents(folder.filePath(name)), binary);
-    EXPECT_EQ(binary, LoadedAndSaved(binary));
+    EXPECT_EQ(binary, WithPropertiesKept(binary));
   }
 }
 

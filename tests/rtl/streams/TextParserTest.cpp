@@ -6,7 +6,7 @@
 namespace kt {
 namespace {
 
-using namespace kt::testing;
+using namespace kt::tests;
 
 struct TCase {
   const char* Name;
@@ -46,6 +46,8 @@ INSTANTIATE_TEST_SUITE_P(Strings, TextParserValueTest,
                                            TCase{"PlusOnTheNextLine", "'a'\n + 'b'", "string 2 ab"},
                                            TCase{"PlusBeforeACode", "'a' + #98", "string 2 ab"},
                                            TCase{"RawUtf8", "'\xC3\xA9'", QStringLiteral("string 1 \u00e9")},
+                                           TCase{"RawUtf8AfterACode", "#18'\xEF\xBB\xBF' + '\xEF\xBB\xBF'",
+                                                 QStringLiteral("string 3 \x12\ufeff\ufeff")},
                                            TCase{"CodeBeyondLatin", "#8364", QStringLiteral("string 1 \u20ac")},
                                            TCase{"CodeBeyond16Bits", "#128512", QStringLiteral("string 2 \U0001F600")}),
                          CaseName);
@@ -191,29 +193,29 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(TextParserTest, ReadsHeadersOfEveryKind) {
   EXPECT_EQ("inherited A: TA [2] | object inline B: TB | end object | object : TC | end object | end object",
-            Events("INHERITED A : TA [2]\ninline B:TB end Object TC\nend END"));
+            EventsOf("INHERITED A : TA [2]\ninline B:TB end Object TC\nend END"));
 }
 
 TEST(TextParserTest, AColonWithNothingBehindItMeansNoClass) {
-  EXPECT_EQ("object A:  | property Left | integer 1 | end object", Events("object A:\n  Left = 1\nend"));
+  EXPECT_EQ("object A:  | property Left | integer 1 | end object", EventsOf("object A:\n  Left = 1\nend"));
 }
 
-TEST(TextParserTest, AnObjectMayLackBothNames) { EXPECT_EQ("object :  | end object", Events("object :\nend")); }
+TEST(TextParserTest, AnObjectMayLackBothNames) { EXPECT_EQ("object :  | end object", EventsOf("object :\nend")); }
 
 TEST(TextParserTest, AnObjectWithoutAClassMayHaveAPosition) {
-  EXPECT_EQ("object A:  [1] | end object", Events("object A: [1]\nend"));
+  EXPECT_EQ("object A:  [1] | end object", EventsOf("object A: [1]\nend"));
 }
 
 TEST(TextParserTest, PropertyPathsMayHaveBlanksAroundTheirDots) {
   EXPECT_EQ("object A: TA | property Font.Style.X | integer 1 | end object",
-            Events("object A: TA Font . Style.X = 1 end"));
+            EventsOf("object A: TA Font . Style.X = 1 end"));
 }
 
 TEST(TextParserTest, EveryKindOfLineEndReadsTheSame) {
   const QByteArray text = "object A: TA\n  X = 'a' +\n    'b'\nend";
-  const QString expected = Events(text);
-  EXPECT_EQ(expected, Events(QByteArray(text).replace("\n", "\r\n")));
-  EXPECT_EQ(expected, Events(QByteArray(text).replace("\n", "\r")));
+  const QString expected = EventsOf(text);
+  EXPECT_EQ(expected, EventsOf(QByteArray(text).replace("\n", "\r\n")));
+  EXPECT_EQ(expected, EventsOf(QByteArray(text).replace("\n", "\r")));
 }
 
 TEST(TextParserTest, TextThatIsNoUtf8IsReadInTheOldEncoding) {
@@ -223,7 +225,7 @@ TEST(TextParserTest, TextThatIsNoUtf8IsReadInTheOldEncoding) {
 TEST(TextParserTest, TheOldEncodingCanBeLatin1) {
   TFormOptions options;
   options.Encoding = eeLatin1;
-  EXPECT_EQ(QStringLiteral("string 1 \u0080"), ValuePart(Events(FormWith("'\x80'"), options)));
+  EXPECT_EQ(QStringLiteral("string 1 \u0080"), ValuePart(EventsOf(FormWith("'\x80'"), options)));
 }
 
 TEST(TextParserTest, TheOldEncodingCanBeForbidden) {
@@ -231,20 +233,20 @@ TEST(TextParserTest, TheOldEncodingCanBeForbidden) {
 }
 
 TEST(TextParserTest, AUtf8MarkIsNoPartOfTheText) {
-  EXPECT_EQ("object A: TA | end object", Events("\xEF\xBB\xBFobject A: TA end"));
+  EXPECT_EQ("object A: TA | end object", EventsOf("\xEF\xBB\xBFobject A: TA end"));
 }
 
 TEST(TextParserTest, Utf16IsReadInBothOrders) {
   const QByteArray little("\xFF\xFEo\0b\0j\0e\0c\0t\0 \0\xE9\0 \0e\0n\0d\0", 26);
   const QByteArray big("\xFE\xFF\0o\0b\0j\0e\0c\0t\0 \0\xE9\0 \0e\0n\0d", 26);
-  EXPECT_EQ(QStringLiteral("object : \u00e9 | end object"), Events(little));
-  EXPECT_EQ(QStringLiteral("object : \u00e9 | end object"), Events(big));
+  EXPECT_EQ(QStringLiteral("object : \u00e9 | end object"), EventsOf(little));
+  EXPECT_EQ(QStringLiteral("object : \u00e9 | end object"), EventsOf(big));
 }
 
 TEST(TextParserTest, Utf16MayHavePairs) {
   QStringEncoder encoder(QStringConverter::Utf16LE, QStringConverter::Flag::WriteBom);
   const QByteArray form = encoder.encode(QString::fromUtf8(FormWith("'\xF0\x9F\x98\x80'")));
-  EXPECT_EQ(QStringLiteral("string 2 \U0001F600"), ValuePart(Events(form)));
+  EXPECT_EQ(QStringLiteral("string 2 \U0001F600"), ValuePart(EventsOf(form)));
 }
 
 TEST(TextParserTest, NamesMayHaveLettersOfEveryLength) {

@@ -4,7 +4,7 @@
 namespace kt {
 namespace {
 
-using namespace kt::testing;
+using namespace kt::tests;
 
 /// The text of a form whose only property has the value that `feed` sends.
 template <typename TFeed>
@@ -195,7 +195,7 @@ TEST(TextWriterTest, TextBelow60LevelsParsesToTheSameEvents) {
     sink.Integer(7);
     for (int i = 0; i < 100; ++i) sink.EndList();
   });
-  EXPECT_EQ(Events(FormWith(QByteArray(100, '(') + '7' + QByteArray(100, ')'))), Events(text));
+  EXPECT_EQ(EventsOf(FormWith(QByteArray(100, '(') + '7' + QByteArray(100, ')'))), EventsOf(text));
 }
 
 }  // namespace

@@ -205,6 +205,38 @@ TEST_F(WriterTest, AnInheritedInterfaceThatIsNilNowIsWritten) {
   EXPECT_NE(std::string::npos, DescendantText(descendant.get(), ancestor.get()).find("Reference = nil"));
 }
 
+TEST_F(WriterTest, AHandlerOfTheRootIsWrittenForItsChildren) {
+  const auto form = Make<TSample>();
+  New<TSample>(form.get())->OnAction = TNotifyEvent(form.get(), &TSample::HandleAction);
+  EXPECT_NE(std::string::npos, TextOf(form.get()).find("    OnAction = HandleAction\n"));
+}
+
+TEST_F(WriterTest, AHandlerOfAnotherObjectIsLeftOut) {
+  const auto form = Make<TSample>();
+  auto* child = New<TSample>(form.get());
+  form->OnAction = TNotifyEvent(child, &TSample::HandleAction);
+  child->OnAction = TNotifyEvent(child, &TSample::HandleAction);
+  EXPECT_EQ(std::string::npos, TextOf(form.get()).find("OnAction"));
+}
+
+TEST_F(WriterTest, ADescendantsHandlerOfAnotherObjectIsNoInheritedOne) {
+  const auto ancestor = Make<TSample>();
+  const auto descendant = Make<TSample>();
+  const auto other = Make<TSample>();
+  ancestor->OnAction = TNotifyEvent(other.get(), &TSample::HandleAction);
+  descendant->OnAction = TNotifyEvent(descendant.get(), &TSample::HandleAction);
+  EXPECT_EQ("inherited TSample\n  OnAction = HandleAction\nend\n", DescendantText(descendant.get(), ancestor.get()));
+  ancestor->OnAction = TNotifyEvent(ancestor.get(), &TSample::HandleAction);
+  EXPECT_EQ("inherited TSample\nend\n", DescendantText(descendant.get(), ancestor.get()));
+}
+
+TEST_F(WriterTest, AnInheritedHandlerThatIsGoneIsWrittenAsNil) {
+  const auto ancestor = Make<TSample>();
+  const auto descendant = Make<TSample>();
+  ancestor->OnAction = TNotifyEvent(ancestor.get(), &TSample::HandleAction);
+  EXPECT_EQ("inherited TSample\n  OnAction = nil\nend\n", DescendantText(descendant.get(), ancestor.get()));
+}
+
 TEST_F(WriterTest, AComponentThatFailsToBeWrittenIsNotLeftInTheWritingState) {
   const auto form = Form({"A"});
   static_cast<TNest*>(form->Order[0])->FailsToWrite = true;

@@ -15,7 +15,6 @@ class TModel {
   struct TLine {
     QString Text;
     TObject* Object;
-    bool operator==(const TLine&) const = default;
   };
   using TLines = std::vector<TLine>;
 
@@ -263,8 +262,8 @@ class TStringListMachine {
     if (FList->GetCount() != Count()) return false;
     if (FList->GetSorted() != FModel.Sorted || FList->GetCapacity() < Count()) return false;
     for (int i = 0; i < Count(); ++i) {
-      if (FModel.Lines[static_cast<size_t>(i)] != TModel::TLine{FList->GetStrings(i), FList->GetObjects(i)})
-        return false;
+      const TModel::TLine& line = FModel.Lines[static_cast<size_t>(i)];
+      if (line.Object != FList->GetObjects(i) || line.Text != FList->GetStrings(i)) return false;
     }
     return true;
   }
@@ -283,7 +282,7 @@ class TStringListMachine {
 class StringListModelTest : public testing::TestWithParam<TMode> {};
 
 TEST_P(StringListModelTest, RandomOperationsGiveWhatTheModelGives) {
-  TModelRun(ModelSeed(1), [] { return std::make_unique<TStringListMachine>(GetParam()); }).Run(200'000);
+  TModelRun(ModelSeed(1), [] { return std::make_unique<TStringListMachine>(GetParam()); }).Run(50'000);
 }
 
 INSTANTIATE_TEST_SUITE_P(StringListModelTest, StringListModelTest,

@@ -1,5 +1,6 @@
 #include "kt/rtl/objects/Exceptions.h"
 #include "rtl/strings/StringsFixture.h"
+#include "support/FaultyDevices.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -196,8 +197,24 @@ TEST_F(StringsFilesTest, AStreamIsWrittenAtItsPosition) {
 TEST_F(StringsFilesTest, AStreamThatCannotBeReadRaisesAndLeavesTheListAlone) {
   TBrokenDevice stream;
   auto list = NewList({"a"});
-  EXPECT_EQ("Stream read error", RaisedBy<EReadError>([&] { list->LoadFromStream(stream); }));
+  EXPECT_EQ("Stream read error at offset 0: Unknown error",
+            RaisedBy<EReadError>([&] { list->LoadFromStream(stream); }));
   EXPECT_EQ("a", Lines(*list));
+}
+
+TEST_F(StringsFilesTest, ADeviceThatStopsBeforeItsEndRaises) {
+  TFaultyDevice stream(70'000, 0);
+  auto list = NewList({"a"});
+  EXPECT_EQ("Stream read error at offset 70000: the disk is gone",
+            RaisedBy<EReadError>([&] { list->LoadFromStream(stream); }));
+  EXPECT_EQ("a", Lines(*list));
+}
+
+TEST_F(StringsFilesTest, ASequentialDeviceMayEndWithAFailure) {
+  TPipe stream;
+  auto list = NewList();
+  list->LoadFromStream(stream);
+  EXPECT_EQ("p", Lines(*list));
 }
 
 TEST_F(StringsFilesTest, AStreamThatTakesNotAllRaises) {

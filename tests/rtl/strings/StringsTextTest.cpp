@@ -3,7 +3,7 @@
 namespace kt::tests {
 namespace {
 
-std::string LinesOf(const QString& text, const QString& lineBreak = "\r\n") {
+std::string LinesOfText(const QString& text, const QString& lineBreak = "\r\n") {
   auto list = NewList();
   list->SetLineBreak(lineBreak);
   list->SetText(text);
@@ -16,16 +16,16 @@ TEST(StringsTextTest, NoLineGivesNoText) { EXPECT_EQ("", NewList()->GetText()); 
 
 TEST(StringsTextTest, OneEmptyLineGivesOneLineBreak) { EXPECT_EQ("\r\n", NewList({""})->GetText()); }
 
-TEST(StringsTextTest, CrLfAndBothEndALine) { EXPECT_EQ("a | b | c | d", LinesOf("a\rb\nc\r\nd")); }
+TEST(StringsTextTest, CrLfAndBothEndALine) { EXPECT_EQ("a | b | c | d", LinesOfText("a\rb\nc\r\nd")); }
 
-TEST(StringsTextTest, LfAndThenCrAreTwoEnds) { EXPECT_EQ("a |  | b", LinesOf("a\n\rb")); }
+TEST(StringsTextTest, LfAndThenCrAreTwoEnds) { EXPECT_EQ("a |  | b", LinesOfText("a\n\rb")); }
 
 TEST(StringsTextTest, ALineBreakAtTheEndMakesNoFurtherLine) {
-  EXPECT_EQ("a | b", LinesOf("a\r\nb\r\n"));
-  EXPECT_EQ("a | b", LinesOf("a\r\nb"));
+  EXPECT_EQ("a | b", LinesOfText("a\r\nb\r\n"));
+  EXPECT_EQ("a | b", LinesOfText("a\r\nb"));
 }
 
-TEST(StringsTextTest, EmptyLinesAreKept) { EXPECT_EQ(" | a |  | ", LinesOf("\na\n\n\n")); }
+TEST(StringsTextTest, EmptyLinesAreKept) { EXPECT_EQ(" | a |  | ", LinesOfText("\na\n\n\n")); }
 
 TEST(StringsTextTest, AnEmptyTextGivesNoLine) {
   auto list = NewList({"a"});
@@ -34,8 +34,8 @@ TEST(StringsTextTest, AnEmptyTextGivesNoLine) {
 }
 
 TEST(StringsTextTest, TheTextEndsAtANulCharacter) {
-  EXPECT_EQ("a | b", LinesOf(QString::fromUtf16(u"a\nb\0c\nd", 7)));
-  EXPECT_EQ("a", LinesOf(QString::fromUtf16(u"a\r\n\0b", 5)));
+  EXPECT_EQ("a | b", LinesOfText(QString::fromUtf16(u"a\nb\0c\nd", 7)));
+  EXPECT_EQ("a", LinesOfText(QString::fromUtf16(u"a\r\n\0b", 5)));
 }
 
 TEST(StringsTextTest, SettingReplacesTheLinesAndTheirObjects) {
@@ -66,13 +66,13 @@ TEST(StringsTextTest, AnotherLineBreakEndsEachLine) {
 }
 
 TEST(StringsTextTest, AnotherLineBreakIsTheOnlyOneWhenReading) {
-  EXPECT_EQ("a\r | b\rc", LinesOf("a\r\nb\rc", "\n"));
-  EXPECT_EQ("a\nb |  | c", LinesOf("a\nb<>"
-                                   "<>c<>",
-                                   "<>"));
+  EXPECT_EQ("a\r | b\rc", LinesOfText("a\r\nb\rc", "\n"));
+  EXPECT_EQ("a\nb |  | c", LinesOfText("a\nb<>"
+                                       "<>c<>",
+                                       "<>"));
 }
 
-TEST(StringsTextTest, AnEmptyLineBreakMakesTheWholeTextOneLine) { EXPECT_EQ("a\r\nb", LinesOf("a\r\nb", "")); }
+TEST(StringsTextTest, AnEmptyLineBreakMakesTheWholeTextOneLine) { EXPECT_EQ("a\r\nb", LinesOfText("a\r\nb", "")); }
 
 TEST(StringsTextTest, ATextSetFromTheListsOwnLineIsSafe) {
   auto list = NewList({"a\nb"});

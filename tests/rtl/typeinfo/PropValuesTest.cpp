@@ -4,6 +4,7 @@
 #include "support/Expect.h"
 #include "support/Samples.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -85,6 +86,22 @@ TEST_F(PropValuesTest, FloatsOfEveryStorageAreDoubles) {
   EXPECT_EQ(0.25, GetFloatProp(Sample.get(), u"Ratio"));
   EXPECT_EQ(0.5f, Sample->Narrow);
   EXPECT_EQ(12.34, GetFloatProp(Sample.get(), u"Price"));
+}
+
+TEST_F(PropValuesTest, AFloatBeyondItsStorageRaises) {
+  const TPropInfo* narrow = FindPropInfo(Sample.get(), u"Narrow");
+  SetExtendedProp(Sample.get(), narrow, 0.5L);
+  EXPECT_EQ(QStringLiteral("Range check error"),
+            MessageOf<ERangeError>([&] { SetExtendedProp(Sample.get(), narrow, 1e39L); }));
+  EXPECT_THROW(SetFloatProp(Sample.get(), u"Narrow", -1e39), ERangeError);
+  EXPECT_EQ(0.5f, Sample->Narrow);
+}
+
+TEST_F(PropValuesTest, InfinitiesAndNaNFitEveryFloat) {
+  SetFloatProp(Sample.get(), u"Narrow", -std::numeric_limits<double>::infinity());
+  EXPECT_EQ(-std::numeric_limits<float>::infinity(), Sample->Narrow);
+  SetFloatProp(Sample.get(), u"Narrow", std::numeric_limits<double>::quiet_NaN());
+  EXPECT_TRUE(std::isnan(Sample->Narrow));
 }
 
 TEST_F(PropValuesTest, AShortStringIsCutToItsLength) {

@@ -1,4 +1,6 @@
+#include "kt/rtl/objects/Component.h"
 #include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/typeinfo/ClassInfo.h"
 #include "kt/rtl/typeinfo/EnumNames.h"
 #include "kt/rtl/typeinfo/TypeOf.h"
 #include "support/Expect.h"
@@ -13,6 +15,12 @@ using tests::MessageOf;
 TEST(TypeInfoTest, ATypeOfAKindThatSaysNothingMoreIsFine) {
   const TTypeInfo text(tkLString, QStringLiteral("TText"));
   EXPECT_NO_THROW(CheckTypeInfo(&text));
+}
+
+TEST(TypeInfoTest, NamesOfComponentsAndOfFilesAreTextsOfTheirOwnTypes) {
+  EXPECT_EQ(QStringLiteral("TComponentName"), GetPropInfo(TComponent::Class(), u"Name")->PropType()->Name());
+  EXPECT_EQ(QStringLiteral("TFileName"), TypeInfos::FileName()->Name());
+  EXPECT_EQ(tkLString, TypeInfos::FileName()->Kind());
 }
 
 TEST(TypeInfoTest, AnEnumerationWithoutNamesIsRefusedWhereTheyAreNeeded) {

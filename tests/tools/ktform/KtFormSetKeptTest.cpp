@@ -7,7 +7,7 @@ using ktform::tests::KtFormTest;
 using ktform::tests::TEdit;
 using ktform::tests::TRun;
 
-constexpr char kForm[] = R"(object A: TA
+constexpr char kKeptForm[] = R"(object A: TA
   Single = 1.5s
   Money = 122500c
   Day = 36526.25d
@@ -21,7 +21,7 @@ class KtFormSetKeptTest : public KtFormTest, public ::testing::WithParamInterfac
  protected:
   /// As the program itself writes it.
   KtFormSetKeptTest() {
-    Write("raw.dfm", kForm);
+    Write("raw.dfm", kKeptForm);
     Run({"to-binary", "raw.dfm", "a.bin"});
     Run({"to-text", "a.bin", "a.dfm"});
   }

@@ -14,7 +14,7 @@ using kt::tests::TSample;
 using ktform::tests::KtFormTest;
 using ktform::tests::TEdit;
 
-constexpr char kForm[] = R"(object Sample1: TSample
+constexpr char kPublishedForm[] = R"(object Sample1: TSample
   Whole = 12
   Color = 255
   Align = saTop
@@ -81,7 +81,7 @@ class KtFormSetPublishedTest : public KtFormTest {
 
   /// The message; nothing may have been written.
   QString ErrorOf(const QString& assignment) {
-    Write("a.dfm", kForm);
+    Write("a.dfm", kPublishedForm);
     const QString message = kt::tests::MessageOf<kt::EPropertyError>([&] {
       ktform::RunSet({Path("a.dfm"), Path("b.dfm"), assignment});
     });
@@ -93,8 +93,8 @@ class KtFormSetPublishedTest : public KtFormTest {
 class KtFormSetPublishedValueTest : public KtFormSetPublishedTest, public ::testing::WithParamInterface<TEdit> {};
 
 TEST_P(KtFormSetPublishedValueTest, TheTextBecomesAValueOfThePropertysKind) {
-  EXPECT_EQ(QByteArray(kForm).replace(GetParam().Old, GetParam().New),
-            Set(kForm, {QString::fromUtf8(GetParam().Assignment)}));
+  EXPECT_EQ(QByteArray(kPublishedForm).replace(GetParam().Old, GetParam().New),
+            Set(kPublishedForm, {QString::fromUtf8(GetParam().Assignment)}));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -172,7 +172,10 @@ INSTANTIATE_TEST_SUITE_P(
         TRefusal{"Letter=", "Invalid property value"}, TRefusal{"Letter=\xD0\xB6", "Range check error"},
         TRefusal{"Ratio=x", "'x' is not a valid floating point value"},
         TRefusal{"Ratio=1,5", "'1,5' is not a valid floating point value"},
-        TRefusal{"Big=9223372036854775808", "Overflow while converting variant of type (String) into type (Int64)"},
+        TRefusal{"Big=9223372036854775808", "'9223372036854775808' is not a valid integer value"},
+        TRefusal{"Big=1.5", "'1.5' is not a valid integer value"},
+        TRefusal{"Huge=1.5", "'1.5' is not a valid integer value"},
+        TRefusal{"Whole=1.5", "'1.5' is not a valid integer value"},
         TRefusal{"Partner=Nobody", "Invalid property value"}, TRefusal{"Sibling=Alien1", "Invalid class typecast"},
         TRefusal{"OnAction=Missing", "Invalid property value"}, TRefusal{"Double=4", "Property is read-only"}));
 
@@ -186,7 +189,7 @@ INSTANTIATE_TEST_SUITE_P(Paths, KtFormSetRefusedTest,
                                            TRefusal{"Alien1.Name=B", "Property Name does not exist"}));
 
 TEST_F(KtFormSetPublishedTest, OneErrorOfSeveralAssignmentsWritesNothing) {
-  Write("a.dfm", kForm);
+  Write("a.dfm", kPublishedForm);
   EXPECT_THROW(ktform::RunSet({Path("a.dfm"), Path("b.dfm"), "Whole=13", "Align=saLeft"}), kt::EPropertyError);
   EXPECT_EQ("no file", Content("b.dfm"));
 }
@@ -219,7 +222,7 @@ TEST_F(KtFormSetPublishedTest, AStoredDefaultAndAnOrderOfItsOwnStay) {
 }
 
 TEST_F(KtFormSetPublishedTest, ANewNameIsPutIntoTheHeaderAndTheReferences) {
-  EXPECT_EQ(QByteArray(kForm).replace("Other1", "Renamed"), Set(kForm, {"Other1.Name=Renamed"}));
+  EXPECT_EQ(QByteArray(kPublishedForm).replace("Other1", "Renamed"), Set(kPublishedForm, {"Other1.Name=Renamed"}));
 }
 
 TEST_F(KtFormSetPublishedTest, ObjectsThatAreSavedInAnotherOrderAreWrittenAnew) {
@@ -239,6 +242,14 @@ TEST_F(KtFormSetPublishedTest, InABinaryFormOnlyTheValueChanges) {
   QByteArray after;
   kt::ObjectTextToBinary(QByteArray(text).replace("12", "13"), after);
   EXPECT_EQ(after.toHex(' '), Set(before, {"Whole=13"}).toHex(' '));
+}
+
+TEST_F(KtFormSetPublishedTest, AValueThatTheClassDoesNotTakeTellsTheLine) {
+  Write("a.dfm", "object Sample1: TSample\n  Text = 'a'\n  Align = saLeft\nend\n");
+  EXPECT_EQ(QStringLiteral("Error reading Sample1.Align: Invalid property value on line 3, column 3 (Sample1.Align)"),
+            kt::tests::MessageOf<kt::EReadError>([&] {
+              ktform::RunSet({Path("a.dfm"), Path("b.dfm"), QStringLiteral("Text=b")});
+            }));
 }
 
 /// What the class does not know is written behind the rest.

@@ -7,7 +7,7 @@ using ktform::tests::TEdit;
 using ktform::tests::TRun;
 
 /// As the program itself writes it.
-constexpr char kForm[] = R"(object Form1: TForm1
+constexpr char kSetForm[] = R"(object Form1: TForm1
   Left = 12
   Caption = 'Hello'
   Visible = True
@@ -34,12 +34,12 @@ end
 
 class KtFormSetTest : public KtFormTest {
  protected:
-  KtFormSetTest() { Write("a.dfm", kForm); }
+  KtFormSetTest() { Write("a.dfm", kSetForm); }
 
   TRun Set(const QStringList& assignments) { return Run(QStringList{"set", "a.dfm", "b.dfm"} + assignments); }
 
   /// The form when `line` stands in place of `old`.
-  static QByteArray FormWith(const char* old, const char* line) { return QByteArray(kForm).replace(old, line); }
+  static QByteArray FormWith(const char* old, const char* line) { return QByteArray(kSetForm).replace(old, line); }
 
   /// What the program says when it cannot set `assignment`; it must not have made a file then.
   QByteArray ErrorOf(const QString& assignment) {
@@ -58,8 +58,8 @@ TEST_P(KtFormSetValueTest, OneValueChangesAndNothingElse) {
   EXPECT_EQ(0, run.Status);
   EXPECT_EQ("", run.Output + run.Errors);
   EXPECT_EQ(FormWith(GetParam().Old, GetParam().New), Content("b.dfm"));
-  EXPECT_NE(QByteArray(kForm), Content("b.dfm"));
-  EXPECT_EQ(QByteArray(kForm), Content("a.dfm"));
+  EXPECT_NE(QByteArray(kSetForm), Content("b.dfm"));
+  EXPECT_EQ(QByteArray(kSetForm), Content("a.dfm"));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -107,6 +107,23 @@ TEST_F(KtFormSetTest, AResourceStaysAResource) {
   EXPECT_EQ(header + QByteArray("\x11\0\0\0TPF0\2TA\1A\1X\6\2yz\0\0", 21), Content("b.res"));
 }
 
+TEST_F(KtFormSetTest, AResourceKeepsItsHeader) {
+  // A number in place of a name, other flags, and padding in the resource and behind it.
+  const QByteArray header("\xFF\x0A\0\xFF\x07\0\x20\x01", 8);
+  Write("a.res", header + QByteArray("\x12\0\0\0TPF0\2TA\1A\1X\6\1x\0\0\0\0\0\0\0", 25));
+  EXPECT_EQ(0, Run({"set", "a.res", "b.res", "X=yz"}).Status);
+  EXPECT_EQ(header + QByteArray("\x13\0\0\0TPF0\2TA\1A\1X\6\2yz\0\0\0\0\0\0\0", 26), Content("b.res"));
+  Write("a.res", QByteArray("\xFF\x0A\0Name\0\x30\x10\x10\0\0\0TPF0\2TA\1A\1X\6\1x\0\0", 30));
+  EXPECT_EQ(0, Run({"set", "a.res", "b.res", "X=z"}).Status);
+  EXPECT_EQ(QByteArray("\xFF\x0A\0Name\0\x30\x10\x10\0\0\0TPF0\2TA\1A\1X\6\1z\0\0", 30), Content("b.res"));
+}
+
+TEST_F(KtFormSetTest, ABinaryFormKeepsThePaddingBehindIt) {
+  Write("a.bin", QByteArray("TPF0\2TA\1A\1X\6\1x\0\0\0\0", 18));
+  EXPECT_EQ(0, Run({"set", "a.bin", "b.bin", "X=yz"}).Status);
+  EXPECT_EQ(QByteArray("TPF0\2TA\1A\1X\6\2yz\0\0\0\0", 19), Content("b.bin"));
+}
+
 TEST_F(KtFormSetTest, AnUnknownPropertyIsAnError) {
   EXPECT_EQ("a.dfm: error: cannot set Width: Property Width does not exist\n", ErrorOf("Width=1"));
 }
@@ -152,7 +169,7 @@ TEST_F(KtFormSetTest, AFailureLeavesOutAsItWas) {
   EXPECT_EQ(1, Set({"Left=13", "Width=1"}).Status);
   EXPECT_EQ("old", Content("b.dfm"));
   EXPECT_EQ(1, Run({"set", "a.dfm", "a.dfm", "Left=13", "Width=1"}).Status);
-  EXPECT_EQ(QByteArray(kForm), Content("a.dfm"));
+  EXPECT_EQ(QByteArray(kSetForm), Content("a.dfm"));
 }
 
 TEST_F(KtFormSetTest, ABrokenFormLeavesOutAsItWas) {

@@ -7,7 +7,7 @@ using ktform::tests::KtFormTest;
 using ktform::tests::TEdit;
 using ktform::tests::TRun;
 
-constexpr char kForm[] = R"(object Form1: TForm1
+constexpr char kVisualForm[] = R"(object Form1: TForm1
   Left = 12
   object Editor1: TKTItemListEditor
     Left = 8
@@ -31,7 +31,7 @@ class KtFormSetVisualTest : public KtFormTest, public ::testing::WithParamInterf
  protected:
   /// Without a display, whatever the machine has.
   TRun Set(const QString& assignment) {
-    Write("a.dfm", kForm);
+    Write("a.dfm", kVisualForm);
     return Run({"set", "a.dfm", "b.dfm", assignment}, [] {
       unsetenv("DISPLAY");
       unsetenv("WAYLAND_DISPLAY");
@@ -42,7 +42,7 @@ class KtFormSetVisualTest : public KtFormTest, public ::testing::WithParamInterf
 
 TEST_P(KtFormSetVisualTest, OnlyTheLineOfTheValueChanges) {
   EXPECT_EQ("", Set(GetParam().Assignment).Errors);
-  EXPECT_EQ(QByteArray(kForm).replace(GetParam().Old, GetParam().New), Content("b.dfm"));
+  EXPECT_EQ(QByteArray(kVisualForm).replace(GetParam().Old, GetParam().New), Content("b.dfm"));
 }
 
 INSTANTIATE_TEST_SUITE_P(

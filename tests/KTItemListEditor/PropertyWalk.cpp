@@ -1,4 +1,4 @@
-// Every registered class of the item list editor with every property, through the binary and the text format.
+// What the walk over all properties has to know of the classes of the item list editor.
 #include "kt/KTItemListEditor/ItemListTypes.h"
 #include "kt/KTItemListEditor/ItemProp.h"
 #include "kt/KTItemListEditor/Registration.h"
@@ -33,7 +33,7 @@ const TWalkRules& Rules() {
 }
 
 /// Without those of the floor below, which has a walk of its own.
-const std::vector<QString>& OwnClasses() {
+std::vector<QString> OwnClasses() {
   // Asked for once a test, of which the first registers.
   static const std::vector<QString> names = [] {
     RegisterVisualPlatform();
@@ -47,36 +47,6 @@ const std::vector<QString>& OwnClasses() {
   return names;
 }
 
-class PropertyWalkTest : public ::testing::TestWithParam<QString> {
- protected:
-  PropertyWalkTest() { RegisterItemListEditor(); }
-
-  static QStringList Lost(TWalkState state, TWalkFormat format) {
-    return LostOnTheWay(GetParam(), Rules(), state, format);
-  }
-};
-
-TEST_P(PropertyWalkTest, AFreshInstanceHasItsDeclaredDefaults) {
-  EXPECT_EQ(QStringList(), WrongDefaults(GetParam(), Rules()));
-}
-
-TEST_P(PropertyWalkTest, EveryWritablePropertyTakesAnotherValue) {
-  EXPECT_EQ(QStringList(), UnchangedProperties(GetParam(), Rules()));
-}
-
-TEST_P(PropertyWalkTest, EveryChangedPropertyComesBackThroughBinary) {
-  EXPECT_EQ(QStringList(), Lost(wsChanged, wfBinary));
-}
-
-TEST_P(PropertyWalkTest, EveryChangedPropertyComesBackThroughText) {
-  EXPECT_EQ(QStringList(), Lost(wsChanged, wfText));
-}
-
-TEST_P(PropertyWalkTest, AFreshInstanceComesBackToo) { EXPECT_EQ(QStringList(), Lost(wsFresh, wfBinary)); }
-
-INSTANTIATE_TEST_SUITE_P(Registered, PropertyWalkTest, ::testing::ValuesIn(OwnClasses()),
-                         [](const auto& test) { return test.param.toStdString(); });
-
 TEST(PropertyWalkExceptions, EachHasAPropertyAndAReason) {
   RegisterItemListEditor();
   RegisterClass(TKTItemProp::Class());
@@ -85,4 +55,9 @@ TEST(PropertyWalkExceptions, EachHasAPropertyAndAReason) {
 }
 
 }  // namespace
+
+TProgramWalk WalkOfProgram() {
+  return {&Rules, &RegisterItemListEditor, [] {}, &OwnClasses};
+}
+
 }  // namespace kt::tests

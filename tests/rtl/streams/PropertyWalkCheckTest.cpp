@@ -1,4 +1,4 @@
-// Every registered class that can be created, with every property, through the binary and the text format.
+// What the walk over all properties has to know of the classes of the runtime; and that it finds what is wrong.
 #include "kt/rtl/objects/ClassRegistry.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/strings/StringList.h"
@@ -34,37 +34,6 @@ std::vector<QString> CreatableNames() {
   UnregisterWalked();
   return names;
 }
-
-class PropertyWalkTest : public ::testing::TestWithParam<QString> {
- protected:
-  PropertyWalkTest() { RegisterWalked(); }
-  ~PropertyWalkTest() override { UnregisterWalked(); }
-
-  static QStringList Lost(TWalkState state, TWalkFormat format) {
-    return LostOnTheWay(GetParam(), Rules(), state, format);
-  }
-};
-
-TEST_P(PropertyWalkTest, AFreshInstanceHasItsDeclaredDefaults) {
-  EXPECT_EQ(QStringList(), WrongDefaults(GetParam(), Rules()));
-}
-
-TEST_P(PropertyWalkTest, EveryWritablePropertyTakesAnotherValue) {
-  EXPECT_EQ(QStringList(), UnchangedProperties(GetParam(), Rules()));
-}
-
-TEST_P(PropertyWalkTest, EveryChangedPropertyComesBackThroughBinary) {
-  EXPECT_EQ(QStringList(), Lost(wsChanged, wfBinary));
-}
-
-TEST_P(PropertyWalkTest, EveryChangedPropertyComesBackThroughText) {
-  EXPECT_EQ(QStringList(), Lost(wsChanged, wfText));
-}
-
-TEST_P(PropertyWalkTest, AFreshInstanceComesBackToo) { EXPECT_EQ(QStringList(), Lost(wsFresh, wfBinary)); }
-
-INSTANTIATE_TEST_SUITE_P(Registered, PropertyWalkTest, ::testing::ValuesIn(CreatableNames()),
-                         [](const auto& test) { return test.param.toStdString(); });
 
 struct TTwoEvent : TEvent<int, int> {
   using TEvent::TEvent;
@@ -152,4 +121,7 @@ TEST_F(PropertyWalkCheck, ExceptionsForNothingAreNoticed) {
 }
 
 }  // namespace
+
+TProgramWalk WalkOfProgram() { return {&Rules, &RegisterWalked, &UnregisterWalked, &CreatableNames}; }
+
 }  // namespace kt::tests

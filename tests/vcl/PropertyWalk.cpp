@@ -1,0 +1,39 @@
+// What the walk over all properties has to know of the classes of the visual platform.
+#include "kt/vcl/Registration.h"
+#include "support/Expect.h"
+#include "support/VisualWalk.h"
+
+#include <gtest/gtest.h>
+
+namespace kt::tests {
+namespace {
+
+const TWalkRules& Rules() {
+  static const TWalkRules rules{
+      .Handlers = VisualHandlers(),
+      .Untouched = {{"TForm.ActiveControl", "takes only a control that shows in the form itself"}},
+      .Choosy = {{"TDrawGrid.TabOrder", "is the place among the parent's controls, and there is no parent"},
+                 {"TListBox.TabOrder", "is the place among the parent's controls, and there is no parent"},
+                 {"TMaskEdit.TabOrder", "is the place among the parent's controls, and there is no parent"},
+                 {"TMaskEdit.MaxLength", "is the length of the mask, which the walk has set by then"},
+                 {"TMaskEdit.Text", "is what the mask of the walk allows"}}};
+  return rules;
+}
+
+std::vector<QString> VisualClasses() {
+  RegisterVisualPlatform();
+  return WalkedClasses();
+}
+
+TEST(PropertyWalkExceptions, EachHasAPropertyAndAReason) {
+  RegisterVisualPlatform();
+  EXPECT_EQ(QStringList(), IdleExceptions(Rules()));
+}
+
+}  // namespace
+
+TProgramWalk WalkOfProgram() {
+  return {&Rules, &RegisterVisualPlatform, [] {}, &VisualClasses};
+}
+
+}  // namespace kt::tests
