@@ -1,5 +1,6 @@
 #include "kt/vcl/Registration.h"
 
+#include "kt/vcl/actions/ActionsRegistration.h"
 #include "kt/vcl/forms/FormsRegistration.h"
 #include "kt/vcl/graphics/GraphicsRegistration.h"
 #include "kt/vcl/menus/MenusRegistration.h"
@@ -10,6 +11,7 @@ namespace kt {
 void RegisterVisualPlatform() {
   RegisterGraphics();
   RegisterForms();
+  RegisterActions();
   RegisterMenus();
   RegisterStdCtrls();
 }

@@ -1,6 +1,7 @@
 #include "kt/vcl/controls/Control.h"
 
 #include "kt/rtl/typeinfo/ClassBuilder.h"
+#include "kt/vcl/actions/ControlActionLink.h"
 #include "kt/vcl/controls/MessageAddress.h"
 #include "kt/vcl/controls/WinControl.h"
 #include "kt/vcl/menus/PopupMenu.h"
@@ -16,11 +17,15 @@ const TClassInfo* TControl::Class() {
                                      .Property<&TControl::GetCursor, &TControl::SetCursor>("Cursor")
                                      .Default(crDefault)
                                      .Property<&TControl::GetHint, &TControl::SetHint>("Hint")
+                                     .Stored(&TControl::IsHintStored)
                                      .Property<&TControl::GetHelpType, &TControl::SetHelpType>("HelpType")
                                      .Default(htContext)
+                                     .Stored(&TControl::IsHelpStored)
                                      .Property<&TControl::GetHelpKeyword, &TControl::SetHelpKeyword>("HelpKeyword")
+                                     .Stored(&TControl::IsHelpStored)
                                      .Property<&TControl::GetHelpContext, &TControl::SetHelpContext>("HelpContext")
                                      .Default(0)
+                                     .Stored(&TControl::IsHelpContextStored)
                                      .Done();
   return &info;
 }
@@ -44,6 +49,7 @@ void TControl::Construct() {
 
 void TControl::Destruct() {
   FAddress.reset();
+  FActionLink.reset();
   if (FParent) SetParent(nullptr);
   TComponent::Destruct();
 }
@@ -55,7 +61,9 @@ void TControl::Loaded() {
 
 void TControl::Notification(TComponent* component, TOperation operation) {
   TComponent::Notification(component, operation);
-  if (operation == opRemove && component == FPopupMenu) FPopupMenu = nullptr;
+  if (operation != opRemove) return;
+  if (component == FPopupMenu) FPopupMenu = nullptr;
+  if (FActionLink && component == FActionLink->GetAction()) SetAction(nullptr);
 }
 
 void TControl::SetPopupMenu(TPopupMenu* value) {

@@ -17,6 +17,8 @@
 
 namespace kt {
 
+class TBasicAction;
+class TControlActionLink;
 class TMessageAddress;
 class TPopupMenu;
 class TWinControl;
@@ -115,6 +117,14 @@ class TControl : public TComponent {
   int GetHelpContext() const { return FHelpContext; }
   void SetHelpContext(int value);
 
+  // The action.
+  /// What the control does when it is clicked, and where it has its text, Enabled, help, Hint and Visible from, as long
+  /// as nobody gives it others. Not owned.
+  TBasicAction* GetAction() const;
+  void SetAction(TBasicAction* value);
+  /// Null while there is no action.
+  TControlActionLink* GetActionLink() const { return FActionLink.get(); }
+
   // The menu.
   /// Opens with the right mouse button and the menu key, here and in children without a menu of their own; its short
   /// cuts work while the keyboard is in here. Not owned.
@@ -142,6 +152,14 @@ class TControl : public TComponent {
 
   // What streams ask.
   bool IsAnchorsStored() const;
+  // Not what comes from the action.
+  bool IsCaptionStored() const;
+  bool IsEnabledStored() const;
+  bool IsHelpContextStored() const;
+  bool IsHelpStored() const;
+  bool IsHintStored() const;
+  bool IsOnClickStored() const;
+  bool IsVisibleStored() const;
   bool IsColorStored() const { return !FParentColor; }
   bool IsFontStored() const { return !FParentFont; }
   bool IsBiDiModeStored() const { return !FParentBiDiMode; }
@@ -161,6 +179,7 @@ class TControl : public TComponent {
   friend class TSizeConstraints;
   friend class TWinControl;
   friend class TMessageAddress;
+  friend class TControlActionLink;
 
   explicit TControl(TComponent* owner = nullptr);
   ~TControl() override;
@@ -189,6 +208,10 @@ class TControl : public TComponent {
   void StoreText(const QString& value) { FText = value; }
   /// Sets Visible without telling anybody; CM_VISIBLECHANGED has to follow.
   void SetVisibleFlag(bool value) { FVisible = value; }
+
+  /// Takes over what `action` has. `onlyDefaults`: not where the control has a value of its own.
+  virtual void ActionChange(TObject* action, bool onlyDefaults);
+  virtual std::unique_ptr<TControlActionLink> MakeActionLink();
 
   /// Before the menu opens; `handled` keeps it from doing so.
   virtual void DoContextPopup(const QPoint& position, bool& handled) { OnContextPopup(this, position, handled); }
@@ -221,6 +244,7 @@ class TControl : public TComponent {
 
  private:
   void FontChanged(TObject* sender);
+  void DoActionChange(TObject* sender);
   void ConstraintsChanged();
   bool DispatchMouse(TMessage& message);
   void ButtonDown(const TMessage& message, TMouseButton button, bool isDouble);
@@ -234,6 +258,7 @@ class TControl : public TComponent {
   std::unique_ptr<TSizeConstraints> FConstraints;
   std::unique_ptr<TFont> FFont;
   std::unique_ptr<TMessageAddress> FAddress;
+  std::unique_ptr<TControlActionLink> FActionLink;
   QString FHelpKeyword;
   QString FHint;
   QString FText;

@@ -110,17 +110,24 @@ bool TControlBody::Translate(QEvent* event) {
       RunInherited();
       if (FControl) FControl->WindowShown(event->type() == QEvent::Show);
       return true;
+    case QEvent::LayoutDirectionChange:
+      RunInherited();
+      if (FControl && !FControl->GetParent()) FControl->Perform(CM_PARENTBIDIMODECHANGED);
+      return true;
     case QEvent::Enter:
       HintControlChanged(FControl);
       PointerCameTo(*FWidget);
       if (FControl) FControl->Perform(CM_MOUSEENTER);
       return false;
     case QEvent::Leave:
+      HideControlHint();
       HintControlChanged(FControl->GetParent());
       if (FControl) FControl->Perform(CM_MOUSELEAVE);
       PointerWentFrom(*FWidget);
       return false;
     case QEvent::ToolTip: {
+      // Qt's own pause may be shorter than the program's.
+      if (IsHintWaiting()) return true;
       const auto* help = static_cast<QHelpEvent*>(event);
       ShowControlHint(*FControl, help->pos() - FControl->GetClientOrigin(), help->globalPos());
       return true;

@@ -102,6 +102,13 @@ class TBodyOf final : public W, public TControlBody {
   }
 
  protected:
+  // A plain widget would repaint all of itself; controls show for themselves who has the keyboard.
+  void focusInEvent(QFocusEvent* event) override {
+    if constexpr (!std::is_same_v<W, QWidget>) W::focusInEvent(event);
+  }
+  void focusOutEvent(QFocusEvent* event) override {
+    if constexpr (!std::is_same_v<W, QWidget>) W::focusOutEvent(event);
+  }
   bool focusNextPrevChild(bool next) override { return MoveFocusPastOwner(next) || W::focusNextPrevChild(next); }
 
  private:

@@ -1,6 +1,7 @@
 // Keys, mouse, focus and input methods of TControlBody.
 #include "kt/vcl/controls/ControlBody.h"
 #include "kt/vcl/controls/Focus.h"
+#include "kt/vcl/controls/Hints.h"
 #include "kt/vcl/controls/KeyCodes.h"
 #include "kt/vcl/controls/VirtualKeys.h"
 #include "kt/vcl/controls/WinControl.h"
@@ -10,6 +11,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QWheelEvent>
 
 namespace kt {
@@ -85,6 +87,10 @@ void TControlBody::Release(QMouseEvent* event) {
 }
 
 void TControlBody::Move(QMouseEvent* event) {
+  if (FControl && event->buttons() == Qt::NoButton) {
+    HintMouseMoved(*FControl, event->position().toPoint() - FControl->GetClientOrigin(),
+                   event->globalPosition().toPoint());
+  }
   SendMouse(WM_MOUSEMOVE, event);
   event->accept();
 }
@@ -150,7 +156,17 @@ bool TControlBody::OpenMenu(QContextMenuEvent* event) {
   return isDone || !FControl;
 }
 
-bool TControlBody::Input(QInputMethodEvent* event) { return FControl->InputText(event->commitString()); }
+bool TControlBody::Input(QInputMethodEvent* event) {
+  const QPointer<QWidget> widget(FWidget);
+  if (!FControl->InputText(event->commitString())) return false;
+  // What is still being composed shows where the control has led the keyboard.
+  QWidget* const focused = QApplication::focusWidget();
+  const bool goesOn = focused && focused != widget && !event->preeditString().isEmpty();
+  if (!goesOn || !widget || !widget->isAncestorOf(focused)) return true;
+  QInputMethodEvent rest(event->preeditString(), event->attributes());
+  QApplication::sendEvent(focused, &rest);
+  return true;
+}
 
 void TControlBody::Focus(QFocusEvent* event) {
   if (event->gotFocus()) {

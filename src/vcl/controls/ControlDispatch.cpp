@@ -110,6 +110,4 @@ void TControl::ButtonUp(const TMessage& message, TMouseButton button) {
   MouseUp(button, TShiftState::FromBits(static_cast<quint32>(message.WParam)), point.x(), point.y());
 }
 
-void TControl::Click() { OnClick(this); }
-
 }  // namespace kt

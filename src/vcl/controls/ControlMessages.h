@@ -7,13 +7,10 @@
 namespace kt {
 
 // Windows. A control that lets one of these come to DefaultHandler() leaves it to the window's own behaviour.
-inline constexpr quint32 WM_SIZE = 0x0005;
 inline constexpr quint32 WM_SETFOCUS = 0x0007;
 inline constexpr quint32 WM_KILLFOCUS = 0x0008;  ///< WParam: the TWinControl* that gets the focus, or 0
 inline constexpr quint32 WM_SETTEXT = 0x000C;    ///< LParam: const QString*
-inline constexpr quint32 WM_PAINT = 0x000F;
 inline constexpr quint32 WM_CANCELMODE = 0x001F;
-inline constexpr quint32 WM_SETCURSOR = 0x0020;  ///< Result 1: the cursor was set
 /// WParam: 0; LParam: MessagePoint() on the screen, or -1 for the menu key; Result 1: a menu was open
 inline constexpr quint32 WM_CONTEXTMENU = 0x007B;
 inline constexpr quint32 WM_KEYDOWN = 0x0100;  ///< WParam: virtual key code; LParam: bits of TShiftState
@@ -32,14 +29,14 @@ inline constexpr quint32 WM_RBUTTONDBLCLK = 0x0206;
 inline constexpr quint32 WM_MBUTTONDOWN = 0x0207;
 inline constexpr quint32 WM_MBUTTONUP = 0x0208;
 inline constexpr quint32 WM_MBUTTONDBLCLK = 0x0209;
-inline constexpr quint32 WM_MOUSEWHEEL = 0x020A;  ///< WParam: turn in eighths of a degree, up positive
-inline constexpr quint32 WM_USER = 0x0400;        ///< the first number for a class's own messages
+inline constexpr quint32 WM_COPY = 0x0301;
+inline constexpr quint32 WM_PASTE = 0x0302;
+inline constexpr quint32 WM_USER = 0x0400;  ///< the first number for a class's own messages
 
 // Controls.
 inline constexpr quint32 CM_BASE = 0xB000;
 inline constexpr quint32 CM_CANCELMODE = CM_BASE + 4;  ///< LParam: the TControl* that wants the others to let go
 inline constexpr quint32 CM_DIALOGKEY = CM_BASE + 5;   ///< WParam: virtual key code; Result 1: taken
-inline constexpr quint32 CM_FOCUSCHANGED = CM_BASE + 7;
 inline constexpr quint32 CM_PARENTFONTCHANGED = CM_BASE + 8;
 inline constexpr quint32 CM_PARENTCOLORCHANGED = CM_BASE + 9;
 inline constexpr quint32 CM_VISIBLECHANGED = CM_BASE + 11;  ///< WParam: 1 when it becomes visible
@@ -62,7 +59,6 @@ inline constexpr quint32 CM_CONTROLLISTCHANGE = CM_BASE + 44;  ///< WParam: the 
 inline constexpr quint32 CM_CHILDKEY = CM_BASE + 46;           ///< WParam: key code; LParam: the child; Result 1: taken
 inline constexpr quint32 CM_HINTSHOW = CM_BASE + 48;           ///< LParam: THintInfo*; Result 1: show none
 inline constexpr quint32 CM_RECREATEWND = CM_BASE + 51;
-inline constexpr quint32 CM_CONTROLCHANGE = CM_BASE + 54;  ///< as CM_CONTROLLISTCHANGE, before or after the list
 inline constexpr quint32 CM_BIDIMODECHANGED = CM_BASE + 60;
 inline constexpr quint32 CM_PARENTBIDIMODECHANGED = CM_BASE + 61;
 inline constexpr quint32 CM_ORDERTABS = CM_BASE + 200;  ///< the windows are to be visited in another order

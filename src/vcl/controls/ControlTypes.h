@@ -84,6 +84,17 @@ struct TMouseEvent : TEvent<TObject*, TMouseButton, TShiftState, int, int> {
   using TEvent::TEvent;
   static constexpr char TypeName[] = "TMouseEvent";
 };
+/// The wheel was turned by `delta` eighths of a degree, away from the user if positive, at a place on the screen; a
+/// handler that sets the last one to true has used it.
+struct TMouseWheelEvent : TEvent<TObject*, TShiftState, int, const QPoint&, bool&> {
+  using TEvent::TEvent;
+  static constexpr char TypeName[] = "TMouseWheelEvent";
+};
+/// The wheel was turned by a step.
+struct TMouseWheelUpDownEvent : TEvent<TObject*, TShiftState, const QPoint&, bool&> {
+  using TEvent::TEvent;
+  static constexpr char TypeName[] = "TMouseWheelUpDownEvent";
+};
 /// A menu is asked for at a place of the client area, (-1, -1) with the keyboard; a handler that sets the last one to
 /// true has seen to it.
 struct TContextPopupEvent : TEvent<TObject*, const QPoint&, bool&> {

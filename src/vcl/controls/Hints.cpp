@@ -1,9 +1,17 @@
 #include "kt/vcl/controls/Hints.h"
 
+#include "kt/rtl/objects/LifeWatch.h"
+#include "kt/rtl/objects/UnhandledExceptions.h"
+#include "kt/vcl/actions/ControlActionLink.h"
+#include "kt/vcl/controls/ControlBody.h"
 #include "kt/vcl/controls/WinControl.h"
 #include "kt/vcl/forms/Application.h"
+#include "kt/vcl/graphics/QtColor.h"
 
+#include <QApplication>
+#include <QPointer>
 #include <QTextDocument>
+#include <QTimer>
 #include <QToolTip>
 
 namespace kt {
@@ -16,6 +24,12 @@ TControl* ControlWithHint(TControl* control) {
   return control;
 }
 
+/// The word of the control's action.
+bool AllowsHint(const TControl& control, QString& hint) {
+  const TControlActionLink* link = control.GetActionLink();
+  return !link || link->DoShowHint(hint);
+}
+
 }  // namespace
 
 QString GetShortHint(const QString& hint) { return hint.section(u'|', 0, 0); }
@@ -23,13 +37,57 @@ QString GetShortHint(const QString& hint) { return hint.section(u'|', 0, 0); }
 QString GetLongHint(const QString& hint) { return hint.contains(u'|') ? hint.section(u'|', 1) : hint; }
 
 void ShowControlHint(TWinControl& control, QPoint clientPos, QPoint screenPos) {
+  TApplication& application = Application();
   THintInfo info{&control, {}, screenPos, clientPos, control.GetClientRect()};
+  info.HintColor = application.GetHintColor();
+  info.HideTimeout = application.GetHintHidePause();
   if (TControl* source = ControlWithHint(&control)) info.HintStr = GetShortHint(source->GetHint());
-  const bool isRefused = !control.IsShowHint() || control.Perform(CM_HINTSHOW, 0, PointerMessage(&info)) != 0;
-  if (isRefused || info.HintStr.isEmpty() || !control.HandleAllocated()) return QToolTip::hideText();
+  const TLifeWatch life(&control);
+  bool isAllowed = application.IsShowHint() && control.IsShowHint() && AllowsHint(control, info.HintStr) &&
+                   life.IsAlive() && control.Perform(CM_HINTSHOW, 0, PointerMessage(&info)) == 0 && life.IsAlive();
+  if (isAllowed) application.OnShowHint(info.HintStr, isAllowed, info);
+  if (!isAllowed || !life.IsAlive() || info.HintStr.isEmpty() || !control.HandleAllocated()) {
+    return QToolTip::hideText();
+  }
+  QPalette palette = QToolTip::palette();
+  palette.setColor(QPalette::ToolTipBase, QtColor(info.HintColor, QGuiApplication::palette()));
+  QToolTip::setPalette(palette);
   // Hints are plain texts, whatever they look like.
   const QString text = Qt::mightBeRichText(info.HintStr) ? info.HintStr.toHtmlEscaped() : info.HintStr;
-  QToolTip::showText(info.HintPos, text, control.GetHandle(), info.CursorRect);
+  QToolTip::showText(info.HintPos, text, control.GetHandle(), info.CursorRect, info.HideTimeout);
+}
+
+namespace {
+
+/// One for the program: the mouse is over one control at a time.
+QTimer& RestTimer() {
+  static QPointer<QTimer> Timer;
+  if (!Timer) {
+    Timer = new QTimer(QCoreApplication::instance());
+    Timer->setSingleShot(true);
+  }
+  return *Timer;
+}
+
+}  // namespace
+
+void HintMouseMoved(TWinControl& control, QPoint clientPos, QPoint screenPos) {
+  QTimer& timer = RestTimer();
+  timer.disconnect();
+  QWidget* const window = control.GetHandle();
+  QObject::connect(&timer, &QTimer::timeout, window, [window, clientPos, screenPos] {
+    TWinControl* const rested = TControlBody::ControlOf(window);
+    if (rested && window->underMouse()) GuardedCall([&] { ShowControlHint(*rested, clientPos, screenPos); });
+  });
+  timer.start(Application().GetHintPause());
+}
+
+bool IsHintWaiting() { return RestTimer().isActive(); }
+
+void HideControlHint() {
+  if (!qobject_cast<QApplication*>(QCoreApplication::instance())) return;
+  RestTimer().stop();
+  QToolTip::hideText();
 }
 
 void HintControlChanged(TWinControl* control) {

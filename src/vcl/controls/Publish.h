@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kt/rtl/typeinfo/ClassBuilder.h"
+#include "kt/vcl/actions/BasicAction.h"
 #include "kt/vcl/controls/WinControl.h"
 #include "kt/vcl/menus/PopupMenu.h"
 
@@ -8,6 +9,10 @@
 /// predicates that stay the same from class to class.
 namespace kt::Publish {
 
+template <class T>
+void Action(TClassBuilder<T>& builder) {
+  builder.template Property<&TControl::GetAction, &TControl::SetAction>("Action");
+}
 template <class T>
 void Align(TClassBuilder<T>& builder) {
   builder.template Property<&TControl::GetAlign, &TControl::SetAlign>("Align").Default(alNone);
@@ -49,7 +54,8 @@ void DragMode(TClassBuilder<T>& builder) {
 }
 template <class T>
 void Enabled(TClassBuilder<T>& builder) {
-  builder.template Property<&TControl::IsEnabled, &TControl::SetEnabled>("Enabled").Default(true);
+  builder.template Property<&TControl::IsEnabled, &TControl::SetEnabled>("Enabled").Default(true).Stored(
+      &TControl::IsEnabledStored);
 }
 template <class T>
 void Font(TClassBuilder<T>& builder) {
@@ -91,12 +97,13 @@ void TabStop(TClassBuilder<T>& builder, bool value) {
 }
 template <class T>
 void Visible(TClassBuilder<T>& builder) {
-  builder.template Property<&TControl::IsVisible, &TControl::SetVisible>("Visible").Default(true);
+  builder.template Property<&TControl::IsVisible, &TControl::SetVisible>("Visible").Default(true).Stored(
+      &TControl::IsVisibleStored);
 }
 
 template <class T>
 void MouseEvents(TClassBuilder<T>& builder) {
-  builder.template Property<&TControl::OnClick>("OnClick");
+  builder.template Property<&TControl::OnClick>("OnClick").Stored(&TControl::IsOnClickStored);
   builder.template Property<&TControl::OnContextPopup>("OnContextPopup");
   builder.template Property<&TControl::OnDblClick>("OnDblClick");
   builder.template Property<&TControl::OnMouseDown>("OnMouseDown");
@@ -104,6 +111,12 @@ void MouseEvents(TClassBuilder<T>& builder) {
   builder.template Property<&TControl::OnMouseLeave>("OnMouseLeave");
   builder.template Property<&TControl::OnMouseMove>("OnMouseMove");
   builder.template Property<&TControl::OnMouseUp>("OnMouseUp");
+}
+template <class T>
+void WheelEvents(TClassBuilder<T>& builder) {
+  builder.template Property<&TWinControl::OnMouseWheel>("OnMouseWheel");
+  builder.template Property<&TWinControl::OnMouseWheelDown>("OnMouseWheelDown");
+  builder.template Property<&TWinControl::OnMouseWheelUp>("OnMouseWheelUp");
 }
 template <class T>
 void FocusEvents(TClassBuilder<T>& builder) {

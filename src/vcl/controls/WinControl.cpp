@@ -143,6 +143,14 @@ void TWinControl::CMBiDiModeChanged(TMessage& message) {
   NotifyControls(CM_PARENTBIDIMODECHANGED);
 }
 
+/// A control in somebody's layout has a window above it instead of a parent.
+void TWinControl::CMParentBiDiModeChanged(TMessage& message) {
+  if (GetParent()) return TControl::CMParentBiDiModeChanged(message);
+  if (!IsParentBiDiMode() || !HandleAllocated()) return;
+  SetBiDiMode(FWindow->layoutDirection() == Qt::RightToLeft ? bdRightToLeft : bdLeftToRight);
+  SetParentBiDiMode(true);
+}
+
 void TWinControl::CMShowHintChanged(TMessage&) { NotifyControls(CM_PARENTSHOWHINTCHANGED); }
 
 }  // namespace kt

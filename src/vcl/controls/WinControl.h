@@ -82,6 +82,11 @@ class TWinControl : public TControl {
   TKeyEvent OnKeyDown;
   TKeyPressEvent OnKeyPress;
   TKeyEvent OnKeyUp;
+  /// The wheel, turned up and down. What no handler uses goes by its steps to the two below, then to the control's own
+  /// behaviour, then to the parent.
+  TMouseWheelEvent OnMouseWheel;
+  TMouseWheelUpDownEvent OnMouseWheelDown;
+  TMouseWheelUpDownEvent OnMouseWheelUp;
 
  protected:
   friend class TControl;
@@ -141,11 +146,14 @@ class TWinControl : public TControl {
   virtual bool WantsKey(quint16 key);
   /// Text from an input method; false leaves it to the widget.
   virtual bool InputText(const QString& text);
-  /// Turns of the wheel, in eighths of a degree; true when used.
+  /// Turns of the wheel, in eighths of a degree; true when used. The inherited one asks the handlers of upright turns.
+  /// After a handler the control may be gone; then the answer is true.
   virtual bool DoMouseWheel(TShiftState shift, int delta, bool isHorizontal, QPoint position);
 
   /// Whether a menu here or further out has the key as a short cut; clicks its item.
   virtual bool IsMenuKey(quint16 key, TShiftState shift);
+  /// Whether an action of this form has the key as a short cut; does it.
+  virtual bool IsActionKey(quint16, TShiftState) { return false; }
 
   /// Result 1: a menu was open, or a handler has seen to it.
   virtual void WMContextMenu(TMessage& message);
@@ -162,6 +170,7 @@ class TWinControl : public TControl {
   void CMFontChanged(TMessage& message) override;
   void CMColorChanged(TMessage& message) override;
   void CMBiDiModeChanged(TMessage& message) override;
+  void CMParentBiDiModeChanged(TMessage& message) override;
   void CMShowHintChanged(TMessage& message) override;
   void CMVisibleChanged(TMessage& message) override;
   void CMEnabledChanged(TMessage& message) override;
@@ -199,6 +208,8 @@ class TWinControl : public TControl {
   QWidget* FWindow = nullptr;
   TControlBody* FBody = nullptr;
   int FTabOrder = -1;
+  /// What was turned since the last whole step.
+  int FWheelRest = 0;
   int FAlignLevel = 0;
   bool FTabStop = false;
   bool FIsAligning = false;

@@ -1,5 +1,6 @@
 // Keys, focus and the wheel of TWinControl.
 #include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/controls/ControlBody.h"
 #include "kt/vcl/controls/Focus.h"
 #include "kt/vcl/controls/KeyCodes.h"
@@ -9,10 +10,14 @@
 
 #include <QLatin1StringView>
 
+#include <cstdlib>
+
 namespace kt {
 
 namespace {
 
+/// A step of the wheel in eighths of a degree.
+constexpr int kWheelStep = 120;
 constexpr QLatin1StringView SCannotFocus{"Cannot focus a disabled or invisible window"};
 
 }  // namespace
@@ -63,6 +68,8 @@ void TWinControl::DispatchKey(TMessage& message) {
     if (parent->PreviewKey(message)) return;
   }
   const auto shift = TShiftState::FromBits(static_cast<quint32>(message.LParam));
+  // A handler that frees the control has taken the key.
+  const TLifeWatch self(this);
   if (message.Msg == WM_CHAR) {
     QChar character(static_cast<char16_t>(message.WParam));
     KeyPress(character);
@@ -77,7 +84,7 @@ void TWinControl::DispatchKey(TMessage& message) {
     }
     message.WParam = key;
   }
-  if (message.WParam != 0) DefaultHandler(message);
+  if (self.IsAlive() && message.WParam != 0) DefaultHandler(message);
 }
 
 void TWinControl::DefaultHandler(TMessage& message) {
@@ -130,7 +137,22 @@ bool TWinControl::InputText(const QString& text) {
   return true;
 }
 
-bool TWinControl::DoMouseWheel(TShiftState, int, bool, QPoint) { return false; }
+bool TWinControl::DoMouseWheel(TShiftState shift, int delta, bool isHorizontal, QPoint position) {
+  if (isHorizontal || !(OnMouseWheel || OnMouseWheelDown || OnMouseWheelUp)) return false;
+  const QPoint place = ClientToScreen(position);
+  const TLifeWatch self(this);
+  bool isUsed = false;
+  OnMouseWheel(this, shift, delta, place, isUsed);
+  if (!self.IsAlive() || isUsed) return true;
+  for (FWheelRest += delta; std::abs(FWheelRest) >= kWheelStep;) {
+    const bool isUp = FWheelRest > 0;
+    FWheelRest += isUp ? -kWheelStep : kWheelStep;
+    const TMouseWheelUpDownEvent handler = isUp ? OnMouseWheelUp : OnMouseWheelDown;
+    handler(this, shift, place, isUsed);
+    if (!self.IsAlive()) return true;
+  }
+  return isUsed;
+}
 
 bool TWinControl::Focused() const { return HandleAllocated() && FWindow->hasFocus(); }
 

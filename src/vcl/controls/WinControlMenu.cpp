@@ -7,8 +7,11 @@ namespace kt {
 
 bool TWinControl::IsMenuKey(quint16 key, TShiftState shift) {
   if (HasState(csDesigning)) return false;
+  const TLifeWatch self(this);
   for (TWinControl* control = this; control; control = control->GetParent()) {
     if (control->GetPopupMenu() && control->GetPopupMenu()->IsShortCut(key, shift)) return true;
+    // Who was freed by an action that was not done in the end has no use for the key either.
+    if (control->IsActionKey(key, shift) || !self.IsAlive()) return true;
   }
   return false;
 }

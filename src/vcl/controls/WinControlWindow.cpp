@@ -1,4 +1,5 @@
 // The window of TWinControl.
+#include "kt/vcl/actions/IdleActions.h"
 #include "kt/vcl/controls/ControlBody.h"
 #include "kt/vcl/controls/Focus.h"
 #include "kt/vcl/controls/WinControl.h"
@@ -28,6 +29,7 @@ void TWinControl::HandleNeeded() {
   if (GetParent()) GetParent()->HandleNeeded();
   // The parent makes the windows of its children.
   if (!HandleAllocated()) CreateWnd();
+  if (!GetParent()) Perform(CM_PARENTBIDIMODECHANGED);
 }
 
 QWidget* TWinControl::GetHandle() {
@@ -62,6 +64,7 @@ void TWinControl::TakeWindowAlong() {
 }
 
 void TWinControl::InitializeWindow() {
+  TIdleActions::Arm();
   FWindow->setAttribute(Qt::WA_OpaquePaintEvent, FControlStyle.Has(csOpaque));
   UpdateFocusPolicy();
   FWindow->setMouseTracking(true);

@@ -48,6 +48,11 @@ void TApplication::SetHint(const QString& value) {
   OnHint(this);
 }
 
+void TApplication::SetShowHint(bool value) {
+  FShowHint = value;
+  if (!value) HideControlHint();
+}
+
 void TApplication::SetMainForm(TCustomForm* value) {
   if (FMainForm == value) return;
   if (FMainForm) RemoveFreeNotification(FMainForm);

@@ -3,6 +3,8 @@
 #include "kt/rtl/objects/Component.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/typeinfo/Event.h"
+#include "kt/vcl/controls/Hints.h"
+#include "kt/vcl/graphics/Color.h"
 
 #include <exception>
 #include <functional>
@@ -49,8 +51,27 @@ class TApplication : public TComponent {
   /// In a message box, or on standard error where there is no display.
   void ShowException(const Exception& error);
 
+  // Hints beside controls, for the whole program.
+
+  bool IsShowHint() const { return FShowHint; }
+  /// Setting it to false takes the one away that shows.
+  void SetShowHint(bool value);
+  /// How long the mouse has to rest over a control, and how long its hint shows, in milliseconds.
+  int GetHintPause() const { return FHintPause; }
+  void SetHintPause(int value) { FHintPause = value; }
+  int GetHintHidePause() const { return FHintHidePause; }
+  void SetHintHidePause(int value) { FHintHidePause = value; }
+  /// What hints are written on; the system's colour by default.
+  TColor GetHintColor() const { return FHintColor; }
+  void SetHintColor(TColor value) { FHintColor = value; }
+  /// Whether hints of controls with an action tell its short cut.
+  bool IsHintShortCuts() const { return FHintShortCuts; }
+  void SetHintShortCuts(bool value) { FHintShortCuts = value; }
+
   TExceptionEvent OnException;
   TNotifyEvent OnHint;
+  /// A hint is about to be shown beside a control.
+  TShowHintEvent OnShowHint;
 
  protected:
   friend TApplication& Application();
@@ -63,6 +84,11 @@ class TApplication : public TComponent {
   QString FTitle;
   QString FHint;
   TCustomForm* FMainForm = nullptr;
+  int FHintPause = 500;
+  int FHintHidePause = 2500;
+  TColor FHintColor = clInfoBk;
+  bool FHintShortCuts = true;
+  bool FShowHint = true;
   bool FTerminated = false;
 };
 

@@ -1,9 +1,12 @@
 #include "kt/vcl/forms/Form.h"
 
 #include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/rtl/streams/FormConversion.h"
 #include "kt/rtl/streams/Reader.h"
+#include "kt/rtl/streams/TextPlaces.h"
+#include "kt/vcl/actions/ActionList.h"
 #include "kt/vcl/controls/KeyCodes.h"
 #include "kt/vcl/forms/Application.h"
 #include "kt/vcl/forms/Screen.h"
@@ -42,6 +45,17 @@ void TCustomForm::Destruct() {
 void TCustomForm::Notification(TComponent* component, TOperation operation) {
   TCustomControl::Notification(component, operation);
   if (operation == opRemove && component == FActiveControl) FActiveControl = nullptr;
+  if (operation == opRemove) std::erase(FActionLists, component);
+  auto* list = operation == opInsert ? dynamic_cast<TCustomActionList*>(component) : nullptr;
+  if (list && list->GetOwnerComponent() == this) FActionLists.push_back(list);
+}
+
+bool TCustomForm::IsActionKey(quint16 key, TShiftState shift) {
+  const TLifeWatch self(this);
+  for (size_t i = 0; self.IsAlive() && i < FActionLists.size(); ++i) {
+    if (FActionLists[i]->IsShortCut(key, shift)) return true;
+  }
+  return !self.IsAlive();
 }
 
 void TCustomForm::GetChildren(const TGetChildProc& proc, TComponent* root) {
@@ -130,6 +144,7 @@ void ReadFormText(TCustomForm& form, const QByteArray& text) {
   QByteArray binary;
   ObjectTextToBinary(text, binary);
   TReader reader(binary);
+  reader.SetPlaceWording(PlacesInText(text));
   reader.ReadRootComponent(&form);
 }
 

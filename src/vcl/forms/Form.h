@@ -3,9 +3,13 @@
 #include "kt/vcl/controls/CustomControl.h"
 #include "kt/vcl/forms/FormTypes.h"
 
+#include <vector>
+
 class QEventLoop;
 
 namespace kt {
+
+class TCustomActionList;
 
 /// A window of its own with controls in it.
 ///
@@ -87,6 +91,7 @@ class TCustomForm : public TCustomControl {
   void CMVisibleChanged(TMessage& message) override;
   void Loaded() override;
   bool PreviewKey(TMessage& message) override;
+  bool IsActionKey(quint16 key, TShiftState shift) override;
   void ControlFocused(TWinControl* control) override;
   virtual void DoClose(TCloseAction& action) { OnClose(this, action); }
 
@@ -100,6 +105,8 @@ class TCustomForm : public TCustomControl {
   TPosition FPosition = poDefaultPosOnly;
   TWindowState FWindowState = wsNormal;
   TWinControl* FActiveControl = nullptr;
+  /// The lists of actions that the form owns.
+  std::vector<TCustomActionList*> FActionLists;
   QEventLoop* FModalLoop = nullptr;
   TModalResult FModalResult = mrNone;
   int FPixelsPerInch = 96;

@@ -13,13 +13,14 @@ const TClassInfo* TForm::Class() {
   static const TClassInfo info = [] {
     TClassBuilder<TForm> builder("TForm");
     builder.Property<&TForm::GetActiveControl, &TForm::SetActiveControl>("ActiveControl");
+    Publish::Action(builder);
     Publish::Align(builder);
     Publish::Anchors(builder);
     Publish::BiDiMode(builder);
     builder.Property<&TForm::GetBorderIcons, &TForm::SetBorderIcons>("BorderIcons")
         .Default(TBorderIcons{biSystemMenu, biMinimize, biMaximize});
     builder.Property<&TForm::GetBorderStyle, &TForm::SetBorderStyle>("BorderStyle").Default(bsSizeable);
-    builder.Property<&TForm::GetCaption, &TForm::SetCaption>("Caption");
+    builder.Property<&TForm::GetCaption, &TForm::SetCaption>("Caption").Stored(&TControl::IsCaptionStored);
     builder.Property<&TControl::GetClientHeight, &TControl::SetClientHeight>("ClientHeight");
     builder.Property<&TControl::GetClientWidth, &TControl::SetClientWidth>("ClientWidth");
     Publish::Color(builder);
@@ -37,10 +38,12 @@ const TClassInfo* TForm::Class() {
     builder.Property<&TForm::GetPosition, &TForm::SetPosition>("Position").Default(poDefaultPosOnly);
     Publish::ShowHint(builder);
     builder.Property<&TForm::GetTextHeight, &TForm::SetTextHeight>("TextHeight");
-    builder.Property<&TControl::IsVisible, &TControl::SetVisible>("Visible").Default(false);
+    builder.Property<&TControl::IsVisible, &TControl::SetVisible>("Visible").Default(false).Stored(
+        &TControl::IsVisibleStored);
     builder.Property<&TForm::GetWindowState, &TForm::SetWindowState>("WindowState").Default(wsNormal);
     builder.Property<&TForm::OnActivate>("OnActivate");
     Publish::MouseEvents(builder);
+    Publish::WheelEvents(builder);
     builder.Property<&TForm::OnClose>("OnClose");
     builder.Property<&TForm::OnCloseQuery>("OnCloseQuery");
     builder.Property<&TForm::OnCreate>("OnCreate");

@@ -9,7 +9,7 @@
 namespace kt {
 namespace {
 
-constexpr TNamedInteger kEntries[] = {
+constexpr TNamedInteger kColorEntries[] = {
     {"clBlack", clBlack},
     {"clMaroon", clMaroon},
     {"clGreen", clGreen},
@@ -63,7 +63,7 @@ constexpr TNamedInteger kEntries[] = {
     {"clWindowFrame", clWindowFrame},
     {"clWindowText", clWindowText},
 };
-constexpr TNamedIntegers kNames(kEntries);
+constexpr TNamedIntegers kColorNames(kColorEntries);
 
 }  // namespace
 
@@ -74,19 +74,19 @@ const TTypeInfo* TTypeOf<TColor>::Info() {
 }
 
 bool IdentToColor(QStringView ident, TColor& color) {
-  const auto value = kNames.ValueOf(ident);
+  const auto value = kColorNames.ValueOf(ident);
   if (value) color = static_cast<TColor>(*value);
   return value.has_value();
 }
 
 bool ColorToIdent(TColor color, QString& ident) {
-  const QString name = kNames.NameOf(color);
+  const QString name = kColorNames.NameOf(color);
   if (!name.isEmpty()) ident = name;
   return !name.isEmpty();
 }
 
 QString ColorToString(TColor color) {
-  const QString name = kNames.NameOf(color);
+  const QString name = kColorNames.NameOf(color);
   return name.isEmpty() ? Format(u"$%.8x", {static_cast<qint32>(color)}) : name;
 }
 
@@ -96,9 +96,9 @@ TColor StringToColor(QStringView text) {
 }
 
 void GetColorValues(const std::function<void(const QString&)>& proc) {
-  for (const TNamedInteger& entry : kNames.Entries()) proc(QString::fromLatin1(entry.Name));
+  for (const TNamedInteger& entry : kColorNames.Entries()) proc(QString::fromLatin1(entry.Name));
 }
 
-void RegisterColorNames() { kNames.RegisterFor(TypeInfoOf<TColor>()); }
+void RegisterColorNames() { kColorNames.RegisterFor(TypeInfoOf<TColor>()); }
 
 }  // namespace kt

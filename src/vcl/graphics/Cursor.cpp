@@ -8,7 +8,7 @@
 namespace kt {
 namespace {
 
-constexpr TNamedInteger kEntries[] = {
+constexpr TNamedInteger kCursorEntries[] = {
     {"crDefault", crDefault},
     {"crArrow", crArrow},
     {"crCross", crCross},
@@ -34,7 +34,7 @@ constexpr TNamedInteger kEntries[] = {
 };
 /// Names at the end that are read and no longer offered.
 constexpr size_t kRetired = 1;
-constexpr TNamedIntegers kNames(kEntries);
+constexpr TNamedIntegers kCursorNames(kCursorEntries);
 
 }  // namespace
 
@@ -45,19 +45,19 @@ const TTypeInfo* TTypeOf<TCursor>::Info() {
 }
 
 bool IdentToCursor(QStringView ident, TCursor& cursor) {
-  const auto value = kNames.ValueOf(ident);
+  const auto value = kCursorNames.ValueOf(ident);
   if (value) cursor = static_cast<TCursor>(*value);
   return value.has_value();
 }
 
 bool CursorToIdent(TCursor cursor, QString& ident) {
-  const QString name = kNames.NameOf(cursor);
+  const QString name = kCursorNames.NameOf(cursor);
   if (!name.isEmpty()) ident = name;
   return !name.isEmpty();
 }
 
 QString CursorToString(TCursor cursor) {
-  const QString name = kNames.NameOf(cursor);
+  const QString name = kCursorNames.NameOf(cursor);
   return name.isEmpty() ? QString::number(cursor) : name;
 }
 
@@ -67,10 +67,10 @@ TCursor StringToCursor(QStringView text) {
 }
 
 void GetCursorValues(const std::function<void(const QString&)>& proc) {
-  const auto offered = kNames.Entries().first(kNames.Entries().size() - kRetired);
+  const auto offered = kCursorNames.Entries().first(kCursorNames.Entries().size() - kRetired);
   for (const TNamedInteger& entry : offered) proc(QString::fromLatin1(entry.Name));
 }
 
-void RegisterCursorNames() { kNames.RegisterFor(TypeInfoOf<TCursor>()); }
+void RegisterCursorNames() { kCursorNames.RegisterFor(TypeInfoOf<TCursor>()); }
 
 }  // namespace kt

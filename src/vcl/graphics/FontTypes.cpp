@@ -5,7 +5,7 @@
 namespace kt {
 namespace {
 
-constexpr TNamedInteger kEntries[] = {
+constexpr TNamedInteger kCharsetEntries[] = {
     {"ANSI_CHARSET", ANSI_CHARSET},
     {"DEFAULT_CHARSET", DEFAULT_CHARSET},
     {"SYMBOL_CHARSET", SYMBOL_CHARSET},
@@ -26,7 +26,7 @@ constexpr TNamedInteger kEntries[] = {
     {"EASTEUROPE_CHARSET", EASTEUROPE_CHARSET},
     {"OEM_CHARSET", OEM_CHARSET},
 };
-constexpr TNamedIntegers kNames(kEntries);
+constexpr TNamedIntegers kCharsetNames(kCharsetEntries);
 
 }  // namespace
 
@@ -41,21 +41,21 @@ const TTypeInfo* FontNameTypeInfo() {
 }
 
 bool IdentToCharset(QStringView ident, TFontCharset& charset) {
-  const auto value = kNames.ValueOf(ident);
+  const auto value = kCharsetNames.ValueOf(ident);
   if (value) charset = static_cast<TFontCharset>(*value);
   return value.has_value();
 }
 
 bool CharsetToIdent(TFontCharset charset, QString& ident) {
-  const QString name = kNames.NameOf(charset);
+  const QString name = kCharsetNames.NameOf(charset);
   if (!name.isEmpty()) ident = name;
   return !name.isEmpty();
 }
 
 void GetCharsetValues(const std::function<void(const QString&)>& proc) {
-  for (const TNamedInteger& entry : kNames.Entries()) proc(QString::fromLatin1(entry.Name));
+  for (const TNamedInteger& entry : kCharsetNames.Entries()) proc(QString::fromLatin1(entry.Name));
 }
 
-void RegisterCharsetNames() { kNames.RegisterFor(TypeInfoOf<TFontCharset>()); }
+void RegisterCharsetNames() { kCharsetNames.RegisterFor(TypeInfoOf<TFontCharset>()); }
 
 }  // namespace kt

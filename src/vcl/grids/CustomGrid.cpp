@@ -1,5 +1,6 @@
 #include "kt/vcl/grids/CustomGrid.h"
 
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/grids/GridScrollBar.h"
 #include "kt/vcl/grids/InplaceEdit.h"
@@ -91,15 +92,18 @@ void TCustomGrid::CMExit(TMessage& message) {
 }
 
 void TCustomGrid::DoExit() {
+  const TLifeWatch self(this);
   TCustomControl::DoExit();
-  if (!FOptions.Has(goAlwaysShowEditor)) HideEditor();
+  if (self.IsAlive() && !FOptions.Has(goAlwaysShowEditor)) HideEditor();
 }
 
 void TCustomGrid::WMSetFocus(TMessage& message) {
+  const TLifeWatch self(this);
   TCustomControl::WMSetFocus(message);
+  if (!self.IsAlive()) return;
   InvalidateCells(GetSelection());
   UpdateEdit();
-  if (FInplaceEdit && FInplaceEdit->Visible()) FInplaceEdit->SetFocus();
+  if (self.IsAlive() && FInplaceEdit && FInplaceEdit->Visible()) FInplaceEdit->SetFocus();
 }
 
 void TCustomGrid::WMKillFocus(TMessage& message) {
@@ -110,8 +114,9 @@ void TCustomGrid::WMKillFocus(TMessage& message) {
 void TCustomGrid::CMShowingChanged(TMessage& message) {
   TCustomControl::CMShowingChanged(message);
   if (!IsShowing()) return;
+  const TLifeWatch self(this);
   ScrollBarsNeedUpdate();
-  UpdateEdit();
+  if (self.IsAlive()) UpdateEdit();
 }
 
 void TCustomGrid::CMBiDiModeChanged(TMessage& message) {
@@ -133,19 +138,22 @@ void TCustomGrid::WMCancelMode(TMessage& message) {
 
 bool TCustomGrid::InputText(const QString& text) {
   // What an input method composes goes where it is typed.
-  if (FOptions.Has(goEditing) && !FInplaceEdit) ShowEditor();
+  const bool hasEditor = FInplaceEdit && FInplaceEdit->Visible();
+  const TLifeWatch self(this);
+  if (FOptions.Has(goEditing) && !hasEditor) ShowEditor();
+  if (!self.IsAlive()) return true;
   return TCustomControl::InputText(text);
 }
 
 void TCustomGrid::SizeChanged(int, int) {}
 void TCustomGrid::TopLeftChanged() { MoveEditor(); }
-void TCustomGrid::ColWidthsChanged() {
+void TCustomGrid::ColWidthsChanged() { SizesChanged(); }
+void TCustomGrid::RowHeightsChanged() { SizesChanged(); }
+/// Scroll bars that come or go change the client area, and OnResize may free the grid.
+void TCustomGrid::SizesChanged() {
+  const TLifeWatch self(this);
   ScrollBarsNeedUpdate();
-  MoveEditor();
-}
-void TCustomGrid::RowHeightsChanged() {
-  ScrollBarsNeedUpdate();
-  MoveEditor();
+  if (self.IsAlive()) MoveEditor();
 }
 void TCustomGrid::ColumnMoved(int, int) {}
 void TCustomGrid::RowMoved(int, int) {}

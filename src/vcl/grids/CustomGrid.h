@@ -65,6 +65,8 @@ class TCustomGrid : public TCustomControl {
   int GetGridWidth() const;
   int GetGridHeight() const;
 
+  void Invalidate() override;
+
   // Current cell, selection and scroll position.
   int GetCol() const { return FCurrent.X; }
   /// Moves the current cell, if SelectCell() allows it, and scrolls it into view.
@@ -198,6 +200,7 @@ class TCustomGrid : public TCustomControl {
   void InvalidateCell(int col, int row);
   void InvalidateCol(int col);
   void InvalidateRow(int row);
+  void InvalidateCells(const TGridRect& cells);
   void InvalidateGrid() { Invalidate(); }
 
   /// Where the cells lie; the scrolled ones too, for the present client area.
@@ -237,15 +240,15 @@ class TCustomGrid : public TCustomControl {
   void ChangeSize(int newColCount, int newRowCount);
   void KeepCurrentInside();
   void SetSize(TGridAxis& axis, int index, int value);
+  void SizesChanged();
   void SelectionMoved(const TGridRect& oldSelection);
   void CheckIndex(const TGridAxis& axis, int index) const;
   int LineWidth(TGridOption fixedLine, TGridOption line) const;
-  void InvalidateCells(const TGridRect& cells);
   QRect CellsRect(const TGridDrawInfo& info, const TGridRect& cells) const;
 
   // The editor.
   void UpdateEdit();
-  void UpdateEditor();
+  bool UpdateEditor();
   void UpdateText();
   void HideEdit();
   void ValidateEditor();

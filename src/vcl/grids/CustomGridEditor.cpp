@@ -1,4 +1,5 @@
 // What TCustomGrid has to do with its in-place editor.
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/Make.h"
 #include "kt/vcl/controls/Focus.h"
 #include "kt/vcl/forms/Form.h"
@@ -45,8 +46,9 @@ void TCustomGrid::SetEditorMode(bool value) {
     ValidateEditor();
     return HideEditor();
   }
+  const TLifeWatch self(this);
   ShowEditor();
-  if (FInplaceEdit) FInplaceEdit->Deselect();
+  if (self.IsAlive() && FInplaceEdit) FInplaceEdit->Deselect();
 }
 
 void TCustomGrid::ShowEditor() {
@@ -55,8 +57,9 @@ void TCustomGrid::ShowEditor() {
 }
 
 void TCustomGrid::ShowEditorChar(QChar character) {
+  const TLifeWatch self(this);
   ShowEditor();
-  if (FInplaceEdit && FInplaceEdit->Visible()) FInplaceEdit->Perform(WM_CHAR, character.unicode());
+  if (self.IsAlive() && FInplaceEdit && FInplaceEdit->Visible()) FInplaceEdit->Perform(WM_CHAR, character.unicode());
 }
 
 void TCustomGrid::HideEditor() {
@@ -65,32 +68,48 @@ void TCustomGrid::HideEditor() {
 }
 
 void TCustomGrid::InvalidateEditor() {
+  const bool isInPlace = FInplaceEdit && FInplaceEdit->Visible() && FInplaceCell == FCurrent && CanEditShow();
   FInplaceCell = {-1, -1};
-  UpdateEdit();
+  if (!isInPlace) return UpdateEdit();
+  // Without going and coming back, which would take the keyboard along and repaint what is beneath.
+  if (UpdateEditor() && CanEditShow()) FInplaceEdit->UpdateLoc(CellRect(FCurrent.X, FCurrent.Y));
 }
 
 void TCustomGrid::UpdateEdit() {
   // The keyboard comes back from an editor that dies; that one gets no new window.
   if (!CanEditShow() || (FInplaceEdit && FInplaceEdit->HasState(csDestroying))) return;
+  const TLifeWatch self(this);
+  bool isThere = true;
   if (!FInplaceEdit) {
     FInplaceEdit = CreateEditor();
     if (!FInplaceEdit) return;
     FInplaceEdit->SetGrid(this);
     FInplaceEdit->SetParent(this);
-    UpdateEditor();
+    isThere = UpdateEditor();
   } else if (FInplaceCell != FCurrent) {
     HideEdit();
-    UpdateEditor();
+    isThere = self.IsAlive() && UpdateEditor();
   }
   // The texts come from handlers, which may have changed anything.
-  if (FInplaceEdit && CanEditShow()) FInplaceEdit->Move(CellRect(FCurrent.X, FCurrent.Y));
+  if (isThere && CanEditShow()) FInplaceEdit->Move(CellRect(FCurrent.X, FCurrent.Y));
 }
 
-void TCustomGrid::UpdateEditor() {
-  if (!FInplaceEdit) return;
+/// False when there is no editor afterwards, and perhaps no grid.
+bool TCustomGrid::UpdateEditor() {
+  if (!FInplaceEdit) return false;
+  const TLifeWatch self(this);
   FInplaceCell = FCurrent;
-  FInplaceEdit->UpdateContents();
+  try {
+    FInplaceEdit->UpdateContents();
+  } catch (...) {
+    // It has half of its contents, which must not get into the cell.
+    if (self.IsAlive()) FInplaceCell = {-1, -1};
+    if (self.IsAlive() && FInplaceEdit) FInplaceEdit->Hide();
+    throw;
+  }
+  if (!self.IsAlive()) return false;
   FCanEditModify = true;
+  return FInplaceEdit != nullptr;
 }
 
 void TCustomGrid::UpdateText() {
@@ -104,7 +123,9 @@ void TCustomGrid::HideEdit() {
   if (!FInplaceEdit) return;
   struct TGone {
     TCustomGrid& Grid;
+    TLifeWatch Watch{&Grid};
     ~TGone() {
+      if (!Watch.IsAlive()) return;
       Grid.FInplaceCell = {-1, -1};
       if (Grid.FInplaceEdit) Grid.FInplaceEdit->Hide();
     }

@@ -1,4 +1,5 @@
 // What the keys do in TCustomGrid.
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/controls/VirtualKeys.h"
 #include "kt/vcl/grids/CustomGrid.h"
 
@@ -28,7 +29,9 @@ void TCustomGrid::CMWantSpecialKey(TMessage& message) {
 }
 
 void TCustomGrid::KeyDown(quint16& key, TShiftState shift) {
+  const TLifeWatch self(this);
   TCustomControl::KeyDown(key, shift);
+  if (!self.IsAlive()) return;
   if (!CanGridAcceptKey(key, shift)) key = 0;
   if (key == 0) return;
   const TGridDrawInfo info = CalcDrawInfo();
@@ -39,17 +42,18 @@ void TCustomGrid::KeyDown(quint16& key, TShiftState shift) {
                 std::max(info.Vert.LastFullVisibleCell - FRows.First, 1),
                 UseRightToLeftAlignment() ? -1 : 1};
   const bool isKnown = shift.Has(ssCtrl) ? MoveByCtrlKey(key, move, info) : MoveByKey(key, shift, move);
-  if (!isKnown) return;
+  if (!self.IsAlive() || !isKnown) return;
   const TGridCoord topLeft{std::clamp(move.TopLeft.X, FCols.Fixed, FCols.MaxFirst(info.Horz)),
                            std::clamp(move.TopLeft.Y, FRows.Fixed, FRows.MaxFirst(info.Vert))};
   if (topLeft != TGridCoord{FCols.First, FRows.First} && move.TopLeft != TGridCoord{FCols.First, FRows.First}) {
     MoveTopLeft(topLeft.X, topLeft.Y);
   }
+  if (!self.IsAlive()) return;
   const TGridCoord current{std::clamp(move.Current.X, FCols.Fixed, FCols.Count - 1),
                            std::clamp(move.Current.Y, FRows.Fixed, FRows.Count - 1)};
   if (current != FCurrent) FocusCell(current.X, current.Y, key == VK_TAB || !shift.Has(ssShift));
   // Used, whether or not there was somewhere to go.
-  FIsKeyUsed = true;
+  if (self.IsAlive()) FIsKeyUsed = true;
 }
 
 bool TCustomGrid::MoveByCtrlKey(quint16 key, TKeyMove& move, const TGridDrawInfo& info) {

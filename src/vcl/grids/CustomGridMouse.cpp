@@ -1,4 +1,5 @@
 // What the mouse does in TCustomGrid.
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/vcl/grids/CustomGrid.h"
 
@@ -17,12 +18,15 @@ constexpr int kMouseLineWidth = 2;
 }  // namespace
 
 void TCustomGrid::MouseDown(TMouseButton button, TShiftState shift, int x, int y) {
+  const TLifeWatch self(this);
   if (!HasState(csDesigning) && CanFocus() && HandleAllocated()) {
     if (!IsActiveControl() || !Focused()) SetFocus();
+    if (!self.IsAlive()) return;
     if (!IsActiveControl()) return SetMouseCapture(false);
   }
   if (button == mbLeft && !shift.Has(ssDouble)) {
     PressCell(shift, x, y);
+    if (!self.IsAlive()) return;
     if (FGridState == gsColSizing || FGridState == gsRowSizing) return;
   }
   TCustomControl::MouseDown(button, shift, x, y);
@@ -41,13 +45,15 @@ void TCustomGrid::PressCell(TShiftState shift, int x, int y) {
 
 void TCustomGrid::PressInnerCell(TShiftState shift, TGridCoord hit) {
   if (FOptions.Has(goEditing)) {
+    const TLifeWatch self(this);
     if (hit == FCurrent) {
       ShowEditor();
     } else {
       MoveCurrent(hit.X, hit.Y, true, true);
-      UpdateEdit();
+      if (self.IsAlive()) UpdateEdit();
     }
-    return Click();
+    if (self.IsAlive()) Click();
+    return;
   }
   FGridState = gsSelecting;
   StartScrollTimer();
@@ -70,8 +76,9 @@ void TCustomGrid::MoveAnchor(TGridCoord cell) {
   const TGridRect oldSelection = GetSelection();
   FAnchor = cell;
   if (FOptions.Has(goRowSelect)) FAnchor.X = FCols.Count - 1;
+  const TLifeWatch self(this);
   ClampInView(cell);
-  SelectionMoved(oldSelection);
+  if (self.IsAlive()) SelectionMoved(oldSelection);
 }
 
 TGridCoord TCustomGrid::NearestCell(int x, int y) const {
@@ -87,6 +94,7 @@ TGridCoord TCustomGrid::NearestCell(int x, int y) const {
 }
 
 void TCustomGrid::MouseMove(TShiftState shift, int x, int y) {
+  const TLifeWatch self(this);
   FMousePoint = {x, y};
   switch (FGridState) {
     case gsNormal:
@@ -106,7 +114,7 @@ void TCustomGrid::MouseMove(TShiftState shift, int x, int y) {
       DragTo(x, y);
       break;
   }
-  TCustomControl::MouseMove(shift, x, y);
+  if (self.IsAlive()) TCustomControl::MouseMove(shift, x, y);
 }
 
 void TCustomGrid::DragEdge(int x, int y) {
@@ -123,20 +131,23 @@ void TCustomGrid::DragTo(int x, int y) {
   if (target == FMouse.Position) return;
   InvalidateMouseLine();
   FMouse.Position = target;
+  const TLifeWatch self(this);
   ClampInView(FGridState == gsRowMoving ? TGridCoord{FCols.First, target} : TGridCoord{target, FRows.First});
-  InvalidateMouseLine();
+  if (self.IsAlive()) InvalidateMouseLine();
 }
 
 int TCustomGrid::FromStart(int x) const { return UseRightToLeftAlignment() ? GetClientWidth() - 1 - x : x; }
 
 void TCustomGrid::MouseUp(TMouseButton button, TShiftState shift, int x, int y) {
+  // Handlers of what happens here may free the grid.
+  const TLifeWatch self(this);
   const TGridState state = std::exchange(FGridState, gsNormal);
   FScrollTimer.reset();
   if (state != gsNormal) Invalidate();
   switch (state) {
     case gsSelecting:
       UpdateEdit();
-      Click();
+      if (self.IsAlive()) Click();
       break;
     case gsColSizing:
     case gsRowSizing:
@@ -147,17 +158,17 @@ void TCustomGrid::MouseUp(TMouseButton button, TShiftState shift, int x, int y) 
       break;
     case gsColMoving:
       if (FMouse.Index != FMouse.Position) MoveColumn(FMouse.Index, FMouse.Position);
-      UpdateEdit();
+      if (self.IsAlive()) UpdateEdit();
       break;
     case gsRowMoving:
       if (FMouse.Index != FMouse.Position) MoveRow(FMouse.Index, FMouse.Position);
-      UpdateEdit();
+      if (self.IsAlive()) UpdateEdit();
       break;
     case gsNormal:
       UpdateEdit();
       break;
   }
-  TCustomControl::MouseUp(button, shift, x, y);
+  if (self.IsAlive()) TCustomControl::MouseUp(button, shift, x, y);
 }
 
 void TCustomGrid::EndSizing(TGridState state) {

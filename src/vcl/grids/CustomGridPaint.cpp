@@ -8,17 +8,20 @@
 #include <QPainter>
 #include <QStyleOption>
 
+#include <algorithm>
+#include <cmath>
 #include <vector>
 
 namespace kt {
 
-namespace {
-
+/// A cell's place in one direction.
 struct TCellSpan {
   int Index;
   int Start;
   int End;
 };
+
+namespace {
 
 /// The cells of a direction that lie between two positions.
 std::vector<TCellSpan> SpansBetween(const TGridAxisDrawInfo& info, int from, int to) {
@@ -97,8 +100,25 @@ class TCustomGrid::TPainting {
     const bool hasHorizontal = options.Has(isFixed ? goFixedHorzLine : goHorzLine);
     const int right = cell.left() + cell.width();
     const int bottom = cell.top() + cell.height();
-    Fill({right, row.Start, column.End - right, row.End - row.Start}, hasVertical ? line : ground);
-    Fill({cell.left(), bottom, cell.width(), row.End - bottom}, hasHorizontal ? line : ground);
+    const QRect vertical(right, row.Start, column.End - right, row.End - row.Start);
+    const QRect horizontal(cell.left(), bottom, cell.width(), row.End - bottom);
+    FillLine(vertical, ground, hasVertical ? line : ground, Qt::Vertical);
+    FillLine(horizontal, ground, hasHorizontal ? line : ground, Qt::Horizontal);
+  }
+  /// Where a pixel of the grid is not a whole number of the screen's, lines would come out thick and thin by turns:
+  /// there each is as many whole pixels as fit, one at least.
+  void FillLine(const QRect& rect, TColor ground, TColor line, Qt::Orientation orientation) {
+    QPainter& painter = FCanvas.Painter();
+    const QTransform toDevice = painter.deviceTransform();
+    const bool isWhole = toDevice.m11() == std::floor(toDevice.m11()) || toDevice.type() > QTransform::TxScale;
+    if (rect.isEmpty() || isWhole || line == ground) return Fill(rect, line);
+    Fill(rect, ground);
+    QRectF place = toDevice.mapRect(QRectF(Mirrored(rect)));
+    place = QRectF(QPointF(std::round(place.left()), std::round(place.top())),
+                   QPointF(std::round(place.right()), std::round(place.bottom())));
+    if (orientation == Qt::Vertical) place.setWidth(std::max(std::floor(rect.width() * toDevice.m11()), 1.0));
+    if (orientation == Qt::Horizontal) place.setHeight(std::max(std::floor(rect.height() * toDevice.m22()), 1.0));
+    painter.fillRect(toDevice.inverted().mapRect(place), FCanvas.RealColor(line));
   }
 
   TGridDrawState StateOf(const TCellSpan& column, const TCellSpan& row) const {
@@ -158,6 +178,16 @@ class TCustomGrid::TPainting {
 void TCustomGrid::Paint() {
   TPainting(*this, GetCanvas().GetClipRect().intersected(GetClientRect())).Run();
   if (FGridState != gsNormal && FGridState != gsSelecting) PaintMouseLine();
+}
+
+void TCustomGrid::Invalidate() {
+  if (!HandleAllocated()) return;
+  // Scroll bars look after themselves, and one costs nearly as much as the cells.
+  QRegion changed(Window()->rect());
+  for (const TGridScrollBar* bar : {FHorzBar, FVertBar}) {
+    if (IsScrollBarShown(bar)) changed -= bar->geometry();
+  }
+  Window()->update(changed);
 }
 
 void TCustomGrid::PaintMouseLine() {

@@ -1,4 +1,5 @@
 // How TCustomGrid scrolls, and its scroll bars.
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/grids/CustomGrid.h"
 #include "kt/vcl/grids/GridScrollBar.h"
 #include "kt/vcl/grids/InplaceEdit.h"
@@ -31,7 +32,9 @@ void TCustomGrid::MoveTopLeft(int leftCol, int topRow) {
   const TGridDrawInfo before = CalcDrawInfo();
   const int oldLeft = std::exchange(FCols.First, leftCol);
   const int oldTop = std::exchange(FRows.First, topRow);
+  const TLifeWatch self(this);
   ScrollBarsNeedUpdate();
+  if (!self.IsAlive()) return;
   ScrollCells(before, oldLeft, oldTop);
   TopLeftChanged();
 }
@@ -152,12 +155,14 @@ void TCustomGrid::PlaceScrollBars() {
 }
 
 void TCustomGrid::Resize() {
+  const TLifeWatch self(this);
   if (!FIsUpdatingBars) ScrollBarsNeedUpdate();
-  TCustomControl::Resize();
-  MoveEditor();
+  if (self.IsAlive()) TCustomControl::Resize();
+  if (self.IsAlive()) MoveEditor();
 }
 
-bool TCustomGrid::DoMouseWheel(TShiftState shift, int delta, bool isHorizontal, QPoint) {
+bool TCustomGrid::DoMouseWheel(TShiftState shift, int delta, bool isHorizontal, QPoint position) {
+  if (TCustomControl::DoMouseWheel(shift, delta, isHorizontal, position)) return true;
   int& rest = isHorizontal ? FWheelRest.rx() : FWheelRest.ry();
   rest += delta * kWheelRows;
   const int cells = rest / kWheelStep;

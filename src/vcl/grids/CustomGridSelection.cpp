@@ -1,4 +1,5 @@
 // Current cell, selection and scroll position of TCustomGrid.
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/grids/CustomGrid.h"
 
 #include <algorithm>
@@ -16,27 +17,32 @@ void TCustomGrid::SetRow(int value) {
 }
 
 void TCustomGrid::FocusCell(int col, int row, bool moveAnchor) {
+  // Its handlers may free the grid.
+  const TLifeWatch self(this);
   MoveCurrent(col, row, moveAnchor, true);
-  UpdateEdit();
-  Click();
+  if (self.IsAlive()) UpdateEdit();
+  if (self.IsAlive()) Click();
 }
 
 void TCustomGrid::MoveCurrent(int col, int row, bool moveAnchor, bool show) {
   CheckIndex(FCols, col);
   CheckIndex(FRows, row);
+  const TLifeWatch self(this);
   if (FCurrent != TGridCoord{col, row}) ValidateEditor();
-  if (!SelectCell(col, row)) return;
+  if (!self.IsAlive() || !SelectCell(col, row) || !self.IsAlive()) return;
   const TGridRect oldSelection = GetSelection();
   const TGridCoord oldCurrent = FCurrent;
   // SelectCell() may have changed the counts.
   FCurrent = {std::min(col, FCols.Count - 1), std::min(row, FRows.Count - 1)};
   if (!FOptions.Has(goAlwaysShowEditor)) HideEditor();
+  if (!self.IsAlive()) return;
   if (moveAnchor || !FOptions.Has(goRangeSelect)) {
     FAnchor = FCurrent;
     if (FOptions.Has(goRowSelect)) FAnchor.X = FCols.Count - 1;
   }
   if (FOptions.Has(goRowSelect)) FCurrent.X = FCols.Fixed;
   if (show) ClampInView(FCurrent);
+  if (!self.IsAlive()) return;
   SelectionMoved(oldSelection);
   InvalidateCell(oldCurrent.X, oldCurrent.Y);
   InvalidateCell(FCurrent.X, FCurrent.Y);

@@ -1,4 +1,5 @@
 // Counts and sizes of TCustomGrid.
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/grids/CustomGrid.h"
 
 #include <algorithm>
@@ -54,19 +55,24 @@ void TCustomGrid::SetFixedRows(int value) {
 void TCustomGrid::ChangeSize(int newColCount, int newRowCount) {
   const int oldColCount = std::exchange(FCols.Count, newColCount);
   const int oldRowCount = std::exchange(FRows.Count, newRowCount);
+  const TLifeWatch self(this);
   try {
     KeepCurrentInside();
   } catch (...) {
-    FCols.Count = oldColCount;
-    FRows.Count = oldRowCount;
+    if (self.IsAlive()) {
+      FCols.Count = oldColCount;
+      FRows.Count = oldRowCount;
+    }
     throw;
   }
+  if (!self.IsAlive()) return;
   FCols.Sizes.Truncate(FCols.Count);
   FTabStops.Truncate(FCols.Count);
   FRows.Sizes.Truncate(FRows.Count);
   FCols.First = std::clamp(FCols.First, FCols.Fixed, FCols.Count - 1);
   FRows.First = std::clamp(FRows.First, FRows.Fixed, FRows.Count - 1);
   ScrollBarsNeedUpdate();
+  if (!self.IsAlive()) return;
   InvalidateGrid();
   GridAccessibility::TellSize(*this);
   SizeChanged(oldColCount, oldRowCount);
@@ -74,7 +80,9 @@ void TCustomGrid::ChangeSize(int newColCount, int newRowCount) {
 
 void TCustomGrid::KeepCurrentInside() {
   const TGridCoord wanted{std::min(FCurrent.X, FCols.Count - 1), std::min(FCurrent.Y, FRows.Count - 1)};
+  const TLifeWatch self(this);
   if (wanted != FCurrent) MoveCurrent(wanted.X, wanted.Y, true, true);
+  if (!self.IsAlive()) return;
   // The cell is gone, whatever SelectCell() says.
   FCurrent = {std::min(FCurrent.X, FCols.Count - 1), std::min(FCurrent.Y, FRows.Count - 1)};
   FAnchor = {std::min(FAnchor.X, FCols.Count - 1), std::min(FAnchor.Y, FRows.Count - 1)};
@@ -98,7 +106,9 @@ void TCustomGrid::SetDefaultRowHeight(int value) {
 void TCustomGrid::SetUsualRowHeight(int value) {
   if (value == GetDefaultRowHeight()) return;
   FRows.Sizes.ChangeUsual(value);
+  const TLifeWatch self(this);
   ScrollBarsNeedUpdate();
+  if (!self.IsAlive()) return;
   MoveEditor();
   InvalidateGrid();
 }
@@ -146,8 +156,9 @@ void TCustomGrid::MoveColumn(int fromIndex, int toIndex) {
   FTabStops.Move(fromIndex, toIndex);
   for (int* col : {&FCurrent.X, &FAnchor.X, &FInplaceCell.X}) *col = AfterMove(*col, fromIndex, toIndex);
   InvalidateGrid();
+  const TLifeWatch self(this);
   ColumnMoved(fromIndex, toIndex);
-  MoveEditor();
+  if (self.IsAlive()) MoveEditor();
 }
 
 void TCustomGrid::MoveRow(int fromIndex, int toIndex) {
@@ -157,18 +168,21 @@ void TCustomGrid::MoveRow(int fromIndex, int toIndex) {
   FRows.Sizes.Move(fromIndex, toIndex);
   for (int* row : {&FCurrent.Y, &FAnchor.Y, &FInplaceCell.Y}) *row = AfterMove(*row, fromIndex, toIndex);
   InvalidateGrid();
+  const TLifeWatch self(this);
   RowMoved(fromIndex, toIndex);
-  MoveEditor();
+  if (self.IsAlive()) MoveEditor();
 }
 
 void TCustomGrid::DeleteColumn(int col) {
+  const TLifeWatch self(this);
   MoveColumn(col, FCols.Count - 1);
-  SetColCount(FCols.Count - 1);
+  if (self.IsAlive()) SetColCount(FCols.Count - 1);
 }
 
 void TCustomGrid::DeleteRow(int row) {
+  const TLifeWatch self(this);
   MoveRow(row, FRows.Count - 1);
-  SetRowCount(FRows.Count - 1);
+  if (self.IsAlive()) SetRowCount(FRows.Count - 1);
 }
 
 }  // namespace kt

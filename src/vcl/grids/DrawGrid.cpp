@@ -13,6 +13,7 @@ const TClassInfo* TCustomDrawGrid::Class() {
 const TClassInfo* TDrawGrid::Class() {
   static const TClassInfo info = [] {
     TClassBuilder<TDrawGrid> builder("TDrawGrid");
+    Publish::Action(builder);
     Publish::Align(builder);
     Publish::Anchors(builder);
     Publish::BiDiMode(builder);
@@ -45,6 +46,7 @@ const TClassInfo* TDrawGrid::Class() {
     Publish::TabStop(builder, true);
     Publish::Visible(builder);
     Publish::MouseEvents(builder);
+    Publish::WheelEvents(builder);
     Publish::FocusEvents(builder);
     Publish::KeyEvents(builder);
     Publish::GridEvents(builder);

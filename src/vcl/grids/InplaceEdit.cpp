@@ -1,5 +1,6 @@
 #include "kt/vcl/grids/InplaceEdit.h"
 
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/controls/VirtualKeys.h"
 #include "kt/vcl/grids/CustomGrid.h"
@@ -28,8 +29,9 @@ void TInplaceEdit::Hide() {
   const bool isFocused = Focused();
   // Invisible by itself before the grid gets the keyboard, so that the grid does not hand it back.
   SetVisibleFlag(false);
+  const TLifeWatch self(this);
   if (isFocused && FGrid && FGrid->HandleAllocated()) FGrid->GetHandle()->setFocus();
-  Perform(CM_VISIBLECHANGED);
+  if (self.IsAlive()) Perform(CM_VISIBLECHANGED);
 }
 
 void TInplaceEdit::Move(const QRect& rect) {
@@ -52,18 +54,27 @@ void TInplaceEdit::SetFocus() {
 void TInplaceEdit::BoundsChanged() { SetFormatRect({2, 2, GetWidth() - 4, GetHeight() - 2}); }
 
 void TInplaceEdit::UpdateContents() {
-  FIsUpdating = true;
-  struct TDone {
-    bool& Flag;
-    ~TDone() { Flag = false; }
-  } done{FIsUpdating};
+  // Handlers of the grid may free the editor.
+  const TLifeWatch self(this);
+  const TLiveFlag updating(this, FIsUpdating);
+  const QString mask = FGrid->GetEditMask(FGrid->GetCol(), FGrid->GetRow());
+  const QString text = self.IsAlive() ? FGrid->GetEditText(FGrid->GetCol(), FGrid->GetRow()) : QString();
+  if (!self.IsAlive()) return;
+  const bool isReadOnly = !FGrid->CanEditModify();
+  if (!self.IsAlive() || IsFresh(mask, text, isReadOnly)) return;
   SetText({});
-  SetEditMask(FGrid->GetEditMask(FGrid->GetCol(), FGrid->GetRow()));
+  SetEditMask(mask);
   SetMaxLength(FGrid->GetEditLimit());
-  SetText(FGrid->GetEditText(FGrid->GetCol(), FGrid->GetRow()));
+  SetText(text);
   SetModified(false);
-  SetReadOnly(!FGrid->CanEditModify());
+  SetReadOnly(isReadOnly);
   SelectAll();
+}
+
+/// Whether nothing would change, so that nothing need be painted.
+bool TInplaceEdit::IsFresh(const QString& mask, const QString& text, bool isReadOnly) const {
+  return mask == GetEditMask() && !IsMasked() && text == GetText() && !IsModified() && isReadOnly == IsReadOnly() &&
+         GetMaxLength() == FGrid->GetEditLimit() && GetSelStart() == 0 && GetSelLength() == text.size();
 }
 
 bool TInplaceEdit::EditCanModify() { return FGrid->CanEditModify(); }
@@ -100,7 +111,9 @@ bool TInplaceEdit::IsRightSide() const {
 }
 
 void TInplaceEdit::EscapeToGrid(quint16& key, TShiftState shift) {
+  const TLifeWatch self(this);
   SendToGrid(key, shift);
+  if (!self.IsAlive()) return;
   // A grid that knows more of its cells has taken the change back itself.
   if (IsMasked() && IsModified()) Reset();
 }
@@ -148,22 +161,26 @@ void TInplaceEdit::HandleGridKey(quint16& key, TShiftState shift) {
 }
 
 void TInplaceEdit::KeyDown(quint16& key, TShiftState shift) {
+  // The grid's handlers may free the editor.
+  const TLifeWatch self(this);
   SetReadOnly(!EditCanModify());
   if (key == VK_F2) {
     RaiseGridEvent(key, shift);
-    if (key != VK_F2) return;
+    if (key != VK_F2 || !self.IsAlive()) return;
     Deselect();
     key = 0;
     return;
   }
   HandleGridKey(key, shift);
-  if (key == 0) return;
+  if (key == 0 || !self.IsAlive()) return;
   RaiseGridEvent(key, shift);
-  if (key != 0) TCustomMaskEdit::KeyDown(key, shift);
+  if (key != 0 && self.IsAlive()) TCustomMaskEdit::KeyDown(key, shift);
 }
 
 void TInplaceEdit::KeyPress(QChar& key) {
+  const TLifeWatch self(this);
   FGrid->KeyPress(key);
+  if (!self.IsAlive()) return;
   if (key.unicode() >= 32 && !FGrid->CanEditAcceptKey(key)) key = u'\0';
   if (key == u'\t' || key == u'\x1b') key = u'\0';
   const bool isChange = key == u'\b' || key == u'\x16' || key == u'\x18' || key.unicode() >= 32;

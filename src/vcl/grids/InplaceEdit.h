@@ -52,6 +52,7 @@ class TInplaceEdit : public TCustomMaskEdit {
   void SetGrid(TCustomGrid* value) { FGrid = value; }
 
  private:
+  bool IsFresh(const QString& mask, const QString& text, bool isReadOnly) const;
   void SendToGrid(quint16& key, TShiftState shift);
   void EscapeToGrid(quint16& key, TShiftState shift);
   void RaiseGridEvent(quint16& key, TShiftState shift);

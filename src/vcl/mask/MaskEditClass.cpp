@@ -16,6 +16,7 @@ const TTypeInfo* EditMaskTypeInfo() {
 const TClassInfo* TMaskEdit::Class() {
   static const TClassInfo info = [] {
     TClassBuilder<TMaskEdit> builder("TMaskEdit");
+    Publish::Action(builder);
     Publish::Align(builder);
     Publish::Anchors(builder);
     Publish::BiDiMode(builder);

@@ -1,5 +1,6 @@
 #include "kt/vcl/menus/Menu.h"
 
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/Make.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 
@@ -23,9 +24,14 @@ void TMenu::Destruct() {
 }
 
 bool TMenu::IsShortCut(quint16 key, TShiftState shift) {
-  TMenuItem* const item = FItems->FindShortCut(ShortCut(key, shift));
+  TMenuItem* item = FItems->FindShortCut(ShortCut(key, shift));
+  if (!item) return false;
+  // It may be about to be disabled.
+  const TLifeWatch self(this);
+  item->InitiateActions();
+  item = self.IsAlive() ? FItems->FindShortCut(ShortCut(key, shift)) : nullptr;
   if (item) item->Click();
-  return item != nullptr;
+  return true;
 }
 
 void TMenu::GetChildren(const TGetChildProc& proc, TComponent* root) { FItems->GetChildren(proc, root); }

@@ -1,8 +1,9 @@
 #include "kt/vcl/menus/MenuItem.h"
 
-#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
+#include "kt/vcl/actions/BasicAction.h"
 #include "kt/vcl/menus/Menu.h"
+#include "kt/vcl/menus/MenuActionLink.h"
 
 #include <algorithm>
 
@@ -22,25 +23,33 @@ const TClassInfo* TMenuItem::Class() {
   using T = TMenuItem;
   static const TClassInfo info = [] {
     TClassBuilder<T> builder("TMenuItem");
-    builder.Property<&T::IsAutoCheck, &T::SetAutoCheck>("AutoCheck").Default(false);
-    builder.Property<&T::GetCaption, &T::SetCaption>("Caption");
-    builder.Property<&T::IsChecked, &T::SetChecked>("Checked").Default(false);
+    builder.Property<&T::GetAction, &T::SetAction>("Action");
+    builder.Property<&T::IsAutoCheck, &T::SetAutoCheck>("AutoCheck").Default(false).Stored(&T::IsAutoCheckStored);
+    builder.Property<&T::GetCaption, &T::SetCaption>("Caption").Stored(&T::IsCaptionStored);
+    builder.Property<&T::IsChecked, &T::SetChecked>("Checked").Default(false).Stored(&T::IsCheckedStored);
     builder.Property<&T::IsDefault, &T::SetDefault>("Default").Default(false);
-    builder.Property<&T::IsEnabled, &T::SetEnabled>("Enabled").Default(true);
-    builder.Property<&T::GetGroupIndex, &T::SetGroupIndex>("GroupIndex").Default(0);
-    builder.Property<&T::GetHelpContext, &T::SetHelpContext>("HelpContext").Default(0);
-    builder.Property<&T::GetHint, &T::SetHint>("Hint");
+    builder.Property<&T::IsEnabled, &T::SetEnabled>("Enabled").Default(true).Stored(&T::IsEnabledStored);
+    builder.Property<&T::GetGroupIndex, &T::SetGroupIndex>("GroupIndex").Default(0).Stored(&T::IsGroupIndexStored);
+    builder.Property<&T::GetHelpContext, &T::SetHelpContext>("HelpContext").Default(0).Stored(&T::IsHelpContextStored);
+    builder.Property<&T::GetHint, &T::SetHint>("Hint").Stored(&T::IsHintStored);
     builder.Property<&T::IsRadioItem, &T::SetRadioItem>("RadioItem").Default(false);
-    builder.Property<&T::GetShortCut, &T::SetShortCut>("ShortCut", &ShortCutTypeInfo).Default(0);
-    builder.Property<&T::IsVisible, &T::SetVisible>("Visible").Default(true);
-    builder.Property<&T::OnClick>("OnClick");
+    builder.Property<&T::GetShortCut, &T::SetShortCut>("ShortCut", &ShortCutTypeInfo)
+        .Default(0)
+        .Stored(&T::IsShortCutStored);
+    builder.Property<&T::IsVisible, &T::SetVisible>("Visible").Default(true).Stored(&T::IsVisibleStored);
+    builder.Property<&T::OnClick>("OnClick").Stored(&T::IsOnClickStored);
     return builder.Creatable().Done();
   }();
   return &info;
 }
 
+TMenuItem::TMenuItem(TComponent* owner) : TComponent(owner) {}
+
+TMenuItem::~TMenuItem() = default;
+
 void TMenuItem::Destruct() {
   Destroying();
+  FActionLink.reset();
   if (FParent) FParent->Remove(this);
   Clear();
   TComponent::Destruct();
@@ -135,13 +144,6 @@ void TMenuItem::SetDefault(bool value) {
   for (TMenuItem* item : FParent->FItems) {
     if (item != this) item->FDefault = false;
   }
-}
-
-void TMenuItem::Click() {
-  if (!FEnabled) return;
-  // A radio item that is checked stays so: another one of its group has to take the check over.
-  if (FAutoCheck && !(FRadioItem && FChecked)) SetChecked(!FChecked);
-  OnClick(this);
 }
 
 TComponent* TMenuItem::GetParentComponent() {

@@ -5,11 +5,14 @@
 #include "kt/rtl/typeinfo/Event.h"
 #include "kt/vcl/menus/ShortCut.h"
 
+#include <memory>
 #include <vector>
 
 namespace kt {
 
+class TBasicAction;
 class TMenu;
+class TMenuActionLink;
 
 /// A menu item cannot be where it was asked to be.
 class EMenuError : public Exception {
@@ -26,6 +29,15 @@ class TMenuItem : public TComponent {
 
   static const TClassInfo* Class();
   const TClassInfo* ClassType() const override { return Class(); }
+
+  ~TMenuItem() override;
+
+  /// What the entry does, and where it has its properties from, as long as nobody gives it others. Not owned.
+  TBasicAction* GetAction() const;
+  void SetAction(TBasicAction* value);
+  /// Has the action brought up to date, and those of all entries below: before the menu opens, and before a short cut
+  /// counts. May free anything.
+  void InitiateActions();
 
   const QString& GetCaption() const { return FCaption; }
   void SetCaption(const QString& value) { FCaption = value; }
@@ -79,20 +91,36 @@ class TMenuItem : public TComponent {
   TMenuItem* GetParent() const { return FParent; }
   int GetMenuIndex() const { return FParent ? FParent->IndexOf(this) : -1; }
   bool IsLine() const { return FCaption == u"-"; }
-  /// What choosing the entry does: checks it, if it does so by itself, and raises OnClick. Not while disabled.
+  /// What choosing the entry does: checks it, if it does so by itself, and raises OnClick or does the action. Not while
+  /// disabled.
   virtual void Click();
 
   TComponent* GetParentComponent() override;
   bool HasParent() override { return FParent != nullptr; }
+
+  // What streams ask: not what comes from the action.
+  bool IsAutoCheckStored() const;
+  bool IsCaptionStored() const;
+  bool IsCheckedStored() const;
+  bool IsEnabledStored() const;
+  bool IsGroupIndexStored() const;
+  bool IsHelpContextStored() const;
+  bool IsHintStored() const;
+  bool IsOnClickStored() const;
+  bool IsShortCutStored() const;
+  bool IsVisibleStored() const;
 
   TNotifyEvent OnClick;
 
  protected:
   friend class TMenu;
 
-  explicit TMenuItem(TComponent* owner = nullptr) : TComponent(owner) {}
+  explicit TMenuItem(TComponent* owner = nullptr);
 
   void Destruct() override;
+  void Notification(TComponent* component, TOperation operation) override;
+  /// Takes over what `action` has. `onlyDefaults`: not where the entry has a value of its own.
+  virtual void ActionChange(TObject* action, bool onlyDefaults);
   void GetChildren(const TGetChildProc& proc, TComponent* root) override;
   void SetChildOrder(TComponent* child, int order) override;
   void SetParentComponent(TComponent* value) override;
@@ -100,7 +128,9 @@ class TMenuItem : public TComponent {
  private:
   void CheckIndex(int index, int end) const;
   void UncheckGroup();
+  void DoActionChange(TObject* sender);
 
+  std::unique_ptr<TMenuActionLink> FActionLink;
   std::vector<TMenuItem*> FItems;
   TMenuItem* FParent = nullptr;
   /// The menu whose root this is.

@@ -95,6 +95,8 @@ void TPopupMenu::Popup(int x, int y) {
   FPopupPoint = {x, y};
   OnPopup(this);
   if (!self.IsAlive()) return;
+  GetItems().InitiateActions();
+  if (!self.IsAlive()) return;
   if (TMenuItem* const item = Choose()) item->Click();
 }
 

@@ -181,9 +181,12 @@ void TCustomEdit::SetBorderStyle(TBorderStyle value) {
 
 void TCustomEdit::SetFormatRect(const QRect& rect) {
   if (!FLineEdit) return;
-  FLineEdit->setAlignment(Qt::AlignTop | (UseRightToLeftAlignment() ? Qt::AlignRight : Qt::AlignLeft));
-  FLineEdit->setTextMargins(rect.left() - kInnerX, rect.top() - kInnerY,
-                            GetWidth() - rect.left() - rect.width() - kInnerX, 0);
+  const Qt::Alignment alignment = Qt::AlignTop | (UseRightToLeftAlignment() ? Qt::AlignRight : Qt::AlignLeft);
+  const QMargins margins(rect.left() - kInnerX, rect.top() - kInnerY, GetWidth() - rect.left() - rect.width() - kInnerX,
+                         0);
+  // Qt repaints for each of them, also when nothing is different.
+  if (FLineEdit->alignment() != alignment) FLineEdit->setAlignment(alignment);
+  if (FLineEdit->textMargins() != margins) FLineEdit->setTextMargins(margins);
 }
 
 bool TCustomEdit::WantsKey(quint16 key) { return (key >= VK_LEFT && key <= VK_DOWN) || TWinControl::WantsKey(key); }

@@ -20,7 +20,7 @@ class TFloatingListBox : public TCustomListBox {
   /// Opens in its present size below the control or, where that passes the end of the screen, above it. A size that the
   /// screen does not have is cut.
   void Open();
-  void Close();
+  virtual void Close();
 
  protected:
   /// `anchor` is the control that the list opens for; it has to live as long.

@@ -14,6 +14,7 @@ const TClassInfo* TListBox::Class() {
   using T = TListBox;
   static const TClassInfo info = [] {
     TClassBuilder<T> builder("TListBox");
+    Publish::Action(builder);
     Publish::Align(builder);
     Publish::Anchors(builder);
     Publish::BiDiMode(builder);

@@ -17,9 +17,9 @@ namespace {
 using tests::TControlProbe;
 using tests::TWindowProbe;
 
-class TEditProbe : public TCustomEdit {
+class TTabbedEdit : public TCustomEdit {
  protected:
-  explicit TEditProbe(TComponent* owner = nullptr) : TCustomEdit(owner) {}
+  explicit TTabbedEdit(TComponent* owner = nullptr) : TCustomEdit(owner) {}
 };
 
 class WinControlTabsTest : public testing::Test {
@@ -128,7 +128,7 @@ TEST_F(WinControlTabsTest, AControlOutOfTheTabsStillTakesNoClicksUnlessItsKindDo
 }
 
 TEST_F(WinControlTabsTest, EditsAndListsTakeClicksWithAndWithoutATabStop) {
-  auto& edit = *New<TEditProbe>(FParent.get());
+  auto& edit = *New<TTabbedEdit>(FParent.get());
   edit.SetParent(FParent.get());
   auto& list = *New<TListBox>(FParent.get());
   list.SetParent(FParent.get());

@@ -55,6 +55,36 @@ TEST(WinControlWindowTest, AControlThatWasEmbeddedLeavesTheLayoutForItsParent) {
   EXPECT_EQ(child.GetHandle()->parentWidget(), parent->GetHandle());
 }
 
+TEST(WinControlWindowTest, AControlInALayoutReadsAsTheWindowAroundIt) {
+  auto control = Make<TProbe>();
+  auto& child = *New<TProbe>(control.get());
+  child.SetParent(control.get());
+  TWindowProbe window(*control);
+  window.Window()->setLayoutDirection(Qt::RightToLeft);
+  EXPECT_EQ(control->GetBiDiMode(), bdRightToLeft);
+  EXPECT_EQ(child.GetBiDiMode(), bdRightToLeft);
+  EXPECT_TRUE(control->IsParentBiDiMode());
+  window.Window()->setLayoutDirection(Qt::LeftToRight);
+  EXPECT_EQ(control->GetBiDiMode(), bdLeftToRight);
+  EXPECT_EQ(child.GetBiDiMode(), bdLeftToRight);
+}
+
+TEST(WinControlWindowTest, AControlThatIsPutIntoALayoutReadsAsItsWindowFromThenOn) {
+  QWidget host;
+  host.setLayoutDirection(Qt::RightToLeft);
+  auto control = Make<TProbe>();
+  control->GetHandle()->setParent(&host);
+  EXPECT_EQ(control->GetBiDiMode(), bdRightToLeft);
+}
+
+TEST(WinControlWindowTest, AControlWithADirectionOfItsOwnKeepsIt) {
+  auto control = Make<TProbe>();
+  control->SetBiDiMode(bdRightToLeftReadingOnly);
+  TWindowProbe window(*control);
+  window.Window()->setLayoutDirection(Qt::RightToLeft);
+  EXPECT_EQ(control->GetBiDiMode(), bdRightToLeftReadingOnly);
+}
+
 TEST(WinControlWindowTest, WhatIsInvisibleIsNotShownByALayout) {
   auto control = Make<TProbe>();
   control->SetVisible(false);

@@ -95,7 +95,7 @@ TEST_F(ApplicationTest, AMainFormThatDiesIsForgotten) {
 }
 
 TEST_F(ApplicationTest, ProcessMessagesHandlesWhatWaits) {
-  class TListener : public TControlProbe {
+  class TUserListener : public TControlProbe {
    public:
     int Heard = 0;
     void Dispatch(TMessage& message) override {
@@ -104,9 +104,9 @@ TEST_F(ApplicationTest, ProcessMessagesHandlesWhatWaits) {
     }
 
    protected:
-    explicit TListener(TComponent* owner = nullptr) : TControlProbe(owner) {}
+    explicit TUserListener(TComponent* owner = nullptr) : TControlProbe(owner) {}
   };
-  auto control = Make<TListener>();
+  auto control = Make<TUserListener>();
   control->PostMessage(WM_USER);
   control->PostMessage(WM_USER);
   EXPECT_EQ(control->Heard, 0);

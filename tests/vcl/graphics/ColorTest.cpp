@@ -12,14 +12,14 @@ namespace {
 
 using tests::MessageOf;
 
-QStringList Names() {
+QStringList ColorNames() {
   QStringList names;
   GetColorValues([&](const QString& name) { names.append(name); });
   return names;
 }
 
 QSet<QString> UniqueNames() {
-  const QStringList names = Names();
+  const QStringList names = ColorNames();
   return {names.begin(), names.end()};
 }
 
@@ -92,18 +92,18 @@ TEST(ColorTest, AColourWithoutANameLeavesTheTextAlone) {
 TEST(ColorTest, TheNamesStartWithTheSixteenPlainColours) {
   EXPECT_EQ(QStringLiteral("clBlack clMaroon clGreen clOlive clNavy clPurple clTeal clGray "
                            "clSilver clRed clLime clYellow clBlue clFuchsia clAqua clWhite"),
-            Names().first(16).join(u' '));
+            ColorNames().first(16).join(u' '));
 }
 
 TEST(ColorTest, EveryNameIsOfferedOnce) {
-  EXPECT_EQ(52, Names().size());
+  EXPECT_EQ(52, ColorNames().size());
   EXPECT_EQ(52, UniqueNames().size());
 }
 
 TEST(ColorTest, EveryNameComesBack) {
   QStringList back;
   GetColorValues([&](const QString& name) { back.append(ColorToString(StringToColor(name))); });
-  EXPECT_EQ(Names(), back);
+  EXPECT_EQ(ColorNames(), back);
 }
 
 TEST(ColorTest, HasATypeOfItsOwn) {

@@ -11,7 +11,7 @@ namespace {
 
 using tests::MessageOf;
 
-QStringList Names() {
+QStringList CursorNames() {
   QStringList names;
   GetCursorValues([&](const QString& name) { names.append(name); });
   return names;
@@ -21,13 +21,13 @@ TEST(CursorTest, TheNamesComeInTheFrameworksOrderWithoutTheRetiredOne) {
   EXPECT_EQ(QStringLiteral("crDefault crArrow crCross crIBeam crSizeNESW crSizeNS crSizeNWSE crSizeWE crUpArrow "
                            "crHourGlass crDrag crNoDrop crHSplit crVSplit crMultiDrag crSQLWait crNo crAppStart crHelp "
                            "crHandPoint crSizeAll"),
-            Names().join(u' '));
+            CursorNames().join(u' '));
 }
 
 TEST(CursorTest, EveryNameComesBack) {
   QStringList back;
   GetCursorValues([&](const QString& name) { back.append(CursorToString(StringToCursor(name))); });
-  EXPECT_EQ(Names(), back);
+  EXPECT_EQ(CursorNames(), back);
 }
 
 TEST(CursorTest, TheRetiredNameIsReadAndWrittenAnew) {

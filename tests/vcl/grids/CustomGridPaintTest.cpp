@@ -58,6 +58,35 @@ INSTANTIATE_TEST_SUITE_P(CustomGridPaintTest, CustomGridLinesTest,
                                          TLine{goVertLine, {119, 45}, QPalette::Base},
                                          TLine{goHorzLine, {85, 59}, QPalette::Base}));
 
+/// How many pixels each line has that a straight way through the middle of a cell crosses.
+QList<int> Thicknesses(const QImage& image, QPoint start, QPoint step, QColor line) {
+  QList<int> found;
+  bool wasLine = false;
+  for (QPoint at = start; image.rect().contains(at); at += step) {
+    const bool isLine = image.pixelColor(at) == line;
+    if (isLine && !wasLine) found += 0;
+    if (isLine) ++found.last();
+    wasLine = isLine;
+  }
+  return found;
+}
+
+TEST(CustomGridScaleTest, LinesAreEquallyThickWhereAPixelIsNoWholeNumberOfTheScreens) {
+  const auto grid = Make<TGridProbe>();
+  grid->SetFixedCols(0);
+  grid->SetFixedRows(0);
+  grid->SetDefaultColWidth(38);
+  grid->SetDefaultRowHeight(18);
+  TWindowProbe window(*grid, QSize(180, 90));
+  QImage image(QSize(270, 135), QImage::Format_RGB32);
+  image.setDevicePixelRatio(1.5);
+  grid->GetHandle()->render(&image);
+  const QColor line = image.pixelColor(QPoint(20, 3 + 27));
+  EXPECT_NE(line, image.pixelColor(QPoint(20, 3 + 20)));
+  EXPECT_EQ(QList<int>({1, 1, 1}), Thicknesses(image, {20, 4}, {0, 1}, line));
+  EXPECT_EQ(QList<int>({1, 1, 1, 1}), Thicknesses(image, {4, 20}, {1, 0}, line));
+}
+
 /// A grid and another control on a form.
 class CustomGridPaintTest : public testing::Test {
  protected:

@@ -10,6 +10,8 @@ namespace {
 struct TNamedShortCut {
   TShortCut Value;
   const char* Name;
+
+  friend void PrintTo(const TNamedShortCut& shortCut, std::ostream* out) { *out << shortCut.Name; }
 };
 
 class ShortCutNamesTest : public testing::TestWithParam<TNamedShortCut> {};

@@ -18,9 +18,9 @@ using tests::TControlProbe;
 using tests::TGridProbe;
 using tests::TWindowProbe;
 
-class TEditProbe : public TCustomEdit {
+class TColoredEdit : public TCustomEdit {
  protected:
-  explicit TEditProbe(TComponent* owner = nullptr) : TCustomEdit(owner) {}
+  explicit TColoredEdit(TComponent* owner = nullptr) : TCustomEdit(owner) {}
 };
 class TFloatingProbe : public TFloatingListBox {
  protected:
@@ -52,7 +52,7 @@ class WindowColorsTest : public testing::Test {
   void Darken() { FWindow->Window()->setPalette(Dark()); }
 
   std::unique_ptr<TControlProbe> FParent = Make<TControlProbe>();
-  TEditProbe& Edit = *New<TEditProbe>(FParent.get());
+  TColoredEdit& Edit = *New<TColoredEdit>(FParent.get());
   TListBox& List = *New<TListBox>(FParent.get());
   std::unique_ptr<TWindowProbe> FWindow;
 };
