@@ -28,7 +28,7 @@ class TEditorView {
     PaintPending();
   }
 
-  void Repaint() { FEditor->GetHandle()->repaint(); }
+  void Repaint() { FEditor->Repaint(); }
   void ScrollTo(int offset) { FEditor->SetTopRow(FTop + offset); }
   void SetOne(const QString& value) { FChanging->SetValue(value); }
   void Expand(bool isExpanded) { FParent->SetExpanded(isExpanded); }

@@ -81,12 +81,22 @@ void FullExpandAndCollapse(benchmark::State& state) {
 }
 BENCHMARK(FullExpandAndCollapse)->Apply(Sizes);
 
+/// The parent in the middle; in a flat tree, where there is none, the item there gets children.
+TKTItemProp* ParentInTheMiddle(TKTItemListEditor& editor, TShape shape) {
+  TKTItemProp* item = editor.GetItem(editor.GetItemCount() / 2);
+  if (shape == Flat) {
+    for (int i = 0; i < ChildrenPerParent; ++i) AddLeaf(item->GetItems(), i);
+  }
+  while (!item->HasItems()) item = item->GetParent();
+  return item;
+}
+
 /// One parent of twenty children, in the middle of a list with all others open.
 void ToggleOneParent(benchmark::State& state) {
-  const TEditorPointer editor = MakeTree(Nested, CountOf(state));
+  const bool isFlat = ShapeOf(state) == Flat;
+  const TEditorPointer editor = MakeTree(ShapeOf(state), CountOf(state) - (isFlat ? ChildrenPerParent : 0));
+  TKTItemProp* item = ParentInTheMiddle(*editor, ShapeOf(state));
   editor->FullExpand();
-  TKTItemProp* item = editor->GetVisibleItem(CountOf(state) / 2);
-  while (item->GetItems().GetCount() == 0) item = item->GetParent();
   for (auto step : state) {
     item->Collapse();
     item->Expand();
@@ -127,15 +137,29 @@ void FindRows(benchmark::State& state) {
 }
 BENCHMARK(FindRows)->Apply(Sizes)->Unit(benchmark::kNanosecond);
 
-/// By name along the path; each level is searched from its first item.
+/// The items that a search along the path looks at, each level from its first.
+int SiblingsOnTheWay(const TKTItemProp* item) {
+  int count = 0;
+  for (; item; item = item->GetParent()) count += item->GetIndex() + 1;
+  return count;
+}
+
+/// By name along the path.
 void FindByPath(benchmark::State& state) {
-  const TEditorPointer editor = MakeTree(Nested, CountOf(state));
+  const TEditorPointer editor = MakeTree(ShapeOf(state), CountOf(state));
   QStringList paths;
-  for (TKTItemProp* item : RandomItems(*editor)) paths.append(item->GetFullPathName());
+  double siblings = 0;
+  for (TKTItemProp* item : RandomItems(*editor)) {
+    paths.append(item->GetFullPathName());
+    siblings += SiblingsOnTheWay(item);
+  }
   qsizetype next = 0;
   for (auto step : state) {
     benchmark::DoNotOptimize(editor->GetItems().FindItemByFullPathName(paths[next++ % paths.size()]));
   }
+  state.counters["ns_per_sibling"] =
+      benchmark::Counter(siblings / static_cast<double>(paths.size()) * 1e-9,
+                         benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 BENCHMARK(FindByPath)->Apply(Sizes)->Unit(benchmark::kNanosecond);
 

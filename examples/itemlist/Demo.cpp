@@ -2,6 +2,7 @@
 
 #include <QColorDialog>
 #include <QLabel>
+#include <QLocale>
 #include <QPlainTextEdit>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -36,6 +37,12 @@ TKTItemProp* AddMasked(TKTItemProps& items, const QString& name, const QString& 
   return item;
 }
 
+/// The value is the colour's name, in that colour.
+void ShowColor(TKTItemProp& item, const QColor& color) {
+  item.SetValue(color.name());
+  item.GetValueFont().SetColor(static_cast<TColor>(color.red() | color.green() << 8 | color.blue() << 16));
+}
+
 }  // namespace
 
 TDemo::TDemo() : FSettings(Make<TKTItemListEditor>()), FTable(Make<TKTItemListEditor>()), FLog(new QPlainTextEdit) {
@@ -55,8 +62,12 @@ TDemo::TDemo() : FSettings(Make<TKTItemListEditor>()), FTable(Make<TKTItemListEd
   all->addWidget(Titled(QStringLiteral("Items down the rows"), FSettings->GetHandle()));
   all->addWidget(across);
   all->setSizes({380, 480});
-  all->setContentsMargins(8, 8, 8, 8);
-  setCentralWidget(all);
+  // Margins of a splitter itself would shift what is in it where one reads from right to left.
+  auto* framed = new QWidget;
+  auto* layout = new QVBoxLayout(framed);
+  layout->setContentsMargins(8, 8, 8, 8);
+  layout->addWidget(all);
+  setCentralWidget(framed);
   resize(900, 560);
 }
 
@@ -88,13 +99,17 @@ void TDemo::FillSettings() {
             QStringLiteral("!\\(999\\) 000-0000;1;_"));
   AddMasked(input->GetItems(), QStringLiteral("Letters only"), QStringLiteral("abc"), QStringLiteral("[A-Za-z]*"))
       ->SetExpressionMask(true);
-  TKTItemProp* color = input->GetItems().Add(QStringLiteral("Color"), QStringLiteral("#336699"));
+  TKTItemProp* color = input->GetItems().Add(QStringLiteral("Color"), QString());
   color->SetEditStyle(esEllipsis);
-  color->SetOnEditButtonClick([](TObject* sender) {
+  ShowColor(*color, QColor(QStringLiteral("#336699")));
+  color->SetOnEditButtonClick([this](TObject* sender) {
     auto* item = static_cast<TKTItemProp*>(sender);
-    const QColor chosen = QColorDialog::getColor(QColor(item->GetValue()));
-    if (chosen.isValid()) item->SetValue(chosen.name());
+    Log(QStringLiteral("settings: the item's own OnEditButtonClick ") + TextOf(item));
+    const QColor chosen = QColorDialog::getColor(QColor(item->GetValue()), this);
+    if (chosen.isValid()) ShowColor(*item, chosen);
   });
+  input->GetItems().Add(QStringLiteral("File"), QStringLiteral("notes.txt"))->SetEditStyle(esEllipsis);
+  input->GetItems().Add(QStringLiteral("Weekday"), QStringLiteral("Monday"))->SetEditStyle(esPickList);
   input->GetItems().Add(QStringLiteral("Serial number"), QStringLiteral("0815"))->SetReadOnly(true);
   input->GetItems().Add(QStringLiteral("Not for now"), QStringLiteral("disabled"))->SetEnabled(false);
   items.EndUpdate();
@@ -117,14 +132,42 @@ void TDemo::FillTable() {
 }
 
 void TDemo::LogEventsOf(TKTItemListEditor& editor, const QString& name) {
+  LogValidationOf(editor, name);
+  LogEditingOf(editor, name);
+  editor.OnSelectCell = [this, name](TObject*, int col, int row, bool&) {
+    Log(name + QStringLiteral(": OnSelectCell %1, %2").arg(col).arg(row));
+  };
+  editor.OnShowHints = [this, name](TObject*, TKTItemProp* item, QString& hint) {
+    Log(name + QStringLiteral(": OnShowHints ") + TextOf(item) + QStringLiteral(": ") + hint.simplified());
+  };
+}
+
+void TDemo::LogValidationOf(TKTItemListEditor& editor, const QString& name) {
   editor.OnValidate = [this, name](TObject*, TKTItemProp* item, int) {
     Log(name + QStringLiteral(": OnValidate ") + TextOf(item));
+    bool isNumber = true;
+    if (item && item->GetName() == u"Size") static_cast<void>(item->GetValue().toInt(&isNumber));
+    if (!isNumber) throw Exception(QStringLiteral("A size is a number"));
+  };
+  editor.OnValidateError = [this, name](TObject*, TKTItemProp* item, int, const Exception& error) {
+    Log(name + QStringLiteral(": OnValidateError ") + TextOf(item) + QStringLiteral(": ") + error.Message());
   };
   editor.OnValidated = [this, name](TObject*, TKTItemProp* item, int) {
     Log(name + QStringLiteral(": OnValidated ") + TextOf(item));
   };
-  editor.OnSelectCell = [this, name](TObject*, int col, int row, bool&) {
-    Log(name + QStringLiteral(": OnSelectCell %1, %2").arg(col).arg(row));
+}
+
+void TDemo::LogEditingOf(TKTItemListEditor& editor, const QString& name) {
+  editor.OnSetEditText = [this, name](TObject*, int, int, const QString& text) {
+    Log(name + QStringLiteral(": OnSetEditText ") + text);
+  };
+  editor.OnGetPickList = [this, name](TObject*, const QString& item, TStrings& values) {
+    Log(name + QStringLiteral(": OnGetPickList ") + item);
+    if (!item.endsWith(u"Weekday")) return;
+    for (int day = 1; day <= 7; ++day) values.Add(QLocale::c().dayName(day));
+  };
+  editor.OnEditButtonClick = [this, name](TObject* item) {
+    Log(name + QStringLiteral(": OnEditButtonClick ") + TextOf(static_cast<TKTItemProp*>(item)));
   };
 }
 

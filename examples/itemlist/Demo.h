@@ -21,6 +21,8 @@ class TDemo : public QMainWindow {
   void FillSettings();
   void FillTable();
   void LogEventsOf(kt::TKTItemListEditor& editor, const QString& name);
+  void LogValidationOf(kt::TKTItemListEditor& editor, const QString& name);
+  void LogEditingOf(kt::TKTItemListEditor& editor, const QString& name);
   void Log(const QString& line);
 
   std::unique_ptr<kt::TKTItemListEditor> FSettings;

@@ -23,12 +23,17 @@ void TKTDropDownList::KeyPress(QChar& key) {
   TFloatingListBox::KeyPress(key);
   if (key == u'\b' || key == u'\x1b') FSearchText.clear();
   if (key.unicode() < 32) return;
-  const auto now = std::chrono::steady_clock::now();
+  const TClock::time_point now = FNow();
   if (now - FLastKey > SearchPause) FSearchText.clear();
   FLastKey = now;
   if (FSearchText.size() < MaxSearchLength) FSearchText += key;
   SelectPrefix(FSearchText);
   key = u'\0';
+}
+
+void TKTDropDownList::Close() {
+  FSearchText.clear();
+  TFloatingListBox::Close();
 }
 
 void TKTDropDownList::MouseUp(TMouseButton button, TShiftState shift, int x, int y) {

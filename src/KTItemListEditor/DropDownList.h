@@ -15,6 +15,7 @@ class TKTInplaceEditList;
 class TKTDropDownList : public TFloatingListBox {
  public:
   using Inherited = TFloatingListBox;
+  using TClock = std::chrono::steady_clock;
   /// The most characters that are searched for.
   static constexpr int MaxSearchLength = 32;
   /// A pause that long has the search start anew.
@@ -22,6 +23,11 @@ class TKTDropDownList : public TFloatingListBox {
 
   static const TClassInfo* Class();
   const TClassInfo* ClassType() const override { return Class(); }
+
+  /// Takes the search along: the next time the list opens, another one begins.
+  void Close() override;
+  /// What pauses are measured with.
+  void SetClock(TClock::time_point (*now)()) { FNow = now; }
 
  protected:
   friend class TKTInplaceEditList;
@@ -36,7 +42,8 @@ class TKTDropDownList : public TFloatingListBox {
  private:
   TKTInplaceEditList& FEditor;
   QString FSearchText;
-  std::chrono::steady_clock::time_point FLastKey;
+  TClock::time_point (*FNow)() = &TClock::now;
+  TClock::time_point FLastKey;
 };
 
 }  // namespace kt

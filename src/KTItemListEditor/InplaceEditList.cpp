@@ -7,7 +7,7 @@
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/stdctrls/EditButton.h"
 
-#include <QScopedValueRollback>
+#include <utility>
 
 namespace kt {
 
@@ -53,14 +53,15 @@ void TKTInplaceEditList::UpdateContents() {
   // An open list is that of the former cell.
   if (FListVisible) CloseUp(false);
   {
-    const QScopedValueRollback fillingIn(FIsFillingIn, true);
+    const TLiveFlag fillingIn(this, FIsFillingIn);
     TInplaceEdit::UpdateContents();
   }
+  if (!self.IsAlive()) return;
   FActiveList = nullptr;
   FPickListLoaded = false;
   const TEditStyle style = grid.GetEditStyle(grid.GetCol(), grid.GetRow());
   if (!self.IsAlive()) return;
-  FEditStyle = style;
+  if (std::exchange(FEditStyle, style) != style) Invalidate();
   if (FEditStyle == esPickList) FActiveList = &GetPickList();
   SetExpression(grid.GetExpressionMask(grid.GetCol(), grid.GetRow()));
   SetFont(grid.GetCellFont(grid.GetCol(), grid.GetRow()));

@@ -1,12 +1,11 @@
 #include "kt/KTItemListEditor/ItemListEditor.h"
 
 #include "kt/KTItemListEditor/Messages.h"
+#include "kt/KTItemListEditor/PublishItemListEditor.h"
 #include "kt/ktcommon/NewLine.h"
 #include "kt/rtl/strings/StringList.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
-#include "kt/vcl/controls/Publish.h"
 #include "kt/vcl/graphics/Bitmap.h"
-#include "kt/vcl/grids/PublishGrid.h"
 #include "package/Glyphs.h"
 
 namespace kt {
@@ -34,7 +33,7 @@ void TKTCustomItemListEditor::Construct() {
   FPathDelimiter = QStringLiteral(".");
   FIndent = 11;
   FValueFont = MakeFont();
-  FValueFont->OnChange = {this, &TKTCustomItemListEditor::ValueFontChanged};
+  FValueFont->OnChange = {this, &TKTCustomItemListEditor::InternalValueFontChanged};
   FCategoryFont = MakeFont();
   FCategoryFont->SetStyle(FCategoryFont->GetStyle() + TFontStyles{fsBold});
   FCategoryFont->SetColor(clPurple);
@@ -97,7 +96,7 @@ void TKTCustomItemListEditor::FontChanged() {
   Invalidate();
 }
 
-void TKTCustomItemListEditor::ValueFontChanged(TObject*) {
+void TKTCustomItemListEditor::InternalValueFontChanged(TObject*) {
   FitRowHeight();
   for (int i = 0; i < FItems->GetCount(); ++i) FItems->GetItem(i)->ParentValueFontChanged();
 }
@@ -139,84 +138,14 @@ bool TKTCustomItemListEditor::TitleCaptionsStored() const {
   return FTitleCaptions->GetText() != SPropertyCaption + NewLineString + SValueCaption + NewLineString;
 }
 
-namespace {
-
-/// What the editor has from the grid.
-void PublishGrid(TClassBuilder<TKTItemListEditor>& builder) {
-  using T = TKTItemListEditor;
-  Publish::Align(builder);
-  Publish::Anchors(builder);
-  Publish::BiDiMode(builder);
-  Publish::GridBorderStyle(builder);
-  Publish::Color(builder, clWindow);
-  builder.Property<&T::GetColCount, &T::SetColCount>("ColCount").Default(2);
-  Publish::Constraints(builder);
-  Publish::DefaultColWidth(builder, 150);
-  builder.Property<&T::GetDefaultRowHeight, &T::SetDefaultRowHeight>("DefaultRowHeight").Default(18);
-  Publish::DefaultDrawing(builder);
-  Publish::DragCursor(builder);
-  Publish::DragKind(builder);
-  Publish::DragMode(builder);
-  Publish::Enabled(builder);
-  Publish::FixedColor(builder);
-  Publish::FixedCols(builder, 0);
-  Publish::RowCount(builder, 2);
-  Publish::Font(builder);
-  Publish::GridLineWidth(builder);
-  Publish::ParentBiDiMode(builder);
-  Publish::ParentColor(builder, false);
-  Publish::ParentFont(builder);
-  Publish::ParentShowHint(builder);
-  Publish::PopupMenu(builder);
-  Publish::ScrollBars(builder);
-  Publish::ShowHint(builder);
-  Publish::TabOrder(builder);
-  Publish::TabStop(builder, true);
-  Publish::Visible(builder);
-  Publish::MouseEvents(builder);
-  Publish::FocusEvents(builder);
-  Publish::KeyEvents(builder);
-  Publish::GridEvents(builder);
-}
-
-}  // namespace
-
 const TClassInfo* TKTItemListEditor::Class() {
   using T = TKTItemListEditor;
   static const TClassInfo info = [] {
     TClassBuilder<T> builder("TKTItemListEditor");
-    PublishGrid(builder);
-    Publish::GridOptions(builder, {goFixedVertLine, goFixedHorzLine, goVertLine, goHorzLine, goColSizing, goEditing,
-                                   goAlwaysShowEditor, goThumbTracking});
-    builder.Property<&T::GetArrangeByCategory, &T::SetArrangeByCategory>("ArrangeByCategory").Default(false);
-    builder.Property<&T::GetCaseSensitive, &T::SetCaseSensitive>("CaseSensitive").Default(false);
-    builder.Property<&T::GetDeleteBlanks, &T::SetDeleteBlanks>("DeleteBlanks").Default(true);
-    builder.Property<&T::GetCategoryFont, &T::SetCategoryFont>("CategoryFont");
-    builder.Property<&T::GetDisplayOptions, &T::SetDisplayOptions>("DisplayOptions")
-        .Default(TILEDisplayOptions{doColumnTitles, doAutoColResize, doKeyColFixed, doShowReadOnly});
-    builder.Property<&T::GetDropDownRows, &T::SetDropDownRows>("DropDownRows").Default(8);
-    builder.Property<&T::GetHideSelection, &T::SetHideSelection>("HideSelection").Default(true);
-    // Deliberately not what a new editor has: 17 is never written, and so comes back as 11.
-    builder.Property<&T::GetIndent, &T::SetIndent>("Indent").Default(17);
-    builder.Property<&T::GetMinusGlyph, &T::SetMinusGlyph>("MinusGlyph").Stored(&T::IsMinusGlyphStored);
-    builder.Property<&T::GetPlusGlyph, &T::SetPlusGlyph>("PlusGlyph").Stored(&T::IsPlusGlyphStored);
-    builder.Property<&T::GetOrientation, &T::SetOrientation>("Orientation").Default(goVertical);
-    builder.Property<&T::GetPathDelimiter, &T::SetPathDelimiter>("PathDelimiter");
-    builder.Property<&T::GetPropertyOptions, &T::SetPropertyOptions>("PropertyOptions").Default(TILEPropOptions{});
-    builder.Property<&T::GetShowItemHintStyle, &T::SetShowItemHintStyle>("ShowItemHintStyle").Default(shValueAndHint);
-    builder.Property<&T::IsSorted, &T::SetSorted>("Sorted").Default(false);
-    builder.Property<&T::GetTitleCaptions, &T::SetTitleCaptions>("TitleCaptions").Stored(&T::TitleCaptionsStored);
-    builder.Property<&T::GetTitleCaptionFont, &T::SetTitleCaptionFont>("TitleCaptionFont");
-    builder.Property<&T::GetValueFont, &T::SetValueFont>("ValueFont");
+    Publish::GridOfItems(builder);
+    Publish::ItemListEditor(builder);
     builder.Property<&T::GetItems, &T::SetItems>("Items");
-    builder.Property<&T::GetStrings, &T::SetStrings>("Strings").NotStored();
-    builder.Property<&T::OnCategorize>("OnCategorize");
-    builder.Property<&T::OnEditButtonClick>("OnEditButtonClick");
-    builder.Property<&T::OnGetPickList>("OnGetPickList");
-    builder.Property<&T::OnShowHints>("OnShowHints");
-    builder.Property<&T::OnValidate>("OnValidate");
-    builder.Property<&T::OnValidated>("OnValidated");
-    builder.Property<&T::OnValidateError>("OnValidateError");
+    Publish::ItemListEvents(builder);
     return builder.Creatable().Done();
   }();
   return &info;

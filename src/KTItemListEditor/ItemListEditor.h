@@ -58,7 +58,7 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   TKTItemProp* GetSelected() const;
   /// Expands the ancestors and moves the cursor to the item. Null hides the in-place editor.
   void SetSelected(TKTItemProp* item);
-  /// Name and first value of a row; setting a row past the last adds an item.
+  /// Name and first value of a row, counted without the title; setting a row past the last adds an item.
   QString GetPropNames(int index);
   void SetPropNames(int index, const QString& value);
   QString GetPropValues(int index);
@@ -154,7 +154,7 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   // Changing.
 
   /// Reuses the empty item under the cursor, or adds one at the top level: at the end, or before the cursor. Answers
-  /// its line.
+  /// its line. At the top level there may be fewer items than lines before the cursor: it comes last then.
   int InsertItem(const QString& name, const QString& value, bool append);
   /// Takes back what is typed, or removes the empty item under the cursor; false when there was neither.
   bool RestoreCurrentItem();
@@ -222,6 +222,7 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   void UpdateItemProp(TKTItemProp* item);
   void VisibleChanged(TKTItemProp* item);
   void InvalidateItem(const TKTItemProp& item);
+  void InvalidateValues(const TKTItemProp& item);
 
   /// Items by name, values by the name of their item.
   TGridCellDescription DescribeCell(int col, int row) override;
@@ -294,7 +295,8 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   /// The item under a cell, or null. `isGridPosition`: fixed lines count.
   virtual TKTItemProp* FindItemProp(int col, int row, bool isGridPosition) const;
   virtual QString GetCell(int col, int row);
-  /// The font for the in-place editor: deliberately that of the current value field, whatever the cell.
+  /// The font for the in-place editor: deliberately that of the current value field, whatever the cell. To look at, not
+  /// to change: an item that inherits its font answers whose it is.
   virtual TFont& GetCellFont(int col, int row);
   /// Has the item's handler, or else the editor's, fill `values`; whether they hold anything then. On a line without a
   /// name nothing happens.
@@ -333,6 +335,8 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   virtual void ShowHints(TKTItemProp* item, int col, int row, QString& hint);
   /// Font has changed.
   virtual void FontChanged();
+  /// ValueFont has changed: items that inherit it follow.
+  virtual void InternalValueFontChanged(TObject* sender);
   virtual void GetOriginalFont(TObject* sender, TFont*& font);
 
  private:
@@ -341,13 +345,16 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   void Indent(TKTItemProp& item, QRect& rect);
   QRect GlyphRect(const TKTItemProp& item, const QRect& cell, TPicture& glyph) const;
   void DrawGlyph(const TKTItemProp& item, const QRect& cell);
-  void DrawBox(const QRect& place, bool isExpanded);
   void UseSelectionColors(const QRect& rect, TGridDrawState state);
   void DrawCellText(const QRect& rect, const QString& text);
   void GlyphChanged(TObject* sender);
   std::unique_ptr<TPicture> MakeGlyph(const QString& name);
   int TextRowHeight();
   void FitRowHeight();
+  void MeasureItemFonts();
+  bool NoteItemFont(const TFont& font);
+  /// An item has got a font of its own.
+  void ItemFontSet(const TFont& font);
 
   // Input.
   bool LeaveBlank(int col, int row);
@@ -377,7 +384,6 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   void SwapCounts();
   TGridCoord CellOf(int row, int field) const;
   std::unique_ptr<TKTCustomDeltaFont> MakeFont();
-  void ValueFontChanged(TObject*);
   void CategoryFontChanged(TObject*);
   void FollowFonts();
   void TitleCaptionFontChanged(TObject*);
@@ -408,6 +414,8 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   QPoint FLastMouse;
   int FIndent = 0;
   int FRowHeight = 18;
+  /// Of the highest font that an item ever had of its own, measured while there is a window.
+  int FItemFontHeight = 0;
   QString FPathDelimiter;
   /// A name that was typed and rejected once.
   QString FPendingName;
@@ -425,6 +433,7 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   bool FFollowing = false;
   bool FHideSelection = false;
   bool FIsRowHeightByHand = false;
+  bool FHasItemFonts = false;
   bool FHasOwnMinusGlyph = false;
   bool FHasOwnPlusGlyph = false;
   bool FCaseSensitive = false;

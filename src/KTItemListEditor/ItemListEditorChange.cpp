@@ -4,8 +4,6 @@
 #include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/grids/InplaceEdit.h"
 
-#include <QScopedValueRollback>
-
 namespace kt {
 
 int TKTCustomItemListEditor::InsertItem(const QString& name, const QString& value, bool append) {
@@ -28,29 +26,37 @@ int TKTCustomItemListEditor::InsertItem(const QString& name, const QString& valu
 
 void TKTCustomItemListEditor::DeleteRow(int row) {
   if (FDeleting) return;
-  const QScopedValueRollback deleting(FDeleting, true);
+  const TLiveFlag deleting(this, FDeleting);
+  const TLifeWatch self(this);
+  // Looked up first: moving the cursor runs handlers, after which the row may be that of another item.
+  const TItemWatch item(FOrientation == goVertical ? GetVisibleItem(row - GetFixedRows()) : nullptr);
   if (GetRow() >= GetRowCount() - 1 && GetVisibleItemCount() > 1) SetRow(GetRow() - 1);
-  if (FOrientation == goVertical) FreeItem(GetVisibleItem(row - GetFixedRows()));
+  if (self.IsAlive()) FreeItem(item.Get());
 }
 
 void TKTCustomItemListEditor::DeleteColumn(int col) {
   if (FDeleting) return;
-  const QScopedValueRollback deleting(FDeleting, true);
-  if (GetCol() >= GetColCount() - 1 && GetVisibleItemCount() > 1) SetCol(GetCol() - 1);
+  const TLiveFlag deleting(this, FDeleting);
+  const TLifeWatch self(this);
   // Deliberately a column's number taken for that of an item, and nothing at all where columns are items.
-  if (FOrientation == goVertical) FreeItem(GetVisibleItem(col - GetFixedCols()));
+  const TItemWatch item(FOrientation == goVertical ? GetVisibleItem(col - GetFixedCols()) : nullptr);
+  if (GetCol() >= GetColCount() - 1 && GetVisibleItemCount() > 1) SetCol(GetCol() - 1);
+  if (self.IsAlive()) FreeItem(item.Get());
 }
 
 void TKTCustomItemListEditor::DeleteItem(int col, int row) {
   if (FDeleting) return;
-  const QScopedValueRollback deleting(FDeleting, true);
+  const TLiveFlag deleting(this, FDeleting);
+  const TLifeWatch self(this);
+  const TItemWatch item(FindItemProp(col, row, true));
   const TGridInfo info = GetGridInfo(col, row);
   if (info.CurLine >= info.LineCount - 1 && GetVisibleItemCount() > 1) SetGridCount(gcCurrentLine, info.CurLine - 1);
-  FreeItem(FindItemProp(col, row, true));
+  if (self.IsAlive()) FreeItem(item.Get());
 }
 
+/// Null, or an item that has gone elsewhere meanwhile, is left alone.
 void TKTCustomItemListEditor::FreeItem(TKTItemProp* item) {
-  if (item) item->GetCollection()->Delete(item->GetIndex());
+  if (item && item->GetEditor() == this) item->GetCollection()->Delete(item->GetIndex());
 }
 
 /// Whether something had been typed, and is taken back.
@@ -71,8 +77,9 @@ bool TKTCustomItemListEditor::RestoreTyping() {
 }
 
 bool TKTCustomItemListEditor::RestoreCurrentItem() {
+  const TLifeWatch self(this);
   if (RestoreTyping()) return true;
-  if (!IsEmptyItem()) return false;
+  if (!self.IsAlive() || !IsEmptyItem()) return false;
   DeleteItem(GetCol(), GetRow());
   return true;
 }
@@ -81,7 +88,9 @@ void TKTCustomItemListEditor::SetPropertyOptions(TILEPropOptions value) {
   if (FPropertyOptions == value) return;
   if (FPropertyOptions.Has(propEdit) && !value.Has(propEdit)) value.Exclude(propAdd);
   if (!FPropertyOptions.Has(propAdd) && value.Has(propAdd)) value.Include(propEdit);
+  const TLifeWatch self(this);
   if (!value.Has(propEdit) && GetGridCount(gcCurrentField) == 0) SetGridCount(gcCurrentField, 1);
+  if (!self.IsAlive()) return;
   FPropertyOptions = value;
   if (value.Has(propEdit) && HasState(csLoading)) SetGridCount(gcCurrentField, 0);
 }

@@ -96,7 +96,7 @@ QString TKTCustomItemListEditor::GetEditText(int col, int row) {
 
 TFont& TKTCustomItemListEditor::GetCellFont(int col, int row) {
   TKTItemProp* item = FindItemProp(col, row, true);
-  return item ? item->GetIndividualValueFont(GetCurrentValueIndex()) : GetValueFont();
+  return item ? item->IndividualValueFontToDraw(GetCurrentValueIndex()) : GetValueFont();
 }
 
 void TKTCustomItemListEditor::EditButtonClick(TObject*) {

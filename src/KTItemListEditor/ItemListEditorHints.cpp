@@ -66,7 +66,7 @@ void TKTCustomItemListEditor::ShowHintOf(TKTItemProp& item, TGridCoord cell, con
   const QRect rect = CellRect(cell.X, cell.Y);
   const bool isValue = IsValueCell(cell.X, cell.Y);
   const int indent = isValue ? 0 : (item.GetLevel() + 1) * FIndent;
-  TFont& font = isValue ? item.GetValueFont() : item.GetFont();
+  TFont& font = isValue ? item.ValueFontToDraw() : item.FontToDraw();
   const QRect needed = CalcHintRect(Screen().GetWidth(), text, font);
   const bool fits = indent + needed.width() <= rect.width();
   if (fits && text == GetCell(cell.X, cell.Y)) return FHintWindow->HideHint();

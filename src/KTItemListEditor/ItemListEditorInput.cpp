@@ -15,8 +15,9 @@ bool TKTCustomItemListEditor::SelectCell(int col, int row) {
   const TGridInfo info = GetGridInfo(col, row);
   const bool leavesBlank = FDeleteBlanks && !FDeleting && !FFollowing && info.Line != info.CurLine && IsEmptyItem();
   if (leavesBlank) return LeaveBlank(col, row);
+  const TLifeWatch self(this);
   Validate();
-  if (!TCustomDrawGrid::SelectCell(col, row)) return false;
+  if (!self.IsAlive() || !TCustomDrawGrid::SelectCell(col, row) || !self.IsAlive()) return false;
   return GetOptions().Has(goRowSelect) || IsValueCell(col, row) || FPropertyOptions.Has(propEdit);
 }
 
@@ -25,8 +26,10 @@ bool TKTCustomItemListEditor::SelectCell(int col, int row) {
 bool TKTCustomItemListEditor::LeaveBlank(int col, int row) {
   const TGridInfo info = GetGridInfo(col, row);
   const TItemWatch target(FindItemProp(col, row, true));
+  const TLifeWatch self(this);
   // Deliberately nothing is deleted where items run across the columns, yet the rest is done.
   DeleteRow(info.CurLine);
+  if (!self.IsAlive()) return false;
   if (info.Line < info.CurLine) return true;
   const bool hasMoved = FOrientation == goVertical && target && target->GetAbsoluteVIndex() >= 0;
   const int line = hasMoved ? target->GetAbsoluteVIndex() + info.FixedLines : info.Line - 1;
@@ -36,14 +39,15 @@ bool TKTCustomItemListEditor::LeaveBlank(int col, int row) {
 }
 
 void TKTCustomItemListEditor::DoExit() {
+  const TLifeWatch self(this);
   try {
     Validate();
   } catch (...) {
-    SetFocus();
+    if (self.IsAlive()) SetFocus();
     throw;
   }
-  TCustomDrawGrid::DoExit();
-  HideEditor();
+  if (self.IsAlive()) TCustomDrawGrid::DoExit();
+  if (self.IsAlive()) HideEditor();
 }
 
 // Keys.
@@ -94,7 +98,12 @@ void TKTCustomItemListEditor::HandleKey(quint16& key, TShiftState shift) {
   }
 }
 
-void TKTCustomItemListEditor::AddByKey(bool append, quint16& key) { GoToLine(InsertItem({}, {}, append), key); }
+void TKTCustomItemListEditor::AddByKey(bool append, quint16& key) {
+  const TLifeWatch self(this);
+  const int line = InsertItem({}, {}, append);
+  key = 0;
+  if (self.IsAlive()) GoToLine(line, key);
+}
 
 void TKTCustomItemListEditor::AcceptByKey() {
   const TLifeWatch self(this);

@@ -1,7 +1,6 @@
 // How the cells of an item list editor are drawn.
 #include "kt/KTItemListEditor/ItemListEditor.h"
-
-#include <QPainter>
+#include "kt/vcl/graphics/ExpandSign.h"
 
 namespace kt {
 
@@ -27,7 +26,7 @@ void TKTCustomItemListEditor::DrawCell(int col, int row, const QRect& rect, TGri
 void TKTCustomItemListEditor::UseCellFont(const TGridInfo& info, TKTItemProp* item) {
   TCanvas& canvas = GetCanvas();
   if (item) {
-    canvas.SetFont(info.Field == 0 ? &item->GetFont() : &item->GetIndividualValueFont(info.Field - 1));
+    canvas.SetFont(info.Field == 0 ? &item->FontToDraw() : &item->IndividualValueFontToDraw(info.Field - 1));
     if (!item->GetEnabled()) canvas.GetFont().SetColor(clInactiveCaptionText);
   } else if (info.Line < info.FixedLines) {
     canvas.SetFont(FTitleCaptionFont.get());
@@ -61,23 +60,8 @@ void TKTCustomItemListEditor::DrawGlyph(const TKTItemProp& item, const QRect& ce
   const QRect place = GlyphRect(item, cell, glyph);
   const bool isOwn = item.IsExpanded() ? FHasOwnMinusGlyph : FHasOwnPlusGlyph;
   if (isOwn) return GetCanvas().Draw(place.left(), place.top(), glyph.GetGraphic());
-  DrawBox(place, item.IsExpanded());
-}
-
-/// The package's glyphs, in the colours of the palette and with the sharpness of the screen.
-void TKTCustomItemListEditor::DrawBox(const QRect& place, bool isExpanded) {
-  TCanvas& canvas = GetCanvas();
-  QPainter& painter = canvas.Painter();
-  const QColor ground = canvas.RealColor(GetColor());
-  const QColor sign = canvas.RealColor(GetFont().GetColor());
-  const auto mixed = [&](int a, int b) { return (a + b) / 2; };
-  const QColor frame(mixed(ground.red(), sign.red()), mixed(ground.green(), sign.green()),
-                     mixed(ground.blue(), sign.blue()));
-  const int middle = place.width() / 2;
-  painter.fillRect(place, frame);
-  painter.fillRect(place.adjusted(1, 1, -1, -1), ground);
-  painter.fillRect(QRect(place.left() + 2, place.top() + middle, place.width() - 4, 1), sign);
-  if (!isExpanded) painter.fillRect(QRect(place.left() + middle, place.top() + 2, 1, place.height() - 4), sign);
+  // The package's glyphs, in the colours of the palette and with the sharpness of the screen.
+  DrawExpandSign(GetCanvas(), place, item.IsExpanded(), GetColor(), GetFont().GetColor());
 }
 
 void TKTCustomItemListEditor::UseSelectionColors(const QRect& rect, TGridDrawState state) {

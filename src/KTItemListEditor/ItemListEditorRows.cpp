@@ -3,19 +3,22 @@
 #include "kt/KTItemListEditor/ItemSnapshot.h"
 #include "kt/KTItemListEditor/ItemWatch.h"
 #include "kt/rtl/collections/UpdateBracket.h"
-
-#include <QScopedValueRollback>
+#include "kt/rtl/objects/LifeWatch.h"
 
 namespace kt {
 
 namespace {
 
-/// The lock of an editor, for a bracket: taken and given back also when what is between throws.
+/// The lock of an editor, for a bracket: taken and given back also when what is between throws. An editor that died
+/// meanwhile is left alone.
 struct TEditUpdateLock {
   TKTCustomItemListEditor& Editor;
+  TLifeWatch Life{&Editor};
 
   void BeginUpdate() { Editor.DisableEditUpdate(); }
-  void EndUpdate() { Editor.EnableEditUpdate(); }
+  void EndUpdate() {
+    if (Life.IsAlive()) Editor.EnableEditUpdate();
+  }
 };
 
 }  // namespace
@@ -33,7 +36,9 @@ int TKTCustomItemListEditor::GetVisibleItemCount() const { return FItems ? FItem
 void TKTCustomItemListEditor::ItemNotify(TKTItemProp* item, TCollectionNotification action) {
   // An editor that dies tells nobody about cells any more.
   if (HasState(csDestroying)) return;
+  const TLifeWatch self(this);
   if (action == cnAdded) VisibleChanged(item);
+  if (!self.IsAlive()) return;
   if (action != cnExtracting) return Refresh();
   // What leaves is still in its collection, and half dead perhaps: nothing for handlers to meet. The grid follows when
   // the collection tells that it has changed.
@@ -47,6 +52,7 @@ void TKTCustomItemListEditor::UpdatingItemProp(TKTItemProp*) {
 void TKTCustomItemListEditor::UpdateItemProp(TKTItemProp* item) {
   if (HasState(csDestroying)) return;
   if (IsUpdating()) return;
+  const TLifeWatch self(this);
   if (!item && !IsEditUpdateLocked()) {
     TEditUpdateLock lock{*this};
     const TUpdateBracket bracket(lock);
@@ -54,17 +60,18 @@ void TKTCustomItemListEditor::UpdateItemProp(TKTItemProp* item) {
   } else if (!item) {
     TItemRows::Recount(*FItems);
   }
-  if (IsEditorMode() && !IsUpdating() && !IsEditUpdateLocked()) InvalidateEditor();
+  if (self.IsAlive() && IsEditorMode() && !IsUpdating() && !IsEditUpdateLocked()) InvalidateEditor();
 }
 
 void TKTCustomItemListEditor::VisibleChanged(TKTItemProp*) {
   if (HasState(csDestroying) || IsUpdating()) return;
   const TItemWatch selected(GetSelected());
+  const TLifeWatch self(this);
   TItemRows::Recount(*FItems);
   Refresh();
-  if (!selected) return;
+  if (!self.IsAlive() || !selected) return;
   // The cursor follows its item; it does not leave what is under it meanwhile, an item that is being made perhaps.
-  const QScopedValueRollback following(FFollowing, true);
+  const TLiveFlag following(this, FFollowing);
   GoToRow(selected->GetAbsoluteVIndex());
 }
 
@@ -78,18 +85,33 @@ void TKTCustomItemListEditor::InvalidateItem(const TKTItemProp& item) {
   }
 }
 
+void TKTCustomItemListEditor::InvalidateValues(const TKTItemProp& item) {
+  // The end of the bracket repaints everything.
+  if (!HandleAllocated() || IsUpdating()) return;
+  const int row = item.GetAbsoluteVIndex();
+  if (row < 0) return;
+  if (FOrientation == goVertical) {
+    InvalidateCells({1, row + GetFixedRows(), GetColCount() - 1, row + GetFixedRows()});
+  } else {
+    InvalidateCells({row + GetFixedCols(), 1, row + GetFixedCols(), GetRowCount() - 1});
+  }
+}
+
 // Bringing the grid in step.
 
 void TKTCustomItemListEditor::ShowRows() {
+  const TLifeWatch self(this);
   try {
     HideEditor();
   } catch (...) {
     // Whoever refused what was typed gets the rows counted all the same.
-    TItemRows::Recount(*FItems);
+    if (self.IsAlive()) TItemRows::Recount(*FItems);
     throw;
   }
+  if (!self.IsAlive()) return;
   TItemRows::Recount(*FItems);
   AdjustGridCount();
+  if (!self.IsAlive()) return;
   // Rows that only changed places leave their number as it was.
   Invalidate();
   ShowEditor();
@@ -102,7 +124,9 @@ void TKTCustomItemListEditor::RefreshVisibleItems() {
 
 void TKTCustomItemListEditor::Refresh() {
   if (IsEditUpdateLocked()) return;
+  const TLifeWatch self(this);
   AdjustGridCount();
+  if (!self.IsAlive()) return;
   Invalidate();
   InvalidateEditor();
 }
@@ -115,10 +139,12 @@ int TKTCustomItemListEditor::WantedLineCount() const {
 void TKTCustomItemListEditor::AdjustGridCount() {
   const int wanted = WantedLineCount();
   if (wanted == GetGridCount(gcLineCount)) return;
-  const QScopedValueRollback following(FFollowing, true);
+  const TLiveFlag following(this, FFollowing);
+  const TLifeWatch self(this);
   if (wanted < GetGridCount(gcCurrentLine)) SetGridCount(gcCurrentLine, wanted - 1);
-  // Whoever heard of the new current line may have changed the rows.
-  SetGridCount(gcLineCount, WantedLineCount());
+  // Whoever heard of the new current line may have changed the rows, or freed the editor.
+  if (self.IsAlive()) SetGridCount(gcLineCount, WantedLineCount());
+  if (!self.IsAlive()) return;
   // While the grid turns, the title line may still be missing.
   const bool isOnTitles = FDisplayOptions.Has(doColumnTitles) && GetGridCount(gcCurrentLine) == 0;
   if (isOnTitles && GetGridCount(gcLineCount) > 1) SetGridCount(gcCurrentLine, 1);
@@ -139,6 +165,7 @@ void TKTCustomItemListEditor::EnableEditUpdate() {
 
 template <class F>
 void TKTCustomItemListEditor::ChangeAll(F change) {
+  const TLifeWatch self(this);
   {
     const TUpdateBracket bracket(*FItems);
     const TItemSnapshot snapshot(*FItems);
@@ -146,7 +173,7 @@ void TKTCustomItemListEditor::ChangeAll(F change) {
       if (snapshot[i]) change(*snapshot[i]);
     }
   }
-  ShowRows();
+  if (self.IsAlive()) ShowRows();
 }
 
 void TKTCustomItemListEditor::FullExpand() {

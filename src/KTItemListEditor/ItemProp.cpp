@@ -69,7 +69,9 @@ TKTItemProp::TKTItemProp(TCollection* collection) : TCollectionItem(collection) 
 TKTItemProp::~TKTItemProp() = default;
 
 void TKTItemProp::Construct() {
-  if (const auto* items = static_cast<TKTItemProps*>(CollectionToEnter())) FSortsItems = items->GetSorted();
+  const auto* items = static_cast<TKTItemProps*>(CollectionToEnter());
+  FSortsItems = items && items->GetSorted();
+  FIsMadeAlone = !items || !items->GetEditor();
   SetVisible(true);
   // Last, so that whoever hears of the new item finds it complete.
   TCollectionItem::Construct();
@@ -159,12 +161,19 @@ void TKTItemProp::SetCollection(TCollection* value) {
     }
   } catch (...) {
     if (!self || !GetCollection()) throw;
-    // The dying go all the same.
-    FIsDying ? TItemRows::Leave(*this) : TItemRows::EnterAgain(*this);
+    // The dying go all the same, and nothing may point at them then.
+    FIsDying ? LeaveSilently() : TItemRows::EnterAgain(*this);
     throw;
   }
   // There may be a whole tree below, which mostly goes on inheriting the same.
   if (self && looks && (FRare || FItems) && *looks != TLooks(*this)) FollowFonts();
+}
+
+/// What Notify() did not come to, because somebody threw before.
+void TKTItemProp::LeaveSilently() {
+  TItemRows::Leave(*this);
+  TKTItemProps* items = GetCollection();
+  if (items->FDefaultCategory == this) items->FDefaultCategory = nullptr;
 }
 
 TKTItemProp* TKTItemProp::GetParent() const {
@@ -225,7 +234,7 @@ TKTItemProps& TKTItemProp::EnsureItems() {
 }
 
 std::unique_ptr<TKTItemProps> TKTItemProp::MakeItems() {
-  TKTCustomItemListEditor* editor = GetEditor();
+  TKTCustomItemListEditor* editor = FIsMadeAlone ? nullptr : GetEditor();
   std::unique_ptr<TKTItemProps> items = editor ? editor->CreateItems(this) : CreateItems();
   items->StoreSorted(FSortsItems);
   return items;
@@ -261,7 +270,7 @@ void TKTItemProp::ItemNotify(TKTItemProp* item, TCollectionNotification action) 
 void TKTItemProp::VisibleChanged() {
   TKTItemProps* items = GetCollection();
   if (!items) return;
-  TItemRows::MarkStale(*this);
+  TItemRows::MarkChanged(*this);
   items->VisibleChanged(this);
 }
 

@@ -108,6 +108,13 @@ class TKTItemProp : public TCollectionItem {
   void SetFont(TFont& value);
   void SetValueFont(TFont& value);
 
+  // What texts are drawn with: what the getters of the same names answer, but not made for the asking. An item without
+  // a font object of its own answers the one that it inherits. To look at, not to change.
+
+  TFont& FontToDraw();
+  TFont& ValueFontToDraw();
+  TFont& IndividualValueFontToDraw(int index);
+
   // Events. A handler of the item goes before the editor's.
 
   TNotifyEvent GetOnEditButtonClick() const;
@@ -160,6 +167,7 @@ class TKTItemProp : public TCollectionItem {
  public:
   /// The names of the ancestors and of this item, with the path delimiter between.
   virtual QString GetFullPathName();
+  /// Overrides of the fonts' getters are asked while a cell is painted: they change no font that they find.
   virtual TFont& GetFont();
   virtual TFont& GetValueFont();
   /// The font of one value column; the same for all, here.
@@ -175,6 +183,8 @@ class TKTItemProp : public TCollectionItem {
  protected:
   /// Takes the item to the category and place where one of that name belongs.
   virtual void MoveProp(const QString& newName);
+  /// The part of MoveProp() that stays within the level.
+  void MoveToSortedPlace(const QString& newName);
 
  public:
   /// The font of `source`, or with null the editor's, has changed; followed while ParentFont.
@@ -188,6 +198,7 @@ class TKTItemProp : public TCollectionItem {
   virtual void ItemNotify(TKTItemProp* item, TCollectionNotification action);
 
  public:
+  /// A read-only item comes to have a row by that, or loses it: VisibleChanged() is told then, too.
   virtual void SetCategory(bool value);
   /// Raises ETORVException "Property name is not unique: %s" while the editor wants unique names.
   virtual void SetName(const QString& value);
@@ -197,6 +208,7 @@ class TKTItemProp : public TCollectionItem {
   virtual void SetEditStyle(TEditStyle value);
   virtual void SetEditMask(const QString& value);
   virtual void SetPickList(TStrings& value);
+  /// As with SetReadOnly(), VisibleChanged() is told where read-only items have no row.
   virtual void SetEnabled(bool value);
   virtual void SetExpressionMask(bool value);
   virtual void SetExpanded(bool value);
@@ -225,11 +237,16 @@ class TKTItemProp : public TCollectionItem {
   virtual void Validate();
 
  protected:
-  /// Makes the child collection of an item without an editor.
+  /// Makes the child collection of an item that was made without an editor; it stays of this kind when the item comes
+  /// to one later. For others the editor that the item is in at the first use of its children makes it.
   virtual std::unique_ptr<TKTItemProps> CreateItems();
   /// Whether the item asks for a row of its own, its ancestors left aside. The rows follow this; tell VisibleChanged()
   /// when the answer becomes another one.
   virtual bool WantsRow() { return IsVisibleItem(); }
+  /// Hands an error of validation to the item's handler, or the editor's.
+  void TellValidateError(const Exception& error);
+  /// Items, as they are streamed.
+  TKTItemProps& GetPublishedItems();
 
  private:
   friend class TItemRows;
@@ -244,10 +261,10 @@ class TKTItemProp : public TCollectionItem {
   std::unique_ptr<TKTItemProps> MakeItems();
   std::unique_ptr<TKTItemPropValueStrings> MakeValues();
   void FreeItemsFromLeaves();
+  void LeaveSilently();
   void TellItemsReplaced();
   // What is published. An item that is written for the first time does not keep the lists that it is asked for.
   TKTItemPropValueStrings& GetPublishedValues();
-  TKTItemProps& GetPublishedItems();
   template <class T, class F>
   T* StandIn(F make);
   void FontChanged(TObject* sender);
@@ -261,12 +278,15 @@ class TKTItemProp : public TCollectionItem {
   TFont* ValueFontToInherit();
   bool HasLookOf(TKTItemProp& other);
   bool HasValueLookOf(TKTItemProp& other);
+  template <class F>
+  TFont& Look(F get);
+  void TellFontSet(const TFont& font, const TFont* inherited);
+  void TellOwnFonts(TKTCustomItemListEditor& editor);
   void FollowFont();
   void FollowValueFont();
   void FollowFonts();
   struct TLooks;
   void InvalidateRow();
-  void TellValidateError(const Exception& error);
   void SetExpandedFlag(bool value);
   template <void (TKTItemProp::*Change)()>
   void ChangeFully(bool isExpanded);
@@ -299,6 +319,10 @@ class TKTItemProp : public TCollectionItem {
   /// Counts in its collection's sums.
   bool FIsCounted : 1 = false;
   bool FIsDying : 1 = false;
+  /// Made outside any editor.
+  bool FIsMadeAlone : 1 = false;
+  /// Fonts are asked for to look at, not to change.
+  bool FIsLooking : 1 = false;
   unsigned FEditStyle : 2 = esSimple;
 };
 

@@ -31,9 +31,11 @@ TFont* TKTItemProp::ValueFontToInherit() {
 }
 
 TFont& TKTItemProp::GetFont() {
-  if (!Rare().Font) {
+  if (!HasFontObject()) {
+    TFont* source = FParentFont ? FontToInherit() : nullptr;
+    if (FIsLooking && source) return *source;
     auto font = Make<TFont>();
-    if (TFont* source = FParentFont ? FontToInherit() : nullptr) font->Assign(source);
+    if (source) font->Assign(source);
     font->OnChange = {this, &TKTItemProp::FontChanged};
     Rare().Font = std::move(font);
   }
@@ -41,9 +43,11 @@ TFont& TKTItemProp::GetFont() {
 }
 
 TFont& TKTItemProp::GetValueFont() {
-  if (!Rare().ValueFont) {
+  if (!HasValueFontObject()) {
+    TFont* source = FParentValueFont ? ValueFontToInherit() : nullptr;
+    if (FIsLooking && source) return *source;
     auto font = Make<TFont>();
-    if (TFont* source = FParentValueFont ? ValueFontToInherit() : nullptr) font->Assign(source);
+    if (source) font->Assign(source);
     font->OnChange = {this, &TKTItemProp::FontChanged};
     Rare().ValueFont = std::move(font);
   }
@@ -51,6 +55,30 @@ TFont& TKTItemProp::GetValueFont() {
 }
 
 TFont& TKTItemProp::GetIndividualValueFont(int) { return GetValueFont(); }
+
+/// The getters can be overridden, and so have to be asked themselves.
+template <class F>
+TFont& TKTItemProp::Look(F get) {
+  struct TLooking {
+    TKTItemProp& Item;
+    bool Before = Item.FIsLooking;
+    ~TLooking() { Item.FIsLooking = Before; }
+  } looking{*this};
+  FIsLooking = true;
+  return get();
+}
+
+TFont& TKTItemProp::FontToDraw() {
+  return Look([this]() -> TFont& { return GetFont(); });
+}
+
+TFont& TKTItemProp::ValueFontToDraw() {
+  return Look([this]() -> TFont& { return GetValueFont(); });
+}
+
+TFont& TKTItemProp::IndividualValueFontToDraw(int index) {
+  return Look([this, index]() -> TFont& { return GetIndividualValueFont(index); });
+}
 
 void TKTItemProp::SetFont(TFont& value) { GetFont().Assign(&value); }
 
@@ -61,12 +89,26 @@ void TKTItemProp::FontChanged(TObject* sender) {
   if (sender != FRare->Font.get()) {
     FParentValueFont = false;
     TellParentValueFontChanged();
+    if (self) TellFontSet(*FRare->ValueFont, ValueFontToInherit());
   } else {
     FParentFont = false;
     TellParentFontChanged(this);
+    if (self) TellFontSet(*FRare->Font, FontToInherit());
   }
   if (self) InvalidateRow();
   if (self) Changed(false);
+}
+
+/// What looks like what it would inherit is no news: that follows it, or may do so.
+void TKTItemProp::TellFontSet(const TFont& font, const TFont* inherited) {
+  TKTCustomItemListEditor* editor = GetEditor();
+  if (editor && !(inherited && font.IsSameAs(*inherited))) editor->ItemFontSet(font);
+}
+
+void TKTItemProp::TellOwnFonts(TKTCustomItemListEditor& editor) {
+  const TItemWatch self(this);
+  if (!FParentFont && HasFontObject()) editor.ItemFontSet(*FRare->Font);
+  if (self && !FParentValueFont && HasValueFontObject()) editor.ItemFontSet(*FRare->ValueFont);
 }
 
 void TKTItemProp::TellParentFontChanged(TKTItemProp* source) {
@@ -130,6 +172,8 @@ void TKTItemProp::FollowFonts() {
   for (const TItemWatch& item : withFonts) {
     if (item) item->FollowFont();
     if (item) item->FollowValueFont();
+    TKTCustomItemListEditor* editor = item ? item->GetEditor() : nullptr;
+    if (editor) item->TellOwnFonts(*editor);
   }
 }
 
@@ -138,14 +182,20 @@ void TKTItemProp::SetParentFont(bool value) {
   // What it looks like now is its own from here on.
   GetFont();
   FParentFont = value;
-  ParentFontChanged(this);
+  const TItemWatch self(this);
+  TKTCustomItemListEditor* editor = GetEditor();
+  if (editor) TellOwnFonts(*editor);
+  if (self) ParentFontChanged(this);
 }
 
 void TKTItemProp::SetParentValueFont(bool value) {
   if (FParentValueFont == value) return;
   GetValueFont();
   FParentValueFont = value;
-  ParentValueFontChanged();
+  const TItemWatch self(this);
+  TKTCustomItemListEditor* editor = GetEditor();
+  if (editor) TellOwnFonts(*editor);
+  if (self) ParentValueFontChanged();
 }
 
 bool TKTItemProp::IsFontStored() const {

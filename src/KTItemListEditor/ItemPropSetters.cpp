@@ -82,7 +82,11 @@ void TKTItemProp::MoveProp(const QString& newName) {
     if (!self) return;
     if (category && &category->GetItems() != GetCollection()) SetCollection(&category->GetItems());
   }
-  TKTItemProps* items = self ? GetCollection() : nullptr;
+  if (self) MoveToSortedPlace(newName);
+}
+
+void TKTItemProp::MoveToSortedPlace(const QString& newName) {
+  TKTItemProps* items = GetCollection();
   if (!items || !items->GetSorted()) return;
   int index = 0;
   items->Find(newName, index);
@@ -134,9 +138,15 @@ void TKTItemProp::SetDefaultCategory(bool value) {
   if (FDefaultCategory == value) return;
   FDefaultCategory = value;
   const TItemWatch self(this);
-  if (value && !FCategory) SetCategory(true);
-  if (!self) return;
-  if (TKTItemProps* items = GetCollection()) items->DefaultCategoryChanged(this);
+  try {
+    if (value && !FCategory) SetCategory(true);
+    if (!self) return;
+    if (TKTItemProps* items = GetCollection()) items->DefaultCategoryChanged(this);
+  } catch (...) {
+    // The flag stays as it is stored, so its collection has to know.
+    if (TKTItemProps* items = self ? GetCollection() : nullptr) items->TKTItemProps::DefaultCategoryChanged(this);
+    throw;
+  }
 }
 
 // The pick list.

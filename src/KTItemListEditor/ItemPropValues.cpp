@@ -38,7 +38,11 @@ TKTItemPropValueStrings& TKTItemProp::GetValues() {
 
 void TKTItemProp::SetValues(TStrings& value) { GetValues().Assign(&value); }
 
-void TKTItemProp::ValuesChanged(TObject*) { Changed(false); }
+void TKTItemProp::ValuesChanged(TObject*) {
+  TKTCustomItemListEditor* editor = GetEditor();
+  if (editor && IsVisible()) editor->InvalidateValues(*this);
+  Changed(false);
+}
 
 QString TKTItemProp::GetValuesText() {
   if (FValues) return FValues->GetText();
@@ -48,7 +52,7 @@ QString TKTItemProp::GetValuesText() {
 void TKTItemProp::SetValuesText(const QString& value) {
   if (FValues || !IsSingleLine(value)) return GetValues().SetText(value);
   FSingleValue = value.isEmpty() ? QString() : value;
-  Changed(false);
+  ValuesChanged(nullptr);
 }
 
 QString TKTItemProp::GetValueLine(int index) {
@@ -64,7 +68,7 @@ void TKTItemProp::SetValueLine(int index, const QString& value) {
   if (FValues || index != 0 || !editor || editor->GetValueCount() != 1) return GetValues().SetStrings(index, value);
   const bool isSame = FSingleValue == value;
   FSingleValue = AsLine(isSame ? FSingleValue : value);
-  if (!isSame) Changed(false);
+  if (!isSame) ValuesChanged(nullptr);
 }
 
 QString TKTItemProp::GetValue() {

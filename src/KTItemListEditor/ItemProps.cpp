@@ -127,14 +127,6 @@ bool TKTItemProps::IsValid(const QString& name, bool raiseOnConflict) {
   return false;
 }
 
-void TKTItemProps::Assign(TPersistent* source) {
-  if (const auto* other = dynamic_cast<TKTItemProps*>(source); other && other != this) {
-    if (other->FCategories || FCategories) GetCategories().Assign(&const_cast<TKTItemProps*>(other)->GetCategories());
-    StoreSorted(other->FSorted);
-  }
-  TOwnedCollection::Assign(source);
-}
-
 // How changes travel up.
 
 void TKTItemProps::Changing() {

@@ -85,7 +85,8 @@ class TKTItemProps : public TOwnedCollection {
   /// Finds or adds the category named DefaultCategoryName; does nothing when that is empty.
   void CreateDefaultCategory();
 
-  /// Copies Categories, the bare Sorted flag, and the items.
+  /// Copies Categories, the bare Sorted flag, and the items. When that fails, all of it is as it was, the default
+  /// category too.
   void Assign(TPersistent* source) override;
   void BeginUpdate() override;
 
@@ -142,10 +143,13 @@ class TKTItemProps : public TOwnedCollection {
 
   /// The text before the first delimiter; `rest` becomes what follows it. `hasRest` tells whether there was one.
   struct TPathHead;
+  /// What a copy that fails gives back besides the items.
+  class TFormerSettings;
   TPathHead SplitPath(const QString& path) const;
   TKTItemProp* AddNewItem();
   bool RequiresUniqueNames() const;
   void Leave(TKTItemProp& item);
+  void AssignSettings(TKTItemProps& source);
   void TellOwner(TKTItemProp* item, TCollectionNotification action);
   void StoreSorted(bool value);
   void StoreSortedBelow(bool value);

@@ -44,7 +44,9 @@ void TKTItemProps::DeleteCategory(int index, bool deleteChildren) {
 }
 
 void TKTItemProps::ClearCategories(bool deleteChildren) {
-  for (int index = 0; index < GetCount();) {
+  // Handlers of what goes may free the list.
+  const TLifeWatch self(this);
+  for (int index = 0; self.IsAlive() && index < GetCount();) {
     if (GetItem(index)->GetCategory()) {
       DeleteCategory(index, deleteChildren);
     } else {

@@ -3,6 +3,7 @@
 #include "kt/KTItemListEditor/ItemProps.h"
 #include "kt/KTItemListEditor/ItemSums.h"
 
+#include <QScopeGuard>
 #include <QVarLengthArray>
 
 #include <vector>
@@ -63,6 +64,11 @@ void TItemRows::MarkStale(TKTItemProp& item) {
     items->FStale = child;
     child = items->FOwnerItem;
   }
+}
+
+void TItemRows::MarkChanged(TKTItemProp& item) {
+  auto stale = qScopeGuard([&] { MarkStale(item); });
+  if (!item.FItems && WantedRows(item) == item.FRows) stale.dismiss();
 }
 
 // Trees are as deep as their builders like: no recursion where an item is moved with all below it.

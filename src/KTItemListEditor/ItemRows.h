@@ -28,6 +28,9 @@ class TItemRows {
   static void EnterAgain(TKTItemProp& item);
   /// `item` may take another number of rows than before.
   static void MarkStale(TKTItemProp& item);
+  /// The same for an item that can tell now. One without children mostly takes what it took, and then nobody comes back
+  /// to count it.
+  static void MarkChanged(TKTItemProp& item);
   /// All items at any level may.
   static void MarkAllStale(TKTItemProps& items);
   static void Recount(TKTItemProps& items);

@@ -13,6 +13,20 @@ struct TRestoringEdit : TKTInplaceEditList {
   using TKTInplaceEditList::RestoreContents;
 };
 
+TEST_F(InplaceEditListDropDownTest, TheListHasWholeLinesOfElevenWithoutAWindow) {
+  struct TOpenedEditor : TKTItemListEditor {
+    using TKTItemListEditor::CreateEditor;
+  };
+  struct TOpenedEdit : TKTInplaceEditList {
+    using TKTInplaceEditList::GetPickList;
+  };
+  TInplaceEdit* edit = (Editor.*&TOpenedEditor::CreateEditor)();
+  auto& list = (dynamic_cast<TKTInplaceEditList&>(*edit).*&TOpenedEdit::GetPickList)();
+  EXPECT_FALSE(list.HandleAllocated());
+  EXPECT_EQ(11, list.GetItemHeight());
+  EXPECT_TRUE(list.IsIntegralHeight());
+}
+
 TEST_F(InplaceEditListDropDownTest, AltDownOpensTheListWithTheTextSelected) {
   Item(0).SetValue(QStringLiteral("green"));
   ShowColors();

@@ -1,6 +1,5 @@
 #include "KTItemListEditor/InplaceEditListFixture.h"
-
-#include <functional>
+#include "kt/rtl/objects/UnhandledExceptions.h"
 
 /// Handlers that free what they were called for: nothing crashes, no lock stays held, and the next edit works.
 namespace kt::tests {
@@ -38,6 +37,8 @@ class TLifeTest : public TInplaceEditListTest {
     EXPECT_EQ(nullptr, QWidget::mouseGrabber());
     Editor.OnGetPickList = nullptr;
     Editor.OnSetEditText = nullptr;
+    Editor.OnGetEditText = nullptr;
+    Editor.OnGetEditMask = nullptr;
     Editor.OnEditButtonClick = nullptr;
     Editor.OnValidate = nullptr;
     Editor.GetItems().Clear();
@@ -151,6 +152,34 @@ TEST_P(InplaceEditListLifeTest, AHandlerOfTheValidationWhileALineIsClicked) {
   OpenList();
   Editor.OnValidate = [this](TObject*, TKTItemProp*, int) { Do(Deed()); };
   ClickLine(1);
+  ExpectSound();
+}
+
+TEST_P(InplaceEditListLifeTest, AHandlerThatAllowsTheNextCell) {
+  Show();
+  Editor.OnSelectCell = [this](TObject*, int, int, bool&) { Do(Deed()); };
+  Key(Qt::Key_Down);
+  ExpectSound();
+}
+
+TEST_P(InplaceEditListLifeTest, AHandlerThatGivesTheMaskOfTheNextCell) {
+  Show();
+  Editor.OnGetEditMask = [this](TObject*, int, int, QString&) { Do(Deed()); };
+  Key(Qt::Key_Down);
+  ExpectSound();
+}
+
+TEST_P(InplaceEditListLifeTest, AHandlerThatGivesTheTextOfTheNextCell) {
+  Show();
+  Editor.OnGetEditText = [this](TObject*, int, int, QString&) { Do(Deed()); };
+  Key(Qt::Key_Down);
+  ExpectSound();
+}
+
+TEST_P(InplaceEditListLifeTest, AHandlerThatGivesTheTextWhenItIsReadAgain) {
+  Show();
+  Editor.OnGetEditText = [this](TObject*, int, int, QString&) { Do(Deed()); };
+  GuardedCall([this] { Editor.Refresh(); });
   ExpectSound();
 }
 

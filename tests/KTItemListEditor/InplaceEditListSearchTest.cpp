@@ -1,10 +1,19 @@
 #include "KTItemListEditor/InplaceEditListFixture.h"
+#include "kt/KTItemListEditor/DropDownList.h"
 
 namespace kt::tests {
 namespace {
 
 /// Typing while the list is open.
-using InplaceEditListSearchTest = TInplaceEditListTest;
+class InplaceEditListSearchTest : public TInplaceEditListTest {
+ protected:
+  /// From here on only `Now` tells the time.
+  void UseClock() {
+    Now = {};
+    dynamic_cast<TKTDropDownList&>(List()).SetClock([] { return Now; });
+  }
+  static inline TKTDropDownList::TClock::time_point Now;
+};
 
 TEST_F(InplaceEditListSearchTest, TypingSelectsTheFirstLineThatBeginsWithAllThatWasTyped) {
   ShowPickList({QStringLiteral("Bear"), QStringLiteral("badger"), QStringLiteral("bat")});
@@ -35,8 +44,30 @@ TEST_F(InplaceEditListSearchTest, BackspaceHasTheSearchStartAnew) {
 TEST_F(InplaceEditListSearchTest, APauseHasTheSearchStartAnew) {
   ShowColors();
   OpenList();
+  UseClock();
   Type(QStringLiteral("g"));
-  QTest::qWait(2100);
+  Now += TKTDropDownList::SearchPause + std::chrono::milliseconds(1);
+  Type(QStringLiteral("b"));
+  EXPECT_EQ("red green >blue", Lines());
+}
+
+TEST_F(InplaceEditListSearchTest, AShorterPauseGoesOnWithTheSearch) {
+  ShowColors();
+  OpenList();
+  UseClock();
+  Type(QStringLiteral("g"));
+  Now += TKTDropDownList::SearchPause;
+  Type(QStringLiteral("b"));
+  EXPECT_EQ("red >green blue", Lines());
+}
+
+TEST_F(InplaceEditListSearchTest, AListThatOpensAgainSearchesForNothing) {
+  ShowColors();
+  OpenList();
+  UseClock();
+  Type(QStringLiteral("g"));
+  Key(Qt::Key_Escape);
+  OpenList();
   Type(QStringLiteral("b"));
   EXPECT_EQ("red green >blue", Lines());
 }

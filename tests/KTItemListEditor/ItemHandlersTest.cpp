@@ -53,7 +53,9 @@ class ItemHandlersTest : public TItemScenarioTest,
   }
   void AssignLastToFirst() {
     TKTItemProp* last = FEditor->GetItem(FEditor->GetItemCount() - 1);
-    if (last && !last->HasItems()) FEditor->GetItem(0)->Assign(last);
+    if (!last || last->HasItems()) return;
+    FHasCopies |= last->GetDefaultCategory();
+    FEditor->GetItem(0)->Assign(last);
   }
   /// The scenario with the deed done in the call of a handler that has this number; false when there is none.
   bool RunWithDeedAt(int number) {

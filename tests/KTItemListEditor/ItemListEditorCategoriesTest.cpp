@@ -236,6 +236,17 @@ TEST_F(ItemListEditorCategoriesTest, ARenamedItemMovesToItsNewCategoryWhileArran
   EXPECT_EQ("Miscellaneous [b] X Y [c]", TreeText());
 }
 
+TEST_F(ItemListEditorCategoriesTest, ARenamedItemGoesToItsSortedPlaceInItsNewCategory) {
+  FEditor->SetSorted(true);
+  TKTItemProps& below = Items().AddCategory("X", false)->GetItems();
+  for (const char* name : {"b", "d"}) below.Add(name, {});
+  Fill("a");
+  Items().GetCategories().Add("c=X");
+  FEditor->SetArrangeByCategory(true);
+  Item("a").SetName("c");
+  EXPECT_EQ("Miscellaneous X [b c d]", TreeText());
+}
+
 TEST_F(ItemListEditorCategoriesTest, ARenamedItemStaysUnlessArranged) {
   Fill("a");
   Items().GetCategories().Add("b=X");

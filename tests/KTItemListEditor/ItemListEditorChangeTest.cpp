@@ -247,6 +247,17 @@ TEST_F(ItemListEditorChangeTest, RefreshDoesNothingWhileTheEditUpdateIsLocked) {
   EXPECT_EQ("editor.Refresh editor.AdjustGridCount editor.Invalidate", Heard([&] { FEditor->Refresh(); }));
 }
 
+TEST_F(ItemListEditorChangeTest, AcrossTheColumnsWithoutEditingTheCursorLeavesTheNameRow) {
+  Fill("a b");
+  FEditor->SetOrientation(goHorizontal);
+  FEditor->SetPropertyOptions({propEdit});
+  FEditor->SetCol(2);
+  FEditor->SetRow(0);
+  FEditor->SetPropertyOptions({});
+  EXPECT_EQ(1, FEditor->GetRow());
+  EXPECT_EQ(2, FEditor->GetCol());
+}
+
 TEST_F(ItemListEditorChangeTest, TheCursorStaysOnItsItemWhenRowsComeAndGoAbove) {
   Fill("a [x y] b c");
   FEditor->SetSelected(&Item("b"));

@@ -261,6 +261,58 @@ TEST_F(ItemListEditorColumnsTest, RowsFollowTheLargestOfTheFonts) {
   EXPECT_LT(Sized().EffectiveRowHeight(), 42);
 }
 
+TEST_F(ItemListEditorColumnsTest, ARowIsAsHighAsTheFontsOfItsItemNeed) {
+  Show();
+  Fill("a b");
+  Item("b").GetFont().SetHeight(-30);
+  EXPECT_GE(Sized().EffectiveRowHeight(), 32);
+  Item("a").GetValueFont().SetHeight(-40);
+  EXPECT_GE(Sized().EffectiveRowHeight(), 42);
+}
+
+TEST_F(ItemListEditorColumnsTest, FontsThatItemsHadBeforeThereWasAWindowCountToo) {
+  Fill("a [b]");
+  Item("a.b").GetValueFont().SetHeight(-40);
+  Show();
+  EXPECT_GE(Sized().EffectiveRowHeight(), 42);
+}
+
+TEST_F(ItemListEditorColumnsTest, AnItemBringsItsFontsAlong) {
+  Show();
+  const auto other = Make<TKTItemListEditor>();
+  TKTItemProp* item = other->GetItems().Add("a", {});
+  item->GetItems().Add("b", {})->GetFont().SetHeight(-40);
+  item->SetCollection(&Items());
+  EXPECT_GE(Sized().EffectiveRowHeight(), 42);
+}
+
+TEST_F(ItemListEditorColumnsTest, AnItemThatKeepsALargeFontKeepsItsRow) {
+  Show();
+  Fill("a");
+  FEditor->GetFont().SetHeight(-40);
+  Item("a").SetParentFont(false);
+  FEditor->GetFont().SetHeight(-10);
+  EXPECT_GE(Sized().EffectiveRowHeight(), 42);
+}
+
+TEST_F(ItemListEditorColumnsTest, ItemsThatFollowALargeFontGiveTheirRoomBackWithIt) {
+  Show();
+  Fill("a");
+  Item("a").GetFont();
+  Item("a").GetValueFont();
+  FEditor->GetFont().SetHeight(-40);
+  FEditor->GetFont().SetHeight(-10);
+  EXPECT_EQ(18, Sized().EffectiveRowHeight());
+}
+
+TEST_F(ItemListEditorColumnsTest, AHeightSetByHandStaysWhateverFontsItemsHave) {
+  Show();
+  Fill("a");
+  FEditor->SetDefaultRowHeight(20);
+  Item("a").GetFont().SetHeight(-40);
+  EXPECT_EQ(20, Sized().EffectiveRowHeight());
+}
+
 TEST_F(ItemListEditorColumnsTest, AHeightSetByHandStays) {
   Show();
   FEditor->SetDefaultRowHeight(20);

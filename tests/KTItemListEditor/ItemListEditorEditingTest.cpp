@@ -118,7 +118,9 @@ TEST_F(ItemListEditorEditingTest, TheHandlerHasTheLastWordOnTheText) {
 }
 
 TEST_F(ItemListEditorEditingTest, TheFontOfACellIsThatOfItsItemsValue) {
-  EXPECT_EQ(&B.GetValueFont(), &Editor.GetCellFont(1, 2));
+  EXPECT_EQ(&Editor.GetValueFont(), &Editor.GetCellFont(1, 2));
+  const TFont& own = B.GetValueFont();
+  EXPECT_EQ(&own, &Editor.GetCellFont(1, 2));
   Editor.GetItems().Clear();
   EXPECT_EQ(&Editor.GetValueFont(), &Editor.GetCellFont(1, 1));
 }

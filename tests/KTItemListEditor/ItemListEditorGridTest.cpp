@@ -27,6 +27,26 @@ TEST_F(ItemListEditorGridTest, ANewEditorHasATitleLineABlankLineAndTheCursorInTh
   EXPECT_EQ(0, FEditor->GetFixedCols());
 }
 
+TEST_F(ItemListEditorGridTest, GridInfoHasTheEightNumbersInEitherOrientation) {
+  const auto numbers = [this](int col, int row) {
+    const TGridInfo info = FEditor->GetGridInfo(col, row);
+    return QStringLiteral("field %1 line %2 at %3 %4 fixed %5 %6 of %7 %8")
+        .arg(info.Field)
+        .arg(info.Line)
+        .arg(info.CurField)
+        .arg(info.CurLine)
+        .arg(info.FixedFields)
+        .arg(info.FixedLines)
+        .arg(info.FieldCount)
+        .arg(info.LineCount);
+  };
+  Fill("a b c d");
+  FEditor->SetRow(3);
+  EXPECT_EQ("field 0 line 2 at 1 3 fixed 0 1 of 2 5", numbers(0, 2));
+  FEditor->SetOrientation(goHorizontal);
+  EXPECT_EQ("field 0 line 2 at 1 3 fixed 0 1 of 2 5", numbers(2, 0));
+}
+
 TEST_F(ItemListEditorGridTest, ItemsAreRowsOfNameAndValue) {
   Items().Add("a", "1");
   Items().Add("b", "2");

@@ -123,6 +123,17 @@ TEST_F(ItemListEditorHintsTest, AValueThatJustFitsHasNoHint) {
   EXPECT_EQ("some text", Hint());
 }
 
+TEST_F(ItemListEditorHintsTest, AValueIsMeasuredInTheValueFontOfItsItem) {
+  Show("a b");
+  for (const char* name : {"a", "b"}) Item(QLatin1String(name)).SetValue("some text");
+  Item("a").GetFont().SetHeight(-60);
+  Item("b").GetValueFont().SetHeight(-60);
+  MoveTo(1, 1);
+  EXPECT_EQ("-", Hint());
+  MoveTo(1, 2);
+  EXPECT_EQ("some text", Hint());
+}
+
 TEST_F(ItemListEditorHintsTest, ANameThatJustFitsBehindItsIndentationHasNoHint) {
   Show("a [some_name]");
   KeepWidths();

@@ -185,6 +185,37 @@ TEST_F(ItemListEditorPaintTest, TheGlyphsAreThoseOfThePackage) {
 
 // Fonts and colours.
 
+/// How many fonts share what the editor's font says.
+int FontsLike(const TFont& font) { return font.SharedData()->ref.loadRelaxed(); }
+
+TEST_F(ItemListEditorPaintTest, PaintingAnItemMakesNoFonts) {
+  Items().Add("a", "one");
+  FEditor->GetFont().SetHeight(-12);
+  FEditor->GetValueFont().SetHeight(-13);
+  const auto plain = Make<TFont>();
+  const int names = FontsLike(FEditor->GetFont());
+  const int values = FontsLike(FEditor->GetValueFont());
+  Drawn(0, 1);
+  Drawn(1, 1);
+  FEditor->GetCanvas().SetFont(plain.get());
+  EXPECT_EQ(names, FontsLike(FEditor->GetFont()));
+  EXPECT_EQ(values, FontsLike(FEditor->GetValueFont()));
+  Item("a").GetFont();
+  EXPECT_EQ(names + 1, FontsLike(FEditor->GetFont()));
+}
+
+TEST_F(ItemListEditorPaintTest, ChangingTheFontOfAnItemThatWasPaintedLeavesTheEditorsAlone) {
+  Items().Add("a", "one");
+  Drawn(0, 1);
+  Drawn(1, 1);
+  Item("a").GetFont().SetColor(clRed);
+  Item("a").GetIndividualValueFont(0).SetColor(clBlue);
+  EXPECT_EQ("text 13 'a' #ff0000", Text(0, 1));
+  EXPECT_EQ("text 2 'one' #0000ff", Text(1, 1));
+  EXPECT_EQ(clBlack, FEditor->GetFont().GetColor());
+  EXPECT_EQ(clBlack, FEditor->GetValueFont().GetColor());
+}
+
 TEST_F(ItemListEditorPaintTest, NamesAndValuesHaveTheFontsOfTheItem) {
   Items().Add("a", "one");
   Item("a").GetFont().SetColor(clRed);

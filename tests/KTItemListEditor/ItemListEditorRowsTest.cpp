@@ -1,5 +1,6 @@
 #include "KTItemListEditor/InplaceEditListFixture.h"
 #include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/UnhandledExceptions.h"
 #include "support/ItemLists.h"
 
 #include <functional>
@@ -43,6 +44,17 @@ TEST_F(ItemListEditorRowsTest, AnItemThatChangesWhileTheEditorIsLockedLeavesTheI
   Item(1).SetName("n");
   EXPECT_TRUE(IsOpen());
   Editor.EnableEditUpdate();
+}
+
+TEST_F(ItemListEditorRowsTest, ARenamedItemInABracketLeavesTheReopenedInplaceEditorAlone) {
+  Show();
+  Editor.GetItems().BeginUpdate();
+  EXPECT_FALSE(IsOpen());
+  Editor.SetEditorMode(true);
+  EXPECT_TRUE(IsOpen());
+  Item(1).SetName("n");
+  EXPECT_TRUE(IsOpen());
+  Editor.GetItems().EndUpdate();
 }
 
 TEST_F(ItemListEditorRowsTest, SelectingNothingHidesTheInplaceEditor) {
@@ -108,6 +120,21 @@ TEST_F(ItemListEditorRowsTest, ATextThatIsRefusedWhileReadOnlyItemsGoLeavesTheRo
   const TILEDisplayOptions options = Editor.GetDisplayOptions() - TILEDisplayOptions{doShowReadOnly};
   EXPECT_THROW(Editor.SetDisplayOptions(options), EConvertError);
   EXPECT_EQ(WalkedRows(Editor), Rows(Editor));
+}
+
+TEST_F(ItemListEditorRowsTest, ADefaultCategoryThatDiesWhileItsCellRefusesTheTextIsNoneAnyMore) {
+  Item(0).SetDefaultCategory(true);
+  Show();
+  Type("x");
+  Editor.OnSetEditText = [](TObject*, int, int, const QString&) { throw EConvertError("refused"); };
+  std::exception_ptr refused;
+  const auto previous = SetExceptionHandler([&](std::exception_ptr error) { refused = error; });
+  delete &Item(0);
+  SetExceptionHandler(previous);
+  EXPECT_TRUE(refused);
+  EXPECT_EQ(nullptr, Editor.GetItems().GetDefaultCategory());
+  Editor.GetItems().SetDefaultCategory(&Item(0));
+  EXPECT_EQ(&Item(0), Editor.GetItems().GetDefaultCategory());
 }
 
 }  // namespace

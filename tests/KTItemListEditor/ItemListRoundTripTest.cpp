@@ -241,11 +241,13 @@ QStringList ToList(const char* const* begin, size_t count) {
   return list;
 }
 
-/// The number of rows follows the items, a menu is another component, the tab order needs a parent, the place of a menu
-/// has no handler here, glyphs are pictures, and strings are not streamed.
+/// The number of rows follows the items, action and menu are other components, the tab order needs a parent, the place
+/// of a menu and the wheel have no handlers here, glyphs are pictures, and strings are not streamed.
 TEST(RoundTripTablesTest, EveryPropertyOfTheEditorIsInTheTableButForThose) {
-  EXPECT_EQ("Name RowCount PopupMenu TabOrder OnContextPopup MinusGlyph PlusGlyph Strings",
-            Untested(TKTItemListEditor::Class(), ToList(EditorLines, std::size(EditorLines))).join(u' '));
+  EXPECT_EQ(
+      "Name Action RowCount PopupMenu TabOrder OnContextPopup OnMouseWheel OnMouseWheelDown OnMouseWheelUp "
+      "MinusGlyph PlusGlyph Strings",
+      Untested(TKTItemListEditor::Class(), ToList(EditorLines, std::size(EditorLines))).join(u' '));
 }
 
 TEST(RoundTripTablesTest, EveryPropertyOfAnItemIsInTheTable) {

@@ -227,6 +227,15 @@ TEST_F(ItemListStreamTest, AnEditorWithEditableNamesIsLoadedWithTheCursorInTheNa
   EXPECT_EQ(1, FCopy->GetCol());
 }
 
+TEST_F(ItemListStreamTest, AcrossTheColumnsAnEditorWithEditableNamesIsLoadedWithTheCursorInTheNameRow) {
+  ReadBack(BinaryOf("object E: TStreamedEditor\n  Orientation = goHorizontal\n  PropertyOptions = [propEdit]\nend\n"));
+  EXPECT_EQ(0, FCopy->GetRow());
+  EXPECT_EQ(1, FCopy->GetCol());
+  ReadBack(
+      BinaryOf("object E: TStreamedEditor\n  Orientation = goHorizontal\n  PropertyOptions = [propUnique]\nend\n"));
+  EXPECT_EQ(1, FCopy->GetRow());
+}
+
 TEST_F(ItemListStreamTest, CategorizingNeverMovesAnythingWhileLoading) {
   const auto map = Make<TStringList>();
   map->SetCommaText("x=X,x=Y,a=Z");
@@ -246,6 +255,16 @@ TEST_F(ItemListStreamTest, CategorizingNeverMovesAnythingWhileLoading) {
                "  ArrangeByCategory = True\nend\n"));
   EXPECT_NE(nullptr, answer);
   EXPECT_EQ("a [x]", Tree(FCopy->GetItems()));
+}
+
+TEST_F(ItemListStreamTest, AFormArrangedByCategoryIsLoadedWithItsItemsWhereTheyStood) {
+  ReadBack(
+      BinaryOf("object E: TStreamedEditor\n"
+               "  ArrangeByCategory = True\n"
+               "  Items = <\n    item\n      Name = 'a'\n      Items = <\n        item\n          Name = 'x'\n"
+               "        end>\n    end\n    item\n      Name = 'b'\n    end>\nend\n"));
+  EXPECT_TRUE(FCopy->GetArrangeByCategory());
+  EXPECT_EQ("a [x] b", Tree(FCopy->GetItems()));
 }
 
 /// The properties whose value in a fresh object is not the declared default.

@@ -1,6 +1,7 @@
 #include "kt/KTItemListEditor/ItemPropValueStrings.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/strings/StringList.h"
+#include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/graphics/Font.h"
 #include "support/Expect.h"
 #include "support/ItemLists.h"
@@ -8,6 +9,33 @@
 
 namespace kt::tests {
 namespace {
+
+/// Refuses to become a copy of an item that is called bad.
+class TPickyItem : public TKTItemProp {
+ public:
+  using Inherited = TKTItemProp;
+  static const TClassInfo* Class() {
+    static const TClassInfo info = TClassBuilder<TPickyItem>("TPickyItem").Creatable().Done();
+    return &info;
+  }
+  const TClassInfo* ClassType() const override { return Class(); }
+
+  void Assign(TPersistent* source) override {
+    TKTItemProp::Assign(source);
+    if (GetName() == QLatin1StringView("bad")) throw EConvertError(QStringLiteral("refused"));
+  }
+
+ protected:
+  explicit TPickyItem(TCollection* collection) : TKTItemProp(collection) {}
+};
+
+class TPickyEditor : public TKTItemListEditor {
+ protected:
+  explicit TPickyEditor(TComponent* owner = nullptr) : TKTItemListEditor(owner) {}
+  std::unique_ptr<TKTItemProps> CreateItems(TPersistent* owner) override {
+    return Make<TKTItemProps>(owner, TPickyItem::Class());
+  }
+};
 
 class ItemPropAssignTest : public TItemListTest {
  protected:
@@ -258,6 +286,45 @@ TEST_F(ItemPropAssignTest, AssigningASortedCollectionSortsNothing) {
   EXPECT_EQ(order, Tree(other->GetItems()));
   EXPECT_TRUE(other->GetItems().GetItem(0)->GetItems().GetSorted());
   EXPECT_TRUE(other->GetItems().GetCategories().GetSorted());
+}
+
+TEST_F(ItemPropAssignTest, AFailedAssignKeepsSortedMapAndDefaultCategory) {
+  Items().Add("bad", {})->SetDefaultCategory(true);
+  Items().GetCategories().Add("x=A");
+  FEditor->SetSorted(true);
+  const auto picky = Make<TPickyEditor>();
+  TKTItemProps& items = picky->GetItems();
+  items.Add("z", {});
+  items.Add("a", {})->SetDefaultCategory(true);
+  items.GetCategories().SetCommaText("z=1,a=2");
+  EXPECT_EQ("refused", MessageOf<EConvertError>([&] { items.Assign(&Items()); }));
+  EXPECT_EQ("z a", Tree(items));
+  EXPECT_FALSE(items.GetSorted());
+  EXPECT_EQ("z=1,a=2", items.GetCategories().GetCommaText());
+  EXPECT_FALSE(items.GetCategories().GetSorted());
+  EXPECT_EQ(items.GetItem(1), items.GetDefaultCategory());
+  EXPECT_TRUE(items.GetItem(1)->GetDefaultCategory());
+}
+
+TEST_F(ItemPropAssignTest, AFailedAssignToASortedLevelLeavesItSorted) {
+  Items().Add("bad", {});
+  const auto picky = Make<TPickyEditor>();
+  TKTItemProps& items = picky->GetItems();
+  picky->SetSorted(true);
+  items.Add("b", {});
+  EXPECT_THROW(items.Assign(&Items()), EConvertError);
+  EXPECT_TRUE(items.GetSorted());
+  items.Add("a", {});
+  EXPECT_EQ("a b", Tree(items));
+}
+
+TEST_F(ItemPropAssignTest, WhoeverHearsOfTheMapMayFreeTheSource) {
+  auto source = Make<TKTItemListEditor>();
+  source->GetItems().GetCategories().Add("x=A");
+  Items().GetCategories().OnChange = [&](TObject*) { source.reset(); };
+  EXPECT_THROW(Items().Assign(&source->GetItems()), EInvalidOperation);
+  EXPECT_EQ("s [x [y] z] t", TreeText());
+  EXPECT_EQ(0, Items().GetCategories().GetCount());
 }
 
 }  // namespace

@@ -4,12 +4,25 @@
 #include "support/ItemLists.h"
 #include "support/ItemProbe.h"
 
+#include <QRegularExpression>
+
+#include <functional>
+
 namespace kt::tests {
 namespace {
 
 class ItemPropRowsTest : public TItemListTest {
  protected:
   ItemPropRowsTest() { FEditor = Make<TProbeEditor>(); }
+
+  /// The names of the items whose VisibleChanged() has run, in the order of its ends.
+  static std::string RowsTold(const std::function<void()>& action) {
+    const QStringList heard = QString::fromStdString(Heard(action)).split(u' ');
+    return heard.filter(QRegularExpression(QStringLiteral("^[a-z]\\.VisibleChanged$")))
+        .join(u' ')
+        .remove(QLatin1StringView(".VisibleChanged"))
+        .toStdString();
+  }
 };
 
 // Expansion.
@@ -46,6 +59,16 @@ TEST_F(ItemPropRowsTest, FullExpandAndFullCollapseGoThroughTheSubtree) {
   Item("a").FullCollapse();
   EXPECT_EQ(">a | e", RowsText());
   EXPECT_FALSE(Item("a.b.c").IsExpanded());
+}
+
+TEST_F(ItemPropRowsTest, FullExpandTellsRowsOnceForEachItem) {
+  Fill("a [b [c] d]");
+  // The children first; what tells its parents, too, is heard after them.
+  const char* told = "a b c a b a d a";
+  EXPECT_EQ(told, RowsTold([&] { Item("a").FullExpand(); }));
+  EXPECT_EQ(told, RowsTold([&] { Item("a").FullExpand(); }));
+  EXPECT_EQ(told, RowsTold([&] { FEditor->FullExpand(); }));
+  EXPECT_EQ(told, RowsTold([&] { FEditor->FullCollapse(); }));
 }
 
 TEST_F(ItemPropRowsTest, AHandlerMayFreeTheItemThatIsBeingCollapsedFully) {

@@ -118,6 +118,26 @@ TEST_F(ItemPropTest, ChildCollectionsAreOfTheKindThatTheEditorMakes) {
   EXPECT_EQ(TKTItemProp::Class(), FAlone->GetItems().GetItemClass());
 }
 
+TEST_F(ItemPropTest, AnItemMadeAloneKeepsItsOwnKindOfChildrenInAnEditor) {
+  Fill("a");
+  TKTItemProp* item = Make<TProbeItem>(nullptr).release();
+  item->SetCollection(&Item("a").GetItems());
+  EXPECT_EQ(TKTItemProps::Class(), item->GetItems().ClassType());
+  EXPECT_EQ(TKTItemProp::Class(), item->GetItems().Add("x", {})->ClassType());
+}
+
+TEST_F(ItemPropTest, AnItemOfAnEditorHasItsChildrenMadeByTheEditorThatItIsInAtTheirFirstUse) {
+  const auto plain = Make<TKTItemListEditor>();
+  Fill("a b");
+  TKTItemProp& a = Item("a");
+  TKTItemProp& b = Item("b");
+  a.GetItems();
+  a.SetCollection(&plain->GetItems());
+  b.SetCollection(&plain->GetItems());
+  EXPECT_TRUE(a.GetItems().InheritsFrom(TProbeItems::Class()));
+  EXPECT_EQ(TKTItemProps::Class(), b.GetItems().ClassType());
+}
+
 TEST_F(ItemPropTest, ANewItemsChildrenAreSortedAsItsCollectionIs) {
   FEditor->SetSorted(true);
   EXPECT_TRUE(Items().Add("a", {})->GetItems().GetSorted());
@@ -158,7 +178,7 @@ TEST_F(ItemPropTest, VisibleChangedClimbsFromParentToParent) {
       Heard([&] { Item("a.b.c").SetVisible(false); }));
 }
 
-TEST_F(ItemPropTest, NothingIsAboutToChangeForTheEditorWhileTheLevelIsInABracket) {
+TEST_F(ItemPropTest, ARenameInABracketTellsOfNoUpdateBeforeItsEnd) {
   Fill("a");
   Items().BeginUpdate();
   EXPECT_EQ("a.SetName(b) a.Changing a.MoveProp(b) editor.Invalidate", Heard([&] { Item("a").SetName("b"); }));

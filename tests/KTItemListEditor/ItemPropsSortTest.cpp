@@ -5,6 +5,11 @@
 #include "support/ItemLists.h"
 #include "support/ItemProbe.h"
 
+#include <random>
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace kt::tests {
 namespace {
 
@@ -22,6 +27,82 @@ class ItemPropsSortTest : public TItemListTest {
 int Backwards(TKTItemProps& items, int first, int second) {
   return items.CompareStrings(items.GetItem(second)->GetName(), items.GetItem(first)->GetName());
 }
+
+/// The framework's quicksort as it works on items that change places, two at a time: what any other way has to yield.
+struct TPlainQuicksort {
+  /// Keys with the numbers of their items.
+  std::vector<std::pair<int, int>> Items;
+
+  void Run(int left, int right) {
+    do {
+      const auto [end, next] = Part(left, right);
+      if (left < end) Run(left, end);
+      left = next;
+    } while (left < right);
+  }
+
+ private:
+  std::pair<int, int> Part(int left, int right) {
+    int i = left;
+    int j = right;
+    int pivot = (left + right) / 2;
+    do {
+      while (Items[i].first < Items[pivot].first) ++i;
+      while (Items[j].first > Items[pivot].first) --j;
+      if (i <= j) {
+        std::swap(Items[i], Items[j]);
+        // It moves with its item.
+        pivot = pivot == i ? j : pivot == j ? i : pivot;
+        ++i;
+        --j;
+      }
+    } while (i <= j);
+    return {j, i};
+  }
+};
+
+/// The numbers of `keys` after the plain quicksort.
+std::string PlainlySorted(const std::vector<int>& keys) {
+  TPlainQuicksort sort;
+  for (int key : keys) sort.Items.emplace_back(key, static_cast<int>(sort.Items.size()));
+  sort.Run(0, static_cast<int>(keys.size()) - 1);
+  QStringList numbers;
+  for (const auto& item : sort.Items) numbers += QString::number(item.second);
+  return numbers.join(u' ').toStdString();
+}
+
+/// The same by CustomSort(), of items that carry their keys as tags.
+std::string SortedAsItems(const std::vector<int>& keys) {
+  const auto editor = Make<TKTItemListEditor>();
+  TKTItemProps& items = editor->GetItems();
+  for (int key : keys) {
+    TKTItemProp* item = items.Add();
+    item->SetName(QString::number(items.GetCount() - 1));
+    item->SetTag(key);
+  }
+  items.CustomSort([](TKTItemProps& all, int a, int b) { return all.GetItem(a)->GetTag() - all.GetItem(b)->GetTag(); },
+                   true);
+  return Tree(items);
+}
+
+class ItemPropsSortOrderTest : public testing::TestWithParam<unsigned> {
+ protected:
+  /// As many equal keys as the seed says.
+  static std::vector<int> AnyKeys() {
+    std::mt19937 random(GetParam());
+    std::vector<int> keys(2 + random() % 300);
+    const unsigned distinct = 1 + random() % 40;
+    for (int& key : keys) key = static_cast<int>(random() % distinct);
+    return keys;
+  }
+};
+
+TEST_P(ItemPropsSortOrderTest, AnyInputComesInTheOrderOfThePlainQuicksort) {
+  const std::vector<int> keys = AnyKeys();
+  EXPECT_EQ(PlainlySorted(keys), SortedAsItems(keys));
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, ItemPropsSortOrderTest, testing::Range(1u, 101u));
 
 TEST_F(ItemPropsSortTest, SortOrdersByNameOnAllLevels) {
   Fill("c b [z x] a");

@@ -83,6 +83,16 @@ inline const TItemScenario ItemScenarios[] = {
        At(editor, "a").SetDefaultCategory(true);
        At(editor, "a").SetCategory(false);
      }},
+    {"FreeDefaultCategory",
+     [](TKTItemListEditor& editor) {
+       editor.GetItems().SetDefaultCategory(&At(editor, "e"));
+       delete &At(editor, "e");
+     }},
+    {"MoveDefaultCategory",
+     [](TKTItemListEditor& editor) {
+       At(editor, "e").SetDefaultCategory(true);
+       At(editor, "e").SetCollection(&At(editor, "C").GetItems());
+     }},
     {"Expand", [](TKTItemListEditor& editor) { At(editor, "a.b").Expand(); }},
     {"Collapse", [](TKTItemListEditor& editor) { At(editor, "a").Collapse(); }},
     {"FullExpand", [](TKTItemListEditor& editor) { editor.FullExpand(); }},
@@ -209,9 +219,13 @@ class TItemScenarioTest : public TItemListTest {
     TProbe::Log.clear();
   }
 
+  /// An item that may be a default category has been copied.
+  bool FHasCopies = false;
+
   /// "a [b [c] d] C [x y] e", with a and C expanded, the cursor on e and handlers at all events.
   void Renew() {
     FWindow.reset();
+    FHasCopies = false;
     FEditor = FHearsHooks ? std::unique_ptr<TKTItemListEditor>(Make<TProbeEditor>()) : Make<TKTItemListEditor>();
     Fill("a [b [c] d] C [x y] e");
     Item("C").SetCategory(true);
@@ -267,6 +281,7 @@ class TItemScenarioTest : public TItemListTest {
     CheckLineCount();
   }
   void CheckLists() {
+    CheckDefaultCategories(Items());
     EXPECT_EQ(WalkedEntries(*FEditor), EntriesText());
     EXPECT_EQ(WalkedRows(*FEditor), RowsText());
   }
@@ -276,6 +291,19 @@ class TItemScenarioTest : public TItemListTest {
   }
 
  private:
+  /// Each level has none, or one of its own items that knows of it. No other item takes itself for one, unless it is a
+  /// copy of one: that leaves the first one's flag.
+  void CheckDefaultCategories(TKTItemProps& items) {
+    const TKTItemProp* category = items.GetDefaultCategory();
+    bool isFound = !category;
+    for (int i = 0; i < items.GetCount(); ++i) {
+      TKTItemProp& item = *items.GetItem(i);
+      isFound |= &item == category && item.GetDefaultCategory();
+      EXPECT_TRUE(FHasCopies || &item == category || !item.GetDefaultCategory());
+      if (item.HasItems()) CheckDefaultCategories(item.GetItems());
+    }
+    EXPECT_TRUE(isFound);
+  }
   void Handle(const char* name) {
     // A copy: what it does may end the editor that holds the caller.
     if (const THandler handler = FHandler) handler(name);
