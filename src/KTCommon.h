@@ -6,3 +6,4 @@
 #include "kt/ktcommon/KTException.h"
 #include "kt/ktcommon/NewLine.h"
 #include "kt/ktcommon/RegularExpression.h"
+#include "kt/ktcommon/SpecialFiler.h"

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QLatin1StringView>
+
+/// The texts of the object inspector. Placeholders are those of Format().
+namespace kt {
+
+inline constexpr QLatin1StringView SNotRealProperty{"Item \"%s\" is not a real property"};
+inline constexpr QLatin1StringView SInvalidRealPropValue{"\"%s\" is not a valid %s value: %s"};
+
+}  // namespace kt

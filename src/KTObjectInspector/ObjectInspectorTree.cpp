@@ -1,0 +1,328 @@
+// How an inspector turns its objects into items.
+#include "kt/KTItemListEditor/ItemWatch.h"
+#include "kt/KTObjectInspector/ObjectInspector.h"
+#include "kt/KTObjectInspector/Scan.h"
+#include "kt/KTObjectInspector/StringItems.h"
+#include "kt/KTObjectInspector/UpdateLock.h"
+#include "kt/rtl/collections/UpdateBracket.h"
+#include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/conversions/TextCompare.h"
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/Make.h"
+#include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/strings/StringList.h"
+#include "kt/rtl/typeinfo/ClassInfo.h"
+#include "kt/rtl/typeinfo/EnumNames.h"
+#include "kt/rtl/typeinfo/PropLists.h"
+#include "kt/rtl/typeinfo/PropValues.h"
+
+namespace kt {
+
+namespace {
+
+/// As many members of a set as have a bit in what an inspector keeps of it.
+constexpr int kListedMembers = 32;
+
+/// Only what all objects publish under the same name with the same type is listed.
+bool IsSharedProperty(TKTInspectorObjects& objects, const TPropInfo& property) {
+  for (int i = 1; i < objects.GetCount(); ++i) {
+    TObject* object = objects.GetItem(i)->GetObjects();
+    const TPropInfo* other = object ? GetPropInfo(object, property.Name()) : nullptr;
+    if (!other) return false;
+    if (other == &property) continue;
+    if (other->Kind() != property.Kind() || other->PropType()->Name() != property.PropType()->Name()) return false;
+  }
+  return true;
+}
+
+/// "False" and "True".
+QStringList TruthNames() { return {QStringLiteral("False"), QStringLiteral("True")}; }
+
+QStringList EnumNamesOf(const TTypeInfo* type) {
+  if (IsBoolType(type)) return TruthNames();
+  const TEnumTypeInfo* enumeration = EnumTypeOf(type);
+  return enumeration ? enumeration->Names() : QStringList();
+}
+
+void FillPickList(TKTItemProperty& item, const QStringList& names) {
+  TStringList& list = item.GetPickList();
+  const TUpdateBracket bracket(list);
+  for (const QString& name : names) list.Add(name);
+  list.Sort();
+}
+
+/// The names of the members that are listed; empty where the members have none.
+QStringList MemberNames(const TTypeInfo* type) {
+  const TSetTypeInfo* set = SetTypeOf(type);
+  const TOrdTypeInfo* member = set ? OrdTypeOf(set->CompType()) : nullptr;
+  if (!member || (member->Kind() != tkEnumeration && member->Kind() != tkInteger)) return {};
+  QStringList names;
+  const auto last = std::min<qint64>(member->MaxValue(), kListedMembers - 1);
+  for (qint64 ordinal = 0; ordinal <= last; ++ordinal) {
+    names.append(ordinal < member->MinValue() ? QString() : GetEnumName(member, ordinal));
+  }
+  return names;
+}
+
+bool HasBit(const Variant& set, int bit) { return !set.IsEmpty() && (set.ToInt64() >> bit & 1) != 0; }
+
+QString TruthName(bool value) { return value ? QStringLiteral("True") : QStringLiteral("False"); }
+
+/// Whether a value of a class-typed property shows but cannot be replaced by typing.
+bool IsOwnedObject(TObject* object, const TPropInfo& property) {
+  if (property.Kind() != tkClass) return false;
+  const TObject* value = GetObjectProp(object, &property);
+  return value && !dynamic_cast<const TComponent*>(value);
+}
+
+}  // namespace
+
+// What a scan does with one level.
+
+void TKTCustomObjectInspector::BuildCommonProperties(TScan& scan, TKTInspectorObjects& objects,
+                                                     TKTItemProperties& props) {
+  TObject* first = objects.GetCount() > 0 ? objects.GetItem(0)->GetObjects() : nullptr;
+  if (!first) return;
+  for (int i = 0; i < objects.GetCount(); ++i) scan.Enter(objects.GetItem(i)->GetObjects());
+  const auto properties = GetPropList(first->ClassType(), FDisplayKinds, IsSorted() ? poSorted : poDeclared);
+  TLevelUpdate level(props);
+  const TUpdateBracket bracket(level);
+  for (const TPropInfo* property : properties) {
+    // What can only be written has nothing to show.
+    if (!property->IsReadable() || !IsSharedProperty(objects, *property)) continue;
+    const TItemWatch item(props.Add());
+    if (item) BuildProperty(scan, static_cast<TKTItemProperty*>(item.Get()), objects, property->Name());
+    if (!scan.IsGoing() || !level.IsAlive()) return;
+    const TKTItemProp* parent = item ? item->GetParent() : nullptr;
+    if (!GetArrangeByCategory() || !parent || !parent->GetCategory()) continue;
+    Categorize(item.Get(), props.GetCategories(), true);
+    if (!scan.IsGoing() || !level.IsAlive()) return;
+  }
+  BuildElements(scan, objects, props);
+}
+
+/// What a property has below it besides the properties of its object.
+void TKTCustomObjectInspector::BuildElements(TScan& scan, TKTInspectorObjects& objects, TKTItemProperties& props) {
+  TKTItemProperty* owner = props.GetParent();
+  if (!owner || !owner->IsAllEqual()) return;
+  if (FInplaceCollections && owner->GetPropertyKind() == pkCollection) {
+    BuildCollectionItems(scan, objects, *owner);
+  } else if (FInplaceTStrings && owner->GetTypeKind() == tkClass) {
+    if (auto* lines = dynamic_cast<TStrings*>(objects.GetItem(0)->GetObjects())) {
+      const TLiveFlag parts(this, FIsListingParts);
+      BuildTStringsItemProperties(*owner, *lines, FInplaceTStringsOptions, FStringsItemFormat);
+    }
+  }
+}
+
+// One property.
+
+void TKTCustomObjectInspector::BuildProperty(TScan& scan, TKTItemProperty* item, TKTInspectorObjects& objects,
+                                             const QString& name) {
+  const TItemWatch watched(item);
+  item->SetName(name);
+  if (!watched || !scan.IsGoing()) return;
+  item->SetRealPropName(name);
+  TObject* first = objects.GetItem(0)->GetObjects();
+  if (!first) return;
+  const TPropInfo* property = GetPropInfo(first, name);
+  if (!property) throw EPropertyError(Format(SUnknownProperty, {name}));
+  item->SetTypeKind(property->Kind());
+  item->SetTypeName(property->PropType()->Name());
+  FillValues(*item, objects, *property);
+  first = objects.GetItem(0)->GetObjects();
+  if (!watched || !scan.IsGoing() || !first) return;
+  const bool isOwned = IsOwnedObject(first, *property);
+  if (!watched || !scan.IsGoing()) return;
+  const bool isFixed = !property->IsWritable() || property->Kind() == tkMethod || property->Kind() == tkInterface;
+  if (isFixed || isOwned) item->SetReadOnly(true);
+  switch (property->Kind()) {
+    case tkEnumeration:
+      return FillPickList(*item, EnumNamesOf(property->PropType()));
+    case tkSet:
+      return BuildMembers(*item, *property);
+    case tkClass:
+    case tkInterface:
+      return BuildObjects(scan, *item, objects, name);
+    default:
+      return;
+  }
+}
+
+void TKTCustomObjectInspector::FillValues(TKTItemProperty& item, TKTInspectorObjects& objects,
+                                          const TPropInfo& property) {
+  const TItemWatch watched(&item);
+  const TTypeKind kind = property.Kind();
+  TObject* first = objects.GetItem(0)->GetObjects();
+  const bool isCollection = kind == tkClass && dynamic_cast<TCollection*>(GetObjectProp(first, &property));
+  // Getters may do anything.
+  if (!watched) return;
+  item.SetPropertyKind(isCollection ? pkCollection : kind == tkSet ? pkSet : pkNormal);
+  item.SetIsRealProperty(kind != tkInterface);
+  const int count = IsMultiColumn() ? objects.GetCount() : 1;
+  for (int i = 0; i < count; ++i) {
+    const TObjectRef object(objects.GetItem(i)->GetObjects());
+    Variant value = object && kind != tkInterface ? GetPropValue(object.Get(), property.Name(), false) : Variant();
+    if (!object || !watched) return;
+    std::vector<Variant>& values = item.GetRealValues();
+    if (static_cast<size_t>(i) < values.size()) values[static_cast<size_t>(i)] = std::move(value);
+    const QString text = GetPropertyValue(object.Get(), &item);
+    if (!watched) return;
+    item.SetValueLine(i, text);
+  }
+  const bool isSame = IsSameInAll(item, objects);
+  if (watched) item.SetAllEqual(isSame);
+}
+
+bool TKTCustomObjectInspector::IsSameInAll(TKTItemProperty& item, TKTInspectorObjects& objects) {
+  if (objects.GetCount() == 1) return true;
+  if (IsMultiColumn()) return false;
+  const TItemWatch watched(&item);
+  const QString text = item.GetValueLine(0);
+  for (int i = 1; i < objects.GetCount(); ++i) {
+    TObject* object = objects.GetItem(i)->GetObjects();
+    const QString other = object ? GetPropertyValue(object, &item) : QString();
+    if (!watched) return false;
+    if (other != text && AnsiCompareText(other, text) != 0) return false;
+  }
+  return true;
+}
+
+// Sets.
+
+void TKTCustomObjectInspector::BuildMembers(TKTItemProperty& set, const TPropInfo& property) {
+  const QStringList names = MemberNames(property.PropType());
+  if (names.isEmpty()) return;
+  const TItemWatch watched(&set);
+  TKTItemProperties& members = set.GetItems();
+  members.SetSorted(false);
+  TLevelUpdate level(members);
+  const TUpdateBracket bracket(level);
+  const TLiveFlag parts(this, FIsListingParts);
+  for (int ordinal = 0; ordinal < names.size(); ++ordinal) {
+    if (names[ordinal].isEmpty()) continue;
+    TKTItemProperty* member = members.Add();
+    member->SetName(names[ordinal]);
+    member->SetRealPropName(names[ordinal]);
+    member->SetPropertyKind(pkSetMember);
+    member->SetTypeKind(tkEnumeration);
+    member->SetTypeName(QStringLiteral("Boolean"));
+    member->SetAllEqual(true);
+    const std::vector<Variant>& bits = set.GetRealValues();
+    std::vector<Variant>& ordinals = member->GetRealValues();
+    for (size_t i = 0; i < ordinals.size(); ++i) {
+      ordinals[i] = ordinal;
+      member->SetValueLine(static_cast<int>(i), TruthName(HasBit(bits[i], ordinal)));
+    }
+    FillPickList(*member, TruthNames());
+    if (!property.IsWritable()) member->SetReadOnly(true);
+    if (!watched || !level.IsAlive()) return;
+  }
+}
+
+// Objects.
+
+/// The object that takes its place below a property of `object`, or null.
+TObject* TKTCustomObjectInspector::ObjectToEnter(const TScan& scan, TObject* object, const QString& name) const {
+  const TPropInfo* property = object ? GetPropInfo(object, name) : nullptr;
+  if (!property || !property->IsReadable()) return nullptr;
+  TObject* value = nullptr;
+  if (property->Kind() == tkInterface) {
+    value = FInplaceComponents ? ComponentBehind(GetInterfaceProp(object, property)) : nullptr;
+  } else {
+    value = GetObjectProp(object, property);
+    if (dynamic_cast<TStrings*>(value) && !FInplaceTStrings) return nullptr;
+    if (dynamic_cast<TComponent*>(value) && !FInplaceComponents) return nullptr;
+  }
+  return value && !scan.HasEntered(value) ? value : nullptr;
+}
+
+void TKTCustomObjectInspector::BuildObjects(TScan& scan, TKTItemProperty& item, TKTInspectorObjects& objects,
+                                            const QString& name) {
+  const auto below = Make<TKTInspectorObjects>(nullptr);
+  for (int i = 0; i < objects.GetCount(); ++i) {
+    TObject* object = ObjectToEnter(scan, objects.GetItem(i)->GetObjects(), name);
+    // Only what every object has is listed below it.
+    if (!object) return;
+    below->Add()->SetObjects(object);
+  }
+  BuildBelow(scan, item, *below);
+}
+
+void TKTCustomObjectInspector::BuildBelow(TScan& scan, TKTItemProperty& item, TKTInspectorObjects& objects) {
+  const TItemWatch watched(&item);
+  const bool isWanted = BeforeScan(&item);
+  // Null would stand for the whole scan.
+  if (isWanted && watched && scan.IsGoing()) BuildCommonProperties(scan, objects, item.GetItems());
+  if (watched && scan.IsGoing()) AfterScan(&item);
+}
+
+// Collections.
+
+namespace {
+
+TCollection* CollectionAt(TKTInspectorObjects& objects, int index) {
+  return dynamic_cast<TCollection*>(objects.GetItem(index)->GetObjects());
+}
+
+bool HaveSameCount(TKTInspectorObjects& collections) {
+  const TCollection* first = CollectionAt(collections, 0);
+  for (int i = 0; i < collections.GetCount(); ++i) {
+    const TCollection* collection = CollectionAt(collections, i);
+    if (!first || !collection || collection->GetCount() != first->GetCount()) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+void TKTCustomObjectInspector::BuildCollectionItems(TScan& scan, TKTInspectorObjects& collections,
+                                                    TKTItemProperty& owner) {
+  if (!HaveSameCount(collections)) return;
+  // The items of this very tree grow while they are listed: those that are there at the top now, and none below.
+  const auto* own = dynamic_cast<TKTItemProps*>(CollectionAt(collections, 0));
+  if (own && own != &GetItems() && own->GetEditor() == this) return;
+  const TItemWatch watched(&owner);
+  TKTItemProperties& items = owner.GetItems();
+  const int count = CollectionAt(collections, 0)->GetCount();
+  // In the order of their indexes, whatever they are called.
+  if (count > 0) items.SetSorted(false);
+  for (int i = 0; i < count && HaveSameCount(collections) && i < CollectionAt(collections, 0)->GetCount(); ++i) {
+    const TItemWatch item(items.Add());
+    if (item) BuildCollectionItemProperty(scan, collections, i, static_cast<TKTItemProperty&>(*item));
+    if (!watched || !scan.IsGoing()) return;
+  }
+}
+
+void TKTCustomObjectInspector::BuildCollectionItemProperty(TScan& scan, TKTInspectorObjects& collections, int index,
+                                                           TKTItemProperty& item) {
+  const TItemWatch watched(&item);
+  const QString name = Format(FCollectionItemFormat, {index});
+  {
+    const TLiveFlag parts(this, FIsListingParts);
+    item.SetName(name);
+  }
+  if (!watched || !scan.IsGoing()) return;
+  item.SetRealPropName(name);
+  item.SetTypeKind(tkClass);
+  item.SetTypeName(CollectionAt(collections, 0)->GetItemClass()->ClassName());
+  item.SetPropertyKind(pkCollectionItem);
+  item.SetAllEqual(true);
+  item.SetReadOnly(true);
+  const auto elements = Make<TKTInspectorObjects>(nullptr);
+  std::vector<Variant>& indexes = item.GetRealValues();
+  for (int i = 0; i < collections.GetCount(); ++i) {
+    TCollectionItem* element = CollectionAt(collections, i)->GetItem(index);
+    const QString text = element->GetDisplayName();
+    if (!watched) return;
+    if (static_cast<size_t>(i) < indexes.size()) {
+      indexes[static_cast<size_t>(i)] = index;
+      item.SetValueLine(i, text);
+    }
+    if (!scan.HasEntered(element)) elements->Add()->SetObjects(element);
+  }
+  item.GetItems().SetSorted(IsSorted());
+  if (elements->GetCount() > 0) BuildBelow(scan, item, *elements);
+}
+
+}  // namespace kt

@@ -1,0 +1,235 @@
+// How an inspector reads the properties of its objects, and writes what was edited.
+#include "kt/KTItemListEditor/ItemPropValueStrings.h"
+#include "kt/KTItemListEditor/ItemWatch.h"
+#include "kt/KTObjectInspector/ObjectInspector.h"
+#include "kt/KTObjectInspector/UpdateLock.h"
+#include "kt/rtl/collections/UpdateBracket.h"
+#include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/typeinfo/PropLists.h"
+#include "kt/rtl/typeinfo/PropValues.h"
+#include "kt/vcl/grids/InplaceEdit.h"
+
+#include <QVarLengthArray>
+
+namespace kt {
+
+namespace {
+
+QString ObjectText(TObject* object, const QString& typeName) {
+  if (!object) return {};
+  if (const auto* component = dynamic_cast<TComponent*>(object)) return component->GetName();
+  return u'(' + typeName + u')';
+}
+
+QString TextOf(TObject* instance, const TPropInfo* property) {
+  switch (property->Kind()) {
+    case tkInteger:
+    case tkChar:
+    case tkWChar:
+      return QString::number(GetOrdProp(instance, property));
+    case tkEnumeration:
+      return GetEnumProp(instance, property);
+    case tkFloat:
+      return Variant(GetFloatProp(instance, property)).ToString();
+    case tkString:
+    case tkLString:
+      return GetStrProp(instance, property);
+    case tkWString:
+      return GetWideStrProp(instance, property);
+    case tkSet:
+      return GetSetProp(instance, property, true);
+    case tkClass:
+      return ObjectText(GetObjectProp(instance, property), property->PropType()->Name());
+    case tkMethod:
+    case tkInterface:
+      return property->PropType()->Name();
+    case tkVariant:
+      return VarToStr(GetVariantProp(instance, property));
+    case tkInt64:
+      return VarToStr(GetPropValue(instance, property, false));
+    default:
+      throw EPropertyConvertError(Format(SInvalidPropertyType, {property->PropType()->Name()}));
+  }
+}
+
+/// The next object on a path: what `object` holds under that name.
+TObject* ObjectBehind(TObject* object, const QString& name) {
+  const TPropInfo* property = GetPropInfo(object, name);
+  if (!property) return nullptr;
+  if (property->Kind() == tkInterface) return ComponentBehind(GetInterfaceProp(object, property));
+  return property->Kind() == tkClass ? GetObjectProp(object, property) : nullptr;
+}
+
+}  // namespace
+
+// Reading.
+
+TObject* TKTCustomObjectInspector::GetInstance(TObject* object, QString& path, const TKTItemProperty* item) const {
+  QVarLengthArray<const TKTItemProperty*, 8> way;
+  for (const TKTItemProperty* at = item->GetParent(); at; at = at->GetParent()) way.append(at);
+  const qsizetype delimiter = GetPathDelimiter().size();
+  for (qsizetype i = way.size() - 1; object && i >= 0; --i) {
+    const TKTItemProperty& at = *way[i];
+    // By the length of the name, which may hold a delimiter.
+    path.remove(0, at.GetRealPropName().size() + delimiter);
+    if (at.GetCategory()) continue;
+    object = FInplaceCollections && at.GetPropertyKind() == pkCollectionItem
+                 ? const_cast<TKTItemProperty&>(at).ElementIn(object, 0)
+                 : ObjectBehind(object, at.GetRealPropName());
+  }
+  return object;
+}
+
+QString TKTCustomObjectInspector::GetPropertyValue(TObject* instance, TKTItemProperty* item) {
+  if (const TKTItemGetPropertyEvent handler = item->GetOnGetProperty()) {
+    QString value;
+    handler(item, instance, item->GetRealPropName(), value);
+    return value;
+  }
+  return TextOf(instance, FindPropInfo(instance, item->GetRealPropName()));
+}
+
+// Writing.
+
+bool TKTCustomObjectInspector::SetPropertyValue(TObject* instance, TKTItemProperty* item, const QString& value) {
+  const TItemWatch watched(item);
+  QString name = item->GetFullPathPropName();
+  const TObjectRef holder(GetInstance(instance, name, item));
+  const TKTItemSetPropertyEvent handler = item->GetOnSetProperty();
+  if (!holder && !handler) return false;
+  const bool isOther = !holder || GetPropertyValue(holder.Get(), item) != value;
+  if (!watched || (!holder && !handler)) return isOther;
+  if (handler) {
+    handler(item, holder.Get(), name, value);
+    return isOther;
+  }
+  const TPropInfo* property = FindPropInfo(holder.Get(), name);
+  // The wide Boolean types take their names only as truth values.
+  const TOrdTypeInfo* type = OrdTypeOf(property->PropType());
+  const bool isWide = IsBoolType(type) && type->MinValue() < 0;
+  SetPropValue(holder.Get(), property, isWide ? Variant(Variant(value).ToBool()) : Variant(value));
+  return isOther;
+}
+
+void TKTCustomObjectInspector::PropertyChanging(TKTItemProperty* item) {
+  const TItemWatch watched(item);
+  const TLifeWatch self(this);
+  item->SetAllEqual(!IsMultiColumn());
+  if (watched && self.IsAlive()) OnPropertyChanging(this, item);
+}
+
+void TKTCustomObjectInspector::PropertyChanged(int index) { InvalidateProperty(index); }
+
+void TKTCustomObjectInspector::InvalidateProperty(int index) { PostMessage(KT_INVALIDATEPROPERTY, index, 0); }
+
+void TKTCustomObjectInspector::SetProperty(TKTItemProperty* item) {
+  const TItemWatch watched(item);
+  const TLifeWatch self(this);
+  PropertyChanging(item);
+  if (!self.IsAlive()) return;
+  // Setters may change the item's texts, and the objects.
+  QStringList texts;
+  const int count = IsMultiColumn() ? FObjects->GetCount() : 1;
+  for (int i = 0; watched && i < count; ++i) texts.append(item->GetValueLine(i));
+  const int index = watched ? item->GetAbsoluteIndex() : -1;
+  for (int i = 0; watched && i < FObjects->GetCount(); ++i) {
+    TObject* object = FObjects->GetItem(i)->GetObjects();
+    const QString text = i < texts.size() ? texts[i] : texts[0];
+    if (object && (i < texts.size() || !IsMultiColumn())) SetPropertyValue(object, item, text);
+    if (!self.IsAlive()) return;
+  }
+  PropertyChanged(index);
+}
+
+void TKTCustomObjectInspector::KTInvalidateProperty(const TMessage& message) {
+  const TLifeWatch self(this);
+  const bool isFresh = UpdateProperties(GetItems());
+  if (!self.IsAlive()) return;
+  if (!isFresh) InvalidateScan();
+  // Deliberately an index among all items, held against the number of rows.
+  const auto index = static_cast<int>(message.WParam);
+  TKTItemProperty* item = index < GetVisibleItemCount() ? GetItem(index) : nullptr;
+  if (item) OnPropertyChanged(this, item);
+}
+
+// Refreshing.
+
+void TKTCustomObjectInspector::RefreshProperties() {
+  if (HasState(csDestroying) || IsUpdatingObjects()) return;
+  const TLifeWatch self(this);
+  const bool isFresh = UpdateProperties(GetItems());
+  if (self.IsAlive() && !isFresh) InvalidateScan();
+}
+
+bool TKTCustomObjectInspector::UpdateProperties(TKTItemProperties& items) {
+  if (HasState(csDestroying) || IsUpdatingObjects()) return true;
+  const TLifeWatch self(this);
+  bool isFresh = false;
+  {
+    TInspectorLock lock(*this);
+    const TUpdateBracket bracket(lock);
+    isFresh = RefreshItems(items);
+  }
+  if (!self.IsAlive() || IsEditUpdateLocked()) return isFresh;
+  Invalidate();
+  ReloadEditor();
+  return isFresh;
+}
+
+/// What is freed meanwhile leads nowhere any more.
+bool TKTCustomObjectInspector::RefreshItems(TKTItemProperties& items) {
+  const TLifeWatch self(this);
+  const TLifeWatch level(&items);
+  for (int i = 0; i < items.GetCount(); ++i) {
+    const TItemWatch item(items.GetItem(i));
+    if (!static_cast<TKTItemProperty&>(*item).RefreshValue()) return false;
+    if (!self.IsAlive() || !level.IsAlive() || !item) return false;
+    if (item->HasItems() && !UpdateProperties(static_cast<TKTItemProperty&>(*item).GetItems())) return false;
+    if (!self.IsAlive() || !level.IsAlive() || !item) return false;
+  }
+  return true;
+}
+
+/// The editor shows what its cell holds now; text, selection and caret stay where that is the same.
+void TKTCustomObjectInspector::ReloadEditor() {
+  TInplaceEdit* edit = IsEditorMode() ? InplaceEditor() : nullptr;
+  const TGridRect selection = GetSelection();
+  const bool isOneLine =
+      GetOrientation() == goVertical ? selection.Top == selection.Bottom : selection.Left == selection.Right;
+  if (!edit || !isOneLine || !IsValueCell(GetCol(), GetRow())) return;
+  const TLifeWatch watch(edit);
+  const QString text = GetEditText(GetCol(), GetRow());
+  if (!watch.IsAlive() || edit->GetText() == text) return;
+  edit->SetText(text);
+  if (watch.IsAlive()) edit->SelectAll();
+  if (watch.IsAlive()) ShowEditor();
+}
+
+// The clipboard.
+
+/// The object that the selected property holds, or null.
+TObject* TKTCustomObjectInspector::SelectedObject(int index) {
+  TKTItemProperty* item = GetSelected();
+  const bool hasObject =
+      item && item->GetTypeKind() == tkClass && (item->IsRealProperty() || item->GetPropertyKind() == pkCollectionItem);
+  return hasObject ? item->GetObjectProperty(index) : nullptr;
+}
+
+void TKTCustomObjectInspector::CopyToClipboard() {
+  TMessage message{.Msg = WM_COPY};
+  if (TObject* object = SelectedObject(-1)) object->Dispatch(message);
+}
+
+void TKTCustomObjectInspector::PasteFromClipboard() {
+  const TLifeWatch self(this);
+  if (!SelectedObject(-1)) return;
+  for (int i = 0; self.IsAlive() && i < FObjects->GetCount(); ++i) {
+    TMessage message{.Msg = WM_PASTE};
+    if (TObject* object = SelectedObject(i)) object->Dispatch(message);
+  }
+  if (self.IsAlive()) InvalidateScan();
+}
+
+}  // namespace kt

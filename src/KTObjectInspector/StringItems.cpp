@@ -1,0 +1,116 @@
+#include "kt/KTObjectInspector/StringItems.h"
+
+#include "kt/KTItemListEditor/ItemWatch.h"
+#include "kt/KTObjectInspector/ObjectInspector.h"
+#include "kt/KTObjectInspector/UpdateLock.h"
+#include "kt/rtl/collections/UpdateBracket.h"
+#include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/strings/StringList.h"
+
+#include <algorithm>
+
+namespace kt {
+
+namespace {
+
+constexpr char16_t kLineTypeName[] = u"TStrings Item";
+
+/// The property whose lines these are: items in between are parts of a name that holds the path delimiter.
+TKTItemProperty* OwnerOfLines(const TKTItemProperty& line) {
+  TKTItemProperty* owner = line.GetParent();
+  while (owner && owner->GetTypeName() == kLineTypeName) owner = owner->GetParent();
+  return owner;
+}
+
+/// The lists that an item stands for: that of `instance`, or of all objects where the path to the item names no object.
+std::vector<TStrings*> ListsOf(TObject* line, TObject* instance) {
+  if (auto* lines = dynamic_cast<TStrings*>(instance)) return {lines};
+  const auto* item = dynamic_cast<TKTItemProperty*>(line);
+  TKTItemProperty* owner = item ? OwnerOfLines(*item) : nullptr;
+  const TKTCustomObjectInspector* inspector = owner ? owner->GetEditor() : nullptr;
+  std::vector<TStrings*> lists;
+  for (int i = 0; inspector && i < inspector->GetObjects().GetCount(); ++i) {
+    if (auto* lines = dynamic_cast<TStrings*>(owner->GetObjectProperty(i))) lists.push_back(lines);
+  }
+  return lists;
+}
+
+/// A whole line, by its number.
+void LetEditLine(TKTItemProperty& item, int index) {
+  item.SetOnGetProperty([index](TObject* sender, TObject* instance, const QString&, QString& value) {
+    const auto lists = ListsOf(sender, instance);
+    const bool hasLine = !lists.empty() && index < lists[0]->GetCount();
+    value = hasLine ? lists[0]->GetStrings(index) : QString();
+  });
+  item.SetOnSetProperty([index](TObject* sender, TObject* instance, const QString&, const QString& value) {
+    for (TStrings* lines : ListsOf(sender, instance)) {
+      // Where there is no such line, there is nothing to write to.
+      if (index < lines->GetCount()) lines->SetStrings(index, value);
+    }
+  });
+}
+
+/// The line of a name: that of the number while it has the name, as names may come again, or else the first.
+int LineOf(TStrings& lines, const QString& name, int index) {
+  const bool isHere = index < lines.GetCount() && lines.GetNames(index) == name;
+  return isHere ? index : lines.IndexOfName(name);
+}
+
+/// The value of a name.
+void LetEditValue(TKTItemProperty& item, const QString& name, int index) {
+  item.SetOnGetProperty([name, index](TObject* sender, TObject* instance, const QString&, QString& value) {
+    const auto lists = ListsOf(sender, instance);
+    const int line = lists.empty() ? -1 : LineOf(*lists[0], name, index);
+    value = line < 0 ? QString() : lists[0]->GetValueFromIndex(line);
+  });
+  item.SetOnSetProperty([name, index](TObject* sender, TObject* instance, const QString&, const QString& value) {
+    for (TStrings* lines : ListsOf(sender, instance)) {
+      // A value that is emptied stays a line.
+      const int line = LineOf(*lines, name, index);
+      const QString text = name + lines->GetNameValueSeparator() + value;
+      if (line >= 0) {
+        lines->SetStrings(line, text);
+      } else {
+        lines->Add(text);
+      }
+    }
+  });
+}
+
+void MarkAsLine(TKTItemProperty* item, const TKTItemProperty& owner) {
+  for (; item && item != &owner && item->GetTypeName() != kLineTypeName; item = item->GetParent()) {
+    item->SetTypeName(QString::fromUtf16(kLineTypeName));
+    item->SetRealPropName(item->GetName());
+    item->SetAllEqual(true);
+  }
+}
+
+}  // namespace
+
+void BuildTStringsItemProperties(TKTItemProperty& item, TStrings& lines, TInplaceTStringsOptions options,
+                                 const QString& format) {
+  TKTItemProperties& items = item.GetItems();
+  items.SetSorted(options.Has(isSort));
+  TLevelUpdate level(items);
+  const TUpdateBracket bracket(level);
+  // Lines that are the items of the inspector itself become more meanwhile.
+  const int count = lines.GetCount();
+  for (int i = 0; i < std::min(count, lines.GetCount()); ++i) {
+    const QString name = options.Has(isUseNameValue) ? lines.GetNames(i) : QString();
+    TKTItemProperty* line = nullptr;
+    if (name.isEmpty()) {
+      line = items.Add();
+      line->SetName(Format(format, {i}));
+      LetEditLine(*line, i);
+    } else {
+      line = static_cast<TKTItemProperty*>(items.AddFullPath(name, QString(), true));
+      if (line) LetEditValue(*line, name, i);
+    }
+    if (!line || !level.IsAlive()) return;
+    MarkAsLine(line, item);
+    line->SetValueLine(0, name.isEmpty() ? lines.GetStrings(i) : lines.GetValueFromIndex(i));
+    if (!level.IsAlive()) return;
+  }
+}
+
+}  // namespace kt

@@ -1,0 +1,15 @@
+# An example that is started without a display draws itself into a picture, and ends well.
+file(REMOVE ${PICTURE})
+execute_process(COMMAND ${PROGRAM} ${PICTURE} RESULT_VARIABLE status)
+if(NOT status EQUAL 0)
+  message(FATAL_ERROR "${PROGRAM} ended with ${status}")
+endif()
+file(READ ${PICTURE} signature LIMIT 8 HEX)
+if(NOT signature STREQUAL "89504e470d0a1a0a")
+  message(FATAL_ERROR "${PICTURE} is no PNG: it starts with '${signature}'")
+endif()
+# An empty window takes a few hundred bytes.
+file(SIZE ${PICTURE} size)
+if(size LESS 5000)
+  message(FATAL_ERROR "${PICTURE} has ${size} bytes only")
+endif()
