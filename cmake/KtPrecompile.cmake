@@ -1,8 +1,7 @@
-# Headers of others that nearly every file includes, compiled once a target: it saves builds that are only run much of their time.
-# The debug build does without, so that every file is still seen to include what it needs.
-option(KT_PRECOMPILE "Compile the headers of Qt, GoogleTest and the standard library once for each target" OFF)
+# Headers of others that nearly every file includes, compiled once a target: for builds that do not join their files.
+option(KT_PRECOMPILE "Compile the headers of Qt and the standard library once for each target" OFF)
 
-# kt_precompile(<target> [<header>...]): the given headers besides those of Qt Core, and of Qt Widgets for what links it.
+# kt_precompile(<target>): the headers of Qt Core, and of Qt Widgets for what links it.
 function(kt_precompile target)
   if(NOT KT_PRECOMPILE)
     return()
@@ -12,5 +11,5 @@ function(kt_precompile target)
   if(links MATCHES "Qt6::Widgets|kt::vcl|kt::inspector")
     list(APPEND headers <QtGui> <QtWidgets>)
   endif()
-  target_precompile_headers(${target} PRIVATE ${headers} ${ARGN})
+  target_precompile_headers(${target} PRIVATE ${headers})
 endfunction()

@@ -92,4 +92,4 @@ is_refused unknown-component 'kt::nosuch is not among the installed libraries: r
 is_refused later-version 'compatible with requested version "99.0"' "${installed[@]}" -D KT_FIND_VERSION=99.0
 # Of what it embeds, somebody's project builds what it links.
 target=consumer
-consumer_works embedded -D KT_SOURCE_TREE="$root"
+consumer_works embedded -D KT_SOURCE_TREE="$root" -D CMAKE_UNITY_BUILD=ON
