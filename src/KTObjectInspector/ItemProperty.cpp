@@ -68,8 +68,8 @@ TKTItemProperty* TKTItemProperty::GetParentItem(TTypeKind kind, const QString& t
 // What the item stands for.
 
 std::vector<Variant>& TKTItemProperty::GetRealValues() {
-  if (const TKTCustomObjectInspector* inspector = GetEditor()) {
-    FRealValues.resize(static_cast<size_t>(std::max(inspector->GetValueCount(), 0)));
+  if (const TKTCustomItemListEditor* editor = TKTItemProp::GetEditor()) {
+    FRealValues.resize(static_cast<size_t>(std::max(editor->GetValueCount(), 0)));
   }
   return FRealValues;
 }
@@ -147,11 +147,18 @@ void TKTItemProperty::SetName(const QString& value) { TKTItemProp::SetName(value
 
 void TKTItemProperty::MoveProp(const QString& newName) {
   const TKTCustomObjectInspector* inspector = GetEditor();
-  if (inspector && inspector->FIsListingParts) {
-    MoveToSortedPlace(newName);
-  } else {
+  if (!inspector || (inspector->GetArrangeByCategory() && !inspector->FIsListingParts)) {
     TKTItemProp::MoveProp(newName);
+  } else if (!inspector->FScan || !IsInPlaceAsLast(newName)) {
+    MoveToSortedPlace(newName);
   }
+}
+
+/// A scan names its new items nearly in their order, so that most need no search.
+bool TKTItemProperty::IsInPlaceAsLast(const QString& newName) const {
+  TKTItemProps* items = GetCollection();
+  if (!items || GetIndex() != items->GetCount() - 1) return false;
+  return GetIndex() == 0 || items->CompareStrings(items->GetItem(GetIndex() - 1)->GetName(), newName) < 0;
 }
 
 // Events.

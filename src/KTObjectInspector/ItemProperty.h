@@ -164,6 +164,7 @@ class TKTItemProperty : public TKTItemProp {
   TCollectionItem* ElementIn(TObject* instance, int index);
   void TellRefreshed();
   bool HasRefreshableValue() const;
+  bool IsInPlaceAsLast(const QString& newName) const;
   bool IsModifiedIn(TObject* instance, int index);
   template <class F>
   void ChangeRole(F change);

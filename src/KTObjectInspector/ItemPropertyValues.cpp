@@ -72,11 +72,12 @@ bool TKTItemProperty::RefreshValueOf(TKTCustomObjectInspector& inspector, int in
   if (!instance) return false;
   TCollectionItem* element = FPropertyKind == pkCollectionItem ? ElementIn(instance.Get(), index) : nullptr;
   if (FPropertyKind == pkCollectionItem && !element) return false;
-  const QString text = element ? element->GetDisplayName() : inspector.GetPropertyValue(instance.Get(), this);
+  const TPropInfo* property = element ? nullptr : FindPropInfo(instance.Get(), FRealPropName);
+  const QString text = element ? element->GetDisplayName() : inspector.GetPropertyValue(instance.Get(), this, property);
   if (!self) return false;
   SetValueLine(index, text);
-  if (!self || !FIsRealProperty || !instance) return bool(self);
-  Variant value = GetPropValue(instance.Get(), name, false);
+  if (!self || !FIsRealProperty || !property || !instance) return bool(self);
+  Variant value = GetPropValue(instance.Get(), property, false);
   if (!self) return false;
   std::vector<Variant>& values = GetRealValues();
   if (static_cast<size_t>(index) < values.size()) values[static_cast<size_t>(index)] = std::move(value);

@@ -203,9 +203,9 @@ class TKTCustomObjectInspector : public TKTCustomItemListEditor {
   // The tree.
   void BuildCommonProperties(TScan& scan, TKTInspectorObjects& objects, TKTItemProperties& props);
   void BuildElements(TScan& scan, TKTInspectorObjects& objects, TKTItemProperties& props);
-  void BuildProperty(TScan& scan, TKTItemProperty* item, TKTInspectorObjects& objects, const QString& name);
+  void BuildProperty(TScan& scan, TKTItemProperty* item, TKTInspectorObjects& objects, const TPropInfo& property);
   void FillValues(TKTItemProperty& item, TKTInspectorObjects& objects, const TPropInfo& property);
-  bool IsSameInAll(TKTItemProperty& item, TKTInspectorObjects& objects);
+  bool IsSameInAll(TKTItemProperty& item, TKTInspectorObjects& objects, const TPropInfo& property);
   void BuildMembers(TKTItemProperty& set, const TPropInfo& property);
   TObject* ObjectToEnter(const TScan& scan, TObject* object, const QString& name) const;
   void BuildObjects(TScan& scan, TKTItemProperty& item, TKTInspectorObjects& objects, const QString& name);
@@ -219,6 +219,7 @@ class TKTCustomObjectInspector : public TKTCustomItemListEditor {
   /// name is what is left of `path`. Null when the path leads nowhere.
   TObject* GetInstance(TObject* object, QString& path, const TKTItemProperty* item) const;
   QString GetPropertyValue(TObject* instance, TKTItemProperty* item);
+  QString GetPropertyValue(TObject* instance, TKTItemProperty* item, const TPropInfo* property);
 
   /// What the user sees of the tree, kept while it is built anew: full path names.
   struct TView {

@@ -161,6 +161,7 @@ void TKTCustomObjectInspector::ChangeFilters(TObject*) {
 // Presets.
 
 void TKTCustomObjectInspector::CopyPresetsToProperties() {
+  if (FPresets->GetCount() == 0) return;
   const TLifeWatch self(this);
   for (int i = 0; self.IsAlive() && i < GetItemCount(); ++i) FPresets->CopyPresetsToProperty(GetItem(i));
 }

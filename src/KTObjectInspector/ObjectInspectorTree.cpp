@@ -23,11 +23,20 @@ namespace {
 /// As many members of a set as have a bit in what an inspector keeps of it.
 constexpr int kListedMembers = 32;
 
+/// What an object of the list has in the place of `property`, which belongs to the first. Null when there is none, or
+/// when one of the two objects is gone.
+const TPropInfo* CounterpartIn(TKTInspectorObjects& objects, int index, const TPropInfo& property) {
+  TObject* first = objects.GetItem(0)->GetObjects();
+  TObject* object = objects.GetItem(index)->GetObjects();
+  if (!first || !object) return nullptr;
+  // What objects of one class publish needs no search.
+  return object->ClassType() == first->ClassType() ? &property : GetPropInfo(object, property.Name());
+}
+
 /// Only what all objects publish under the same name with the same type is listed.
 bool IsSharedProperty(TKTInspectorObjects& objects, const TPropInfo& property) {
   for (int i = 1; i < objects.GetCount(); ++i) {
-    TObject* object = objects.GetItem(i)->GetObjects();
-    const TPropInfo* other = object ? GetPropInfo(object, property.Name()) : nullptr;
+    const TPropInfo* other = CounterpartIn(objects, i, property);
     if (!other) return false;
     if (other == &property) continue;
     if (other->Kind() != property.Kind() || other->PropType()->Name() != property.PropType()->Name()) return false;
@@ -35,20 +44,26 @@ bool IsSharedProperty(TKTInspectorObjects& objects, const TPropInfo& property) {
   return true;
 }
 
-/// "False" and "True".
-QStringList TruthNames() { return {QStringLiteral("False"), QStringLiteral("True")}; }
-
-QStringList EnumNamesOf(const TTypeInfo* type) {
-  if (IsBoolType(type)) return TruthNames();
-  const TEnumTypeInfo* enumeration = EnumTypeOf(type);
-  return enumeration ? enumeration->Names() : QStringList();
+const QStringList& TruthNames() {
+  static const QStringList names{QStringLiteral("False"), QStringLiteral("True")};
+  return names;
 }
 
 void FillPickList(TKTItemProperty& item, const QStringList& names) {
   TStringList& list = item.GetPickList();
   const TUpdateBracket bracket(list);
   for (const QString& name : names) list.Add(name);
-  list.Sort();
+  // Most lists are those of truth values, which are in order.
+  if (&names != &TruthNames()) list.Sort();
+}
+
+void OfferNamesOf(const TTypeInfo* type, TKTItemProperty& item) {
+  if (IsBoolType(type)) return FillPickList(item, TruthNames());
+  QStringList names;
+  const TEnumTypeInfo* enumeration = EnumTypeOf(type);
+  const qint64 last = enumeration ? enumeration->MaxValue() : -1;
+  for (qint64 i = enumeration ? enumeration->MinValue() : 0; i <= last; ++i) names.append(GetEnumName(type, i));
+  FillPickList(item, names);
 }
 
 /// The names of the members that are listed; empty where the members have none.
@@ -91,7 +106,7 @@ void TKTCustomObjectInspector::BuildCommonProperties(TScan& scan, TKTInspectorOb
     // What can only be written has nothing to show.
     if (!property->IsReadable() || !IsSharedProperty(objects, *property)) continue;
     const TItemWatch item(props.Add());
-    if (item) BuildProperty(scan, static_cast<TKTItemProperty*>(item.Get()), objects, property->Name());
+    if (item) BuildProperty(scan, static_cast<TKTItemProperty*>(item.Get()), objects, *property);
     if (!scan.IsGoing() || !level.IsAlive()) return;
     const TKTItemProp* parent = item ? item->GetParent() : nullptr;
     if (!GetArrangeByCategory() || !parent || !parent->GetCategory()) continue;
@@ -118,32 +133,29 @@ void TKTCustomObjectInspector::BuildElements(TScan& scan, TKTInspectorObjects& o
 // One property.
 
 void TKTCustomObjectInspector::BuildProperty(TScan& scan, TKTItemProperty* item, TKTInspectorObjects& objects,
-                                             const QString& name) {
+                                             const TPropInfo& property) {
   const TItemWatch watched(item);
-  item->SetName(name);
+  item->SetName(property.Name());
   if (!watched || !scan.IsGoing()) return;
-  item->SetRealPropName(name);
+  item->SetRealPropName(property.Name());
+  if (!objects.GetItem(0)->GetObjects()) return;
+  item->SetTypeKind(property.Kind());
+  item->SetTypeName(property.PropType()->Name());
+  FillValues(*item, objects, property);
   TObject* first = objects.GetItem(0)->GetObjects();
-  if (!first) return;
-  const TPropInfo* property = GetPropInfo(first, name);
-  if (!property) throw EPropertyError(Format(SUnknownProperty, {name}));
-  item->SetTypeKind(property->Kind());
-  item->SetTypeName(property->PropType()->Name());
-  FillValues(*item, objects, *property);
-  first = objects.GetItem(0)->GetObjects();
   if (!watched || !scan.IsGoing() || !first) return;
-  const bool isOwned = IsOwnedObject(first, *property);
+  const bool isOwned = IsOwnedObject(first, property);
   if (!watched || !scan.IsGoing()) return;
-  const bool isFixed = !property->IsWritable() || property->Kind() == tkMethod || property->Kind() == tkInterface;
+  const bool isFixed = !property.IsWritable() || property.Kind() == tkMethod || property.Kind() == tkInterface;
   if (isFixed || isOwned) item->SetReadOnly(true);
-  switch (property->Kind()) {
+  switch (property.Kind()) {
     case tkEnumeration:
-      return FillPickList(*item, EnumNamesOf(property->PropType()));
+      return OfferNamesOf(property.PropType(), *item);
     case tkSet:
-      return BuildMembers(*item, *property);
+      return BuildMembers(*item, property);
     case tkClass:
     case tkInterface:
-      return BuildObjects(scan, *item, objects, name);
+      return BuildObjects(scan, *item, objects, property.Name());
     default:
       return;
   }
@@ -162,26 +174,30 @@ void TKTCustomObjectInspector::FillValues(TKTItemProperty& item, TKTInspectorObj
   const int count = IsMultiColumn() ? objects.GetCount() : 1;
   for (int i = 0; i < count; ++i) {
     const TObjectRef object(objects.GetItem(i)->GetObjects());
-    Variant value = object && kind != tkInterface ? GetPropValue(object.Get(), property.Name(), false) : Variant();
+    const TPropInfo* own = CounterpartIn(objects, i, property);
+    if (!own) return;
+    Variant value = kind != tkInterface ? GetPropValue(object.Get(), own, false) : Variant();
     if (!object || !watched) return;
     std::vector<Variant>& values = item.GetRealValues();
     if (static_cast<size_t>(i) < values.size()) values[static_cast<size_t>(i)] = std::move(value);
-    const QString text = GetPropertyValue(object.Get(), &item);
+    const QString text = GetPropertyValue(object.Get(), &item, own);
     if (!watched) return;
     item.SetValueLine(i, text);
   }
-  const bool isSame = IsSameInAll(item, objects);
+  if (!objects.GetItem(0)->GetObjects()) return;
+  const bool isSame = IsSameInAll(item, objects, property);
   if (watched) item.SetAllEqual(isSame);
 }
 
-bool TKTCustomObjectInspector::IsSameInAll(TKTItemProperty& item, TKTInspectorObjects& objects) {
+bool TKTCustomObjectInspector::IsSameInAll(TKTItemProperty& item, TKTInspectorObjects& objects,
+                                           const TPropInfo& property) {
   if (objects.GetCount() == 1) return true;
   if (IsMultiColumn()) return false;
   const TItemWatch watched(&item);
   const QString text = item.GetValueLine(0);
   for (int i = 1; i < objects.GetCount(); ++i) {
-    TObject* object = objects.GetItem(i)->GetObjects();
-    const QString other = object ? GetPropertyValue(object, &item) : QString();
+    const TPropInfo* own = CounterpartIn(objects, i, property);
+    const QString other = own ? GetPropertyValue(objects.GetItem(i)->GetObjects(), &item, own) : QString();
     if (!watched) return false;
     if (other != text && AnsiCompareText(other, text) != 0) return false;
   }

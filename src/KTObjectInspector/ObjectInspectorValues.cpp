@@ -83,12 +83,19 @@ TObject* TKTCustomObjectInspector::GetInstance(TObject* object, QString& path, c
 }
 
 QString TKTCustomObjectInspector::GetPropertyValue(TObject* instance, TKTItemProperty* item) {
+  const bool isAsked = bool(item->GetOnGetProperty());
+  return GetPropertyValue(instance, item, isAsked ? nullptr : FindPropInfo(instance, item->GetRealPropName()));
+}
+
+/// For callers that have looked the property up already, which costs as much as reading it.
+QString TKTCustomObjectInspector::GetPropertyValue(TObject* instance, TKTItemProperty* item,
+                                                   const TPropInfo* property) {
   if (const TKTItemGetPropertyEvent handler = item->GetOnGetProperty()) {
     QString value;
     handler(item, instance, item->GetRealPropName(), value);
     return value;
   }
-  return TextOf(instance, FindPropInfo(instance, item->GetRealPropName()));
+  return TextOf(instance, property);
 }
 
 // Writing.

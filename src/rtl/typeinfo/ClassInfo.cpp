@@ -28,10 +28,10 @@ bool TClassInfo::InheritsFrom(const TClassInfo* ancestor) const {
 bool TClassInfo::ClassNameIs(QStringView name) const { return SameText(ClassName(), name); }
 
 const TPropInfo* TClassInfo::FindProp(QStringView name) const {
-  for (const TClassInfo* candidate = this; candidate; candidate = candidate->FParent) {
-    if (const TPropInfo* found = candidate->FindOwnProp(name)) return found;
-  }
-  return nullptr;
+  const auto found = std::lower_bound(
+      FAllByName.begin(), FAllByName.end(), name,
+      [](const TPropInfo* property, QStringView wanted) { return CompareText(property->Name(), wanted) < 0; });
+  return found != FAllByName.end() && SameText((*found)->Name(), name) ? *found : nullptr;
 }
 
 TObject* TClassInfo::CreateInstance(TObject* parent) const {
@@ -54,17 +54,9 @@ QString TClassInfo::MethodName(const TMethod& method) const {
   return FParent ? FParent->MethodName(method) : QString();
 }
 
-const TPropInfo* TClassInfo::FindOwnProp(QStringView name) const {
-  const auto found = std::lower_bound(
-      FOwnByName.begin(), FOwnByName.end(), name,
-      [](const TPropInfo* property, QStringView wanted) { return CompareText(property->Name(), wanted) < 0; });
-  return found != FOwnByName.end() && SameText((*found)->Name(), name) ? *found : nullptr;
-}
-
 void TClassInfo::IndexProps() {
   if (FParent) FAllProps = FParent->FAllProps;
   for (const TPropInfo& property : FOwnProps) {
-    FOwnByName.push_back(&property);
     const auto inherited = std::find_if(FAllProps.begin(), FAllProps.end(), [&property](const TPropInfo* other) {
       return SameText(other->Name(), property.Name());
     });
@@ -74,7 +66,8 @@ void TClassInfo::IndexProps() {
       FAllProps.push_back(&property);
     }
   }
-  std::sort(FOwnByName.begin(), FOwnByName.end(),
+  FAllByName = FAllProps;
+  std::sort(FAllByName.begin(), FAllByName.end(),
             [](const TPropInfo* a, const TPropInfo* b) { return CompareText(a->Name(), b->Name()) < 0; });
 }
 

@@ -52,11 +52,13 @@ class TClassInfo {
   bool ClassNameIs(QStringView name) const;
 
   /// The published property of that name, without regard to ASCII case, of this class or its nearest ancestor that has
-  /// one; null when there is none. Cost: one binary search per class on the way.
+  /// one; null when there is none. Cost: one binary search.
   const TPropInfo* FindProp(QStringView name) const;
   /// All published properties, ancestors' first, in the order of their first publication; where a class publishes a
   /// name again, its own property stands in the place of the inherited one.
   const std::vector<const TPropInfo*>& Props() const { return FAllProps; }
+  /// The same properties in the order of their names, by CompareText().
+  const std::vector<const TPropInfo*>& PropsByName() const { return FAllByName; }
 
   bool IsCreatable() const { return bool(FFactory); }
   /// See TFactory. Raises EInvalidCast "Class %s cannot be created by name" when the class is abstract.
@@ -68,14 +70,13 @@ class TClassInfo {
   QString MethodName(const TMethod& method) const;
 
  private:
-  const TPropInfo* FindOwnProp(QStringView name) const;
   void IndexProps();
 
   const TClassInfo* FParent;
   TClassTypeInfo FTypeInfo;
   std::deque<TPropInfo> FOwnProps;
-  std::vector<const TPropInfo*> FOwnByName;
   std::vector<const TPropInfo*> FAllProps;
+  std::vector<const TPropInfo*> FAllByName;
   std::vector<TPublishedMethod> FMethods;
   TFactory FFactory;
 };

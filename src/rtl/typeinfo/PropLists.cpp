@@ -26,13 +26,11 @@ const TPropInfo* FindPropInfo(TObject* instance, QStringView name) {
 }
 
 std::vector<const TPropInfo*> GetPropList(const TClassInfo* classInfo, TTypeKinds kinds, TPropOrder order) {
+  const auto& all = order == poSorted ? classInfo->PropsByName() : classInfo->Props();
   std::vector<const TPropInfo*> list;
-  std::copy_if(classInfo->Props().begin(), classInfo->Props().end(), std::back_inserter(list),
+  list.reserve(all.size());
+  std::copy_if(all.begin(), all.end(), std::back_inserter(list),
                [kinds](const TPropInfo* property) { return kinds.Has(property->Kind()); });
-  if (order == poSorted) {
-    std::sort(list.begin(), list.end(),
-              [](const TPropInfo* a, const TPropInfo* b) { return CompareText(a->Name(), b->Name()) < 0; });
-  }
   return list;
 }
 
