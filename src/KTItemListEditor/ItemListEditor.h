@@ -382,6 +382,8 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   void ChangeAll(F change);
   void FreeItem(TKTItemProp* item);
   void SwapCounts();
+  void TurnSelection(const TGridRect& selection);
+  void RecountRows();
   TGridCoord CellOf(int row, int field) const;
   std::unique_ptr<TKTCustomDeltaFont> MakeFont();
   void CategoryFontChanged(TObject*);

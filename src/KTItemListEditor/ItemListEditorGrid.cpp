@@ -2,6 +2,7 @@
 #include "kt/KTItemListEditor/ItemRows.h"
 #include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/strings/StringList.h"
+#include "kt/rtl/typeinfo/PropLists.h"
 
 namespace kt {
 
@@ -86,15 +87,17 @@ void TKTCustomItemListEditor::SetCell(int col, int row, const QString& value) {
 }
 
 void TKTCustomItemListEditor::SetColumnTitles(bool value) {
+  const TLifeWatch self(this);
   // The cell of the editor is about to become that of another item.
   HideEditor();
+  if (!self.IsAlive()) return;
   const int fixed = value ? 1 : 0;
   if (FOrientation == goVertical) {
     if (value && GetRowCount() < 2) SetRowCount(2);
-    SetFixedRows(fixed);
+    if (self.IsAlive()) SetFixedRows(fixed);
   } else {
     if (value && GetColCount() < 2) TCustomDrawGrid::SetColCount(2);
-    SetFixedCols(fixed);
+    if (self.IsAlive()) SetFixedCols(fixed);
   }
 }
 
@@ -104,18 +107,24 @@ void TKTCustomItemListEditor::SetDisplayOptions(TILEDisplayOptions value) {
   const TILEDisplayOptions removed = FDisplayOptions - value;
   const TILEDisplayOptions changed = added + removed;
   const bool reopens = changed.Has(doColumnTitles) && IsEditorMode();
+  const TLifeWatch self(this);
   if (changed.Has(doColumnTitles)) SetColumnTitles(value.Has(doColumnTitles));
-  if (removed.Has(doMultiColValues)) SetGridCount(gcFieldCount, 2);
+  if (self.IsAlive() && removed.Has(doMultiColValues)) SetGridCount(gcFieldCount, 2);
   // What is typed is written while the rows are what they were; a handler that refuses it finds nothing changed.
-  if (changed.Has(doShowReadOnly)) HideEditor();
+  if (self.IsAlive() && changed.Has(doShowReadOnly)) HideEditor();
+  if (!self.IsAlive()) return;
   FDisplayOptions = value;
-  if (changed.Has(doShowReadOnly)) TItemRows::MarkAllStale(*FItems);
-  if (changed.Has(doShowReadOnly) && !IsUpdating()) TItemRows::Recount(*FItems);
-  AdjustColWidths();
   // Both ways: read-only items come back as they went.
+  if (changed.Has(doShowReadOnly)) RecountRows();
+  AdjustColWidths();
   if (changed.Has(doShowReadOnly)) ShowRows();
-  Refresh();
-  if (reopens) ShowEditor();
+  if (self.IsAlive()) Refresh();
+  if (self.IsAlive() && reopens) ShowEditor();
+}
+
+void TKTCustomItemListEditor::RecountRows() {
+  TItemRows::MarkAllStale(*FItems);
+  if (!IsUpdating()) TItemRows::Recount(*FItems);
 }
 
 void TKTCustomItemListEditor::SetOrientation(TKTGridOrientation value) {
@@ -129,31 +138,39 @@ void TKTCustomItemListEditor::SetOrientation(TKTGridOrientation value) {
 }
 
 void TKTCustomItemListEditor::SwapCounts() {
+  const TLifeWatch self(this);
   const int cols = GetColCount();
+  const int rows = GetRowCount();
   if (FOrientation == goVertical) {
-    SetColCount(GetRowCount());
-    SetRowCount(cols);
-  } else {
-    const int rows = GetRowCount();
-    SetRowCount(cols);
     SetColCount(rows);
+    if (self.IsAlive()) SetRowCount(cols);
+  } else {
+    SetRowCount(cols);
+    if (self.IsAlive()) SetColCount(rows);
   }
 }
 
 void TKTCustomItemListEditor::OrientationChange() {
+  const TLifeWatch self(this);
   HideEditor();
+  if (!self.IsAlive()) return;
   const TGridRect selection = GetSelection();
-  // The counts in a form are already those of the orientation in it.
-  if (!HasState(csReading)) SwapCounts();
-  SetColumnTitles(FDisplayOptions.Has(doColumnTitles));
+  // The counts in a form, where the class publishes them, are already those of the orientation in it.
+  const bool countsAreRead = HasState(csReading) && IsPublishedProp(this, u"RowCount");
+  if (!countsAreRead) SwapCounts();
+  if (self.IsAlive()) SetColumnTitles(FDisplayOptions.Has(doColumnTitles));
   // Left over from the title line, which was on the other axis.
-  if (GetGridCount(gcFixedFields) == 1) SetGridCount(gcFixedFields, 0);
+  if (self.IsAlive() && GetGridCount(gcFixedFields) == 1) SetGridCount(gcFixedFields, 0);
+  if (self.IsAlive()) TurnSelection(selection);
+  if (self.IsAlive()) Refresh();
+  if (self.IsAlive()) ShowEditor();
+}
+
+void TKTCustomItemListEditor::TurnSelection(const TGridRect& selection) {
   const TGridRect turned{selection.Top, selection.Left, selection.Bottom, selection.Right};
   // Handlers of the new current cell may have removed what was selected.
   const bool isInside = turned.Right < GetColCount() && turned.Bottom < GetRowCount();
   if (isInside && !HasState(csReading)) SetSelection(turned);
-  Refresh();
-  ShowEditor();
 }
 
 }  // namespace kt

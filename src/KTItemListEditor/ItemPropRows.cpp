@@ -88,6 +88,7 @@ void TKTItemProp::ChangeFully(bool isExpanded) {
   const TItemWatch self(this);
   TChildren children{TItemWatch(this)};
   const TUpdateBracket bracket(children);
+  if (!self) return;
   FExpanded = isExpanded;
   // At once, so that the end of the bracket counts right also when one of the children throws.
   TItemRows::MarkStale(*this);

@@ -19,6 +19,8 @@ TKTItemProp* TKTItemProps::AddCategory(const QString& name, bool allowDuplicate)
   if (!allowDuplicate) {
     if (const int index = IndexOfCategory(name); index >= 0) return GetItem(index);
   }
+  // Nothing is added that would have to stay without its name.
+  IsValid(name, true);
   const TLifeWatch self(this);
   Changing();
   if (!self.IsAlive()) throw EInvalidOperation(SObjectFreed.toString());

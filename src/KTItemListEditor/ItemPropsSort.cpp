@@ -2,6 +2,8 @@
 #include "kt/KTItemListEditor/ItemProps.h"
 #include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/strings/StringList.h"
 
@@ -81,6 +83,7 @@ void TKTItemProps::Sort(bool thisLevelOnly) { CustomSort(&CompareNames, thisLeve
 void TKTItemProps::CustomSort(const TKTItemPropsCompare& compare, bool thisLevelOnly) {
   if (FSorted || GetCount() == 0) return;
   const TUpdateBracket bracket(*this);
+  if (!bracket.IsAlive()) throw EInvalidOperation(SObjectFreed.toString());
   TOrder order(static_cast<size_t>(GetCount()));
   std::iota(order.begin(), order.end(), 0);
   TQuickSort(*this, compare, order).Run(0, GetCount() - 1);
@@ -88,7 +91,7 @@ void TKTItemProps::CustomSort(const TKTItemPropsCompare& compare, bool thisLevel
   if (static_cast<int>(order.size()) != GetCount()) throw EListError(Format(SListCountError, {GetCount()}));
   PermuteItems(order);
   if (thisLevelOnly) return;
-  for (int i = 0; i < GetCount(); ++i) {
+  for (int i = 0; bracket.IsAlive() && i < GetCount(); ++i) {
     if (GetItem(i)->FItems) GetItem(i)->FItems->CustomSort(compare, false);
   }
 }
@@ -99,7 +102,8 @@ void TKTItemProps::StoreSorted(bool value) {
 }
 
 void TKTItemProps::StoreSortedBelow(bool value) {
-  for (int i = 0; i < GetCount(); ++i) {
+  const TLifeWatch self(this);
+  for (int i = 0; self.IsAlive() && i < GetCount(); ++i) {
     TKTItemProp* item = GetItem(i);
     item->FSortsItems = value;
     if (item->FItems) item->FItems->SetSorted(value);
@@ -112,13 +116,16 @@ void TKTItemProps::SetSorted(bool value) {
     StoreSortedBelow(false);
     return StoreSorted(false);
   }
+  // Both ends of the bracket ask handlers, which may free the level: the editor closes and rows show.
+  const TLifeWatch self(this);
   {
     const TUpdateBracket bracket(*this);
-    StoreSortedBelow(true);
-    Sort(true);
-    StoreSorted(true);
+    if (self.IsAlive()) StoreSortedBelow(true);
+    if (self.IsAlive()) Sort(true);
+    if (self.IsAlive()) StoreSorted(true);
   }
-  if (TKTCustomItemListEditor* editor = GetEditor()) editor->Refresh();
+  TKTCustomItemListEditor* editor = self.IsAlive() ? GetEditor() : nullptr;
+  if (editor) editor->Refresh();
 }
 
 }  // namespace kt

@@ -37,6 +37,15 @@ TEST_F(ItemPropsCategoriesTest, AnOrdinaryItemOfThatNameIsNoCategory) {
   EXPECT_EQ(1, Items().IndexOfCategory("a"));
 }
 
+TEST_F(ItemPropsCategoriesTest, ACategoryWhoseNameAnItemHasIsRefusedBeforeItIsMadeWhileNamesAreUnique) {
+  Fill("a");
+  FEditor->SetPropertyOptions({propUnique});
+  EXPECT_EQ("Property name is not unique: a", MessageOf<ETORVException>([&] { Items().AddCategory("a", false); }));
+  EXPECT_EQ("Property name is not unique: a",
+            MessageOf<ETORVException>([&] { FEditor->Categorize(Items(), QStringLiteral("a")); }));
+  EXPECT_EQ("a", TreeText());
+}
+
 TEST_F(ItemPropsCategoriesTest, DeletingACategoryLiftsItsChildrenToItsLevel) {
   Fill("a C [x [y] z] b");
   Item("C").SetCategory(true);

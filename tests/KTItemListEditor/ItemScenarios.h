@@ -101,6 +101,7 @@ inline const TItemScenario ItemScenarios[] = {
     {"Select", [](TKTItemListEditor& editor) { editor.SetSelected(&At(editor, "a.b.c")); }},
     {"Sort", [](TKTItemListEditor& editor) { editor.GetItems().Sort(false); }},
     {"Sorted", [](TKTItemListEditor& editor) { editor.SetSorted(true); }},
+    {"SortedBelow", [](TKTItemListEditor& editor) { At(editor, "a").GetItems().SetSorted(true); }},
     {"Categorize",
      [](TKTItemListEditor& editor) {
        editor.GetItems().GetCategories().SetCommaText("a=N,e=M");
