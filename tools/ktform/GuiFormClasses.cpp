@@ -1,8 +1,8 @@
-#include "kt/KTItemListEditor/Registration.h"
+#include "kt/KTObjectInspector/Registration.h"
 #include "ktform/FormClasses.h"
 
 namespace ktform {
 
-void RegisterFormClasses() { kt::RegisterItemListEditor(); }
+void RegisterFormClasses() { kt::RegisterObjectInspector(); }
 
 }  // namespace ktform

@@ -24,6 +24,9 @@ constexpr char kVisualForm[] = R"(object Form1: TForm1
     ColCount = 4
     Color = clRed
   end
+  object Inspector1: TKTObjectInspector
+    Left = 40
+  end
 end
 )";
 
@@ -47,14 +50,14 @@ TEST_P(KtFormSetVisualTest, OnlyTheLineOfTheValueChanges) {
 
 INSTANTIATE_TEST_SUITE_P(
     Values, KtFormSetVisualTest,
-    ::testing::Values(TEdit{"Left=13", "Left = 12", "Left = 13"}, TEdit{"Editor1.Left=9", "Left = 8", "Left = 9"},
-                      TEdit{"Editor1.Items[1].Name=c", "'b'", "'c'"},
-                      TEdit{"Editor1.Foreign=6", "Foreign = 5", "Foreign = 6"},
-                      TEdit{"Grid1.ColCount=3", "ColCount = 4", "ColCount = 3"},
-                      TEdit{"Grid1.Color=$FF0000", "clRed", "clBlue"},
-                      // The form has none of these: the class knows them.
-                      TEdit{"Grid1.RowCount=7", "ColCount = 4\n", "ColCount = 4\n    RowCount = 7\n"},
-                      TEdit{"Grid1.Align=alClient", "TDrawGrid\n", "TDrawGrid\n    Align = alClient\n"}));
+    ::testing::Values(
+        TEdit{"Left=13", "Left = 12", "Left = 13"}, TEdit{"Editor1.Left=9", "Left = 8", "Left = 9"},
+        TEdit{"Editor1.Items[1].Name=c", "'b'", "'c'"}, TEdit{"Editor1.Foreign=6", "Foreign = 5", "Foreign = 6"},
+        TEdit{"Grid1.ColCount=3", "ColCount = 4", "ColCount = 3"}, TEdit{"Grid1.Color=$FF0000", "clRed", "clBlue"},
+        // The form has none of these: the class knows them.
+        TEdit{"Grid1.RowCount=7", "ColCount = 4\n", "ColCount = 4\n    RowCount = 7\n"},
+        TEdit{"Inspector1.InplaceTStrings=True", "Left = 40\n", "Left = 40\n    InplaceTStrings = True\n"},
+        TEdit{"Grid1.Align=alClient", "TDrawGrid\n", "TDrawGrid\n    Align = alClient\n"}));
 
 TEST_F(KtFormSetVisualTest, APropertyThatTheClassLacksIsAnError) {
   const TRun run = Set("Grid1.Wheels=4");
