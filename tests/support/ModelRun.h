@@ -51,7 +51,9 @@ class TModelRun {
  public:
   using TSteps = std::vector<quint32>;
 
-  TModelRun(quint32 seed, TMake make) : FSeed(seed), FMake(std::move(make)) {}
+  /// Once a fault is found, as many steps more as `shrinkingSteps` may be run to find the few that lead to it.
+  TModelRun(quint32 seed, TMake make, qint64 shrinkingSteps = 20'000'000)
+      : FSeed(seed), FMake(std::move(make)), FShrinkingSteps(shrinkingSteps) {}
 
   /// Runs so many random steps; after the first fault the test fails, with the seed and the steps that are needed for
   /// it. Answers the machine.
@@ -76,7 +78,7 @@ class TModelRun {
 
   /// As few of the steps as still lead to a fault: leaves out half of them, then quarters, down to single ones.
   TSteps Shrunk(TSteps steps) {
-    FLeft = 20'000'000;
+    FLeft = FShrinkingSteps;
     for (size_t piece = std::max<size_t>(steps.size() / 2, 1); FLeft > 0; piece = std::max<size_t>(piece / 2, 1)) {
       const bool isShorter = DropPieces(steps, piece);
       if (piece == 1 && !isShorter) break;
@@ -125,6 +127,7 @@ class TModelRun {
 
   quint32 FSeed;
   TMake FMake;
+  qint64 FShrinkingSteps;
   /// Steps that shrinking may still take.
   qint64 FLeft = 0;
 };
