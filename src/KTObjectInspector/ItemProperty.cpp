@@ -4,6 +4,7 @@
 #include "kt/KTObjectInspector/ItemProperties.h"
 #include "kt/KTObjectInspector/ItemPropertyEvents.h"
 #include "kt/KTObjectInspector/ObjectInspector.h"
+#include "kt/KTObjectInspector/StringItems.h"
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/conversions/TextCompare.h"
 #include "kt/rtl/objects/Exceptions.h"
@@ -197,6 +198,8 @@ void TKTItemProperty::Assign(TPersistent* source) {
     FTypeName = other->FTypeName;
     FIsRealProperty = other->FIsRealProperty;
     FPropertyKind = other->FPropertyKind;
+    // Without its handlers the copy of a line, below another category say, would stand for nothing.
+    if (IsStringItem(*other)) AssignEvents(other);
   }
   TKTItemProp::Assign(source);
 }

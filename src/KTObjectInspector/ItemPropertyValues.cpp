@@ -30,7 +30,8 @@ qint64 BitsOf(const std::vector<Variant>& values, int index) {
 // Reading.
 
 bool TKTItemProperty::HasRefreshableValue() const {
-  return FIsRealProperty || GetOnGetProperty() || FPropertyKind == pkSetMember || FPropertyKind == pkCollectionItem;
+  if (FIsRealProperty || GetOnGetProperty()) return true;
+  return FPropertyKind == pkSetMember || FPropertyKind == pkCollection || FPropertyKind == pkCollectionItem;
 }
 
 bool TKTItemProperty::RefreshValue() {

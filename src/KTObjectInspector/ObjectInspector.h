@@ -203,10 +203,11 @@ class TKTCustomObjectInspector : public TKTCustomItemListEditor {
   // The tree.
   void BuildCommonProperties(TScan& scan, TKTInspectorObjects& objects, TKTItemProperties& props);
   void BuildElements(TScan& scan, TKTInspectorObjects& objects, TKTItemProperties& props);
-  void BuildProperty(TScan& scan, TKTItemProperty* item, TKTInspectorObjects& objects, const TPropInfo& property);
+  struct TListedProperty;
+  void BuildProperty(TScan& scan, TKTItemProperty* item, TKTInspectorObjects& objects, const TListedProperty& listed);
   void FillValues(TKTItemProperty& item, TKTInspectorObjects& objects, const TPropInfo& property);
   bool IsSameInAll(TKTItemProperty& item, TKTInspectorObjects& objects, const TPropInfo& property);
-  void BuildMembers(TKTItemProperty& set, const TPropInfo& property);
+  void BuildMembers(TKTItemProperty& set, TKTInspectorObjects& objects, const TPropInfo& property);
   TObject* ObjectToEnter(const TScan& scan, TObject* object, const QString& name) const;
   void BuildObjects(TScan& scan, TKTItemProperty& item, TKTInspectorObjects& objects, const QString& name);
   void BuildBelow(TScan& scan, TKTItemProperty& item, TKTInspectorObjects& objects);

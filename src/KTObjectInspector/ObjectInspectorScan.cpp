@@ -1,4 +1,5 @@
 // How and when an inspector builds its tree.
+#include "kt/KTItemListEditor/ItemSnapshot.h"
 #include "kt/KTItemListEditor/ItemWatch.h"
 #include "kt/KTObjectInspector/ObjectInspector.h"
 #include "kt/KTObjectInspector/Scan.h"
@@ -163,7 +164,11 @@ void TKTCustomObjectInspector::ChangeFilters(TObject*) {
 void TKTCustomObjectInspector::CopyPresetsToProperties() {
   if (FPresets->GetCount() == 0) return;
   const TLifeWatch self(this);
-  for (int i = 0; self.IsAlive() && i < GetItemCount(); ++i) FPresets->CopyPresetsToProperty(GetItem(i));
+  // An alias moves its item within a sorted level, or to another category.
+  const TItemSnapshot items(*this);
+  for (int i = 0; self.IsAlive() && i < items.Count(); ++i) {
+    if (items[i]) FPresets->CopyPresetsToProperty(static_cast<TKTItemProperty*>(items[i]));
+  }
 }
 
 void TKTCustomObjectInspector::CustomPreset(TKTPropertyPreset* preset, TKTItemProperty* item) {

@@ -92,6 +92,12 @@ bool IsOwnedObject(TObject* object, const TPropInfo& property) {
 
 }  // namespace
 
+/// A property as the list of its class gave it.
+struct TKTCustomObjectInspector::TListedProperty {
+  const TClassInfo* Class;
+  const TPropInfo* Info;
+};
+
 // What a scan does with one level.
 
 void TKTCustomObjectInspector::BuildCommonProperties(TScan& scan, TKTInspectorObjects& objects,
@@ -99,14 +105,15 @@ void TKTCustomObjectInspector::BuildCommonProperties(TScan& scan, TKTInspectorOb
   TObject* first = objects.GetCount() > 0 ? objects.GetItem(0)->GetObjects() : nullptr;
   if (!first) return;
   for (int i = 0; i < objects.GetCount(); ++i) scan.Enter(objects.GetItem(i)->GetObjects());
-  const auto properties = GetPropList(first->ClassType(), FDisplayKinds, IsSorted() ? poSorted : poDeclared);
+  const TClassInfo* listed = first->ClassType();
+  const auto properties = GetPropList(listed, FDisplayKinds, IsSorted() ? poSorted : poDeclared);
   TLevelUpdate level(props);
   const TUpdateBracket bracket(level);
   for (const TPropInfo* property : properties) {
     // What can only be written has nothing to show.
     if (!property->IsReadable() || !IsSharedProperty(objects, *property)) continue;
     const TItemWatch item(props.Add());
-    if (item) BuildProperty(scan, static_cast<TKTItemProperty*>(item.Get()), objects, *property);
+    if (item) BuildProperty(scan, static_cast<TKTItemProperty*>(item.Get()), objects, {listed, property});
     if (!scan.IsGoing() || !level.IsAlive()) return;
     const TKTItemProp* parent = item ? item->GetParent() : nullptr;
     if (!GetArrangeByCategory() || !parent || !parent->GetCategory()) continue;
@@ -123,26 +130,32 @@ void TKTCustomObjectInspector::BuildElements(TScan& scan, TKTInspectorObjects& o
   if (FInplaceCollections && owner->GetPropertyKind() == pkCollection) {
     BuildCollectionItems(scan, objects, *owner);
   } else if (FInplaceTStrings && owner->GetTypeKind() == tkClass) {
-    if (auto* lines = dynamic_cast<TStrings*>(objects.GetItem(0)->GetObjects())) {
-      const TLiveFlag parts(this, FIsListingParts);
-      BuildTStringsItemProperties(*owner, *lines, FInplaceTStringsOptions, FStringsItemFormat);
+    std::vector<TStrings*> lists;
+    for (int i = 0; i < objects.GetCount(); ++i) {
+      if (auto* lines = dynamic_cast<TStrings*>(objects.GetItem(i)->GetObjects())) lists.push_back(lines);
     }
+    const TLiveFlag parts(this, FIsListingParts);
+    if (!lists.empty()) BuildTStringsItemProperties(*owner, lists, FInplaceTStringsOptions, FStringsItemFormat);
   }
 }
 
 // One property.
 
 void TKTCustomObjectInspector::BuildProperty(TScan& scan, TKTItemProperty* item, TKTInspectorObjects& objects,
-                                             const TPropInfo& property) {
+                                             const TListedProperty& listed) {
   const TItemWatch watched(item);
-  item->SetName(property.Name());
+  const QString name = listed.Info->Name();
+  item->SetName(name);
   if (!watched || !scan.IsGoing()) return;
-  item->SetRealPropName(property.Name());
-  if (!objects.GetItem(0)->GetObjects()) return;
+  item->SetRealPropName(name);
+  TObject* first = objects.GetItem(0)->GetObjects();
+  if (!first) return;
+  // What is published may depend on the object, and have changed since.
+  const TPropInfo& property = first->ClassType() == listed.Class ? *listed.Info : *FindPropInfo(first, name);
   item->SetTypeKind(property.Kind());
   item->SetTypeName(property.PropType()->Name());
   FillValues(*item, objects, property);
-  TObject* first = objects.GetItem(0)->GetObjects();
+  first = objects.GetItem(0)->GetObjects();
   if (!watched || !scan.IsGoing() || !first) return;
   const bool isOwned = IsOwnedObject(first, property);
   if (!watched || !scan.IsGoing()) return;
@@ -152,7 +165,7 @@ void TKTCustomObjectInspector::BuildProperty(TScan& scan, TKTItemProperty* item,
     case tkEnumeration:
       return OfferNamesOf(property.PropType(), *item);
     case tkSet:
-      return BuildMembers(*item, property);
+      return BuildMembers(*item, objects, property);
     case tkClass:
     case tkInterface:
       return BuildObjects(scan, *item, objects, property.Name());
@@ -206,10 +219,33 @@ bool TKTCustomObjectInspector::IsSameInAll(TKTItemProperty& item, TKTInspectorOb
 
 // Sets.
 
-void TKTCustomObjectInspector::BuildMembers(TKTItemProperty& set, const TPropInfo& property) {
+namespace {
+
+/// The members, as bits, that are in the sets of all objects or of none.
+qint64 SharedMembers(TKTInspectorObjects& objects, const TPropInfo& property) {
+  qint64 shared = -1;
+  for (int i = 1; i < objects.GetCount(); ++i) {
+    const TPropInfo* own = CounterpartIn(objects, i, property);
+    if (!own) return 0;
+    const qint64 bits = GetOrdProp(objects.GetItem(i)->GetObjects(), own);
+    TObject* first = objects.GetItem(0)->GetObjects();
+    if (!first) return 0;
+    shared &= ~(bits ^ GetOrdProp(first, &property));
+  }
+  return shared;
+}
+
+}  // namespace
+
+void TKTCustomObjectInspector::BuildMembers(TKTItemProperty& set, TKTInspectorObjects& objects,
+                                            const TPropInfo& property) {
   const QStringList names = MemberNames(property.PropType());
   if (names.isEmpty()) return;
   const TItemWatch watched(&set);
+  // Several columns show each object's own.
+  const bool showsEach = IsMultiColumn() && objects.GetCount() > 1;
+  const qint64 shared = showsEach ? 0 : SharedMembers(objects, property);
+  if (!watched) return;
   TKTItemProperties& members = set.GetItems();
   members.SetSorted(false);
   TLevelUpdate level(members);
@@ -223,7 +259,7 @@ void TKTCustomObjectInspector::BuildMembers(TKTItemProperty& set, const TPropInf
     member->SetPropertyKind(pkSetMember);
     member->SetTypeKind(tkEnumeration);
     member->SetTypeName(QStringLiteral("Boolean"));
-    member->SetAllEqual(true);
+    member->SetAllEqual((shared >> ordinal & 1) != 0);
     const std::vector<Variant>& bits = set.GetRealValues();
     std::vector<Variant>& ordinals = member->GetRealValues();
     for (size_t i = 0; i < ordinals.size(); ++i) {

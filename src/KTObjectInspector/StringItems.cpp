@@ -5,6 +5,7 @@
 #include "kt/KTObjectInspector/UpdateLock.h"
 #include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/conversions/TextCompare.h"
 #include "kt/rtl/strings/StringList.h"
 
 #include <algorithm>
@@ -18,7 +19,7 @@ constexpr char16_t kLineTypeName[] = u"TStrings Item";
 /// The property whose lines these are: items in between are parts of a name that holds the path delimiter.
 TKTItemProperty* OwnerOfLines(const TKTItemProperty& line) {
   TKTItemProperty* owner = line.GetParent();
-  while (owner && owner->GetTypeName() == kLineTypeName) owner = owner->GetParent();
+  while (owner && IsStringItem(*owner)) owner = owner->GetParent();
   return owner;
 }
 
@@ -78,17 +79,29 @@ void LetEditValue(TKTItemProperty& item, const QString& name, int index) {
 }
 
 void MarkAsLine(TKTItemProperty* item, const TKTItemProperty& owner) {
-  for (; item && item != &owner && item->GetTypeName() != kLineTypeName; item = item->GetParent()) {
+  for (; item && item != &owner && !IsStringItem(*item); item = item->GetParent()) {
     item->SetTypeName(QString::fromUtf16(kLineTypeName));
     item->SetRealPropName(item->GetName());
     item->SetAllEqual(true);
   }
 }
 
+/// Whether all lists hold `text` as that line, or as the value of that name.
+bool IsInAll(const std::vector<TStrings*>& lists, int index, const QString& name, const QString& text) {
+  return std::all_of(lists.begin(), lists.end(), [&](TStrings* lines) {
+    const int line = name.isEmpty() ? index : LineOf(*lines, name, index);
+    if (line < 0 || line >= lines->GetCount()) return false;
+    return AnsiSameText(name.isEmpty() ? lines->GetStrings(line) : lines->GetValueFromIndex(line), text);
+  });
+}
+
 }  // namespace
 
-void BuildTStringsItemProperties(TKTItemProperty& item, TStrings& lines, TInplaceTStringsOptions options,
-                                 const QString& format) {
+bool IsStringItem(const TKTItemProperty& item) { return item.GetTypeName() == kLineTypeName; }
+
+void BuildTStringsItemProperties(TKTItemProperty& item, const std::vector<TStrings*>& lists,
+                                 TInplaceTStringsOptions options, const QString& format) {
+  TStrings& lines = *lists[0];
   TKTItemProperties& items = item.GetItems();
   items.SetSorted(options.Has(isSort));
   TLevelUpdate level(items);
@@ -108,7 +121,9 @@ void BuildTStringsItemProperties(TKTItemProperty& item, TStrings& lines, TInplac
     }
     if (!line || !level.IsAlive()) return;
     MarkAsLine(line, item);
-    line->SetValueLine(0, name.isEmpty() ? lines.GetStrings(i) : lines.GetValueFromIndex(i));
+    const QString text = name.isEmpty() ? lines.GetStrings(i) : lines.GetValueFromIndex(i);
+    line->SetAllEqual(IsInAll(lists, i, name, text));
+    line->SetValueLine(0, text);
     if (!level.IsAlive()) return;
   }
 }

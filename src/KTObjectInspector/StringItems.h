@@ -2,13 +2,21 @@
 
 #include "kt/KTObjectInspector/InspectorTypes.h"
 
+#include <vector>
+
 namespace kt {
 
 class TStrings;
 
-/// Adds an item for each line of `lines` below the property that they belong to. What is written to such an item goes
-/// into the line of that number, or into the value of that name, of the lists of all inspected objects.
-void BuildTStringsItemProperties(TKTItemProperty& item, TStrings& lines, TInplaceTStringsOptions options,
-                                 const QString& format);
+class TKTItemProperty;
+
+/// Adds an item for each line of the first of `lists` below the property that they belong to. What is written to such
+/// an item goes into the line of that number, or into the value of that name, of the lists of all inspected objects,
+/// which are `lists`.
+void BuildTStringsItemProperties(TKTItemProperty& item, const std::vector<TStrings*>& lists,
+                                 TInplaceTStringsOptions options, const QString& format);
+
+/// Whether an item is one of these, or stands for a part of the name of one.
+bool IsStringItem(const TKTItemProperty& item);
 
 }  // namespace kt

@@ -139,5 +139,38 @@ TEST_F(InspectorStringsTest, ALineOfSeveralObjectsIsWrittenToAllThatHaveIt) {
   EXPECT_EQ("x", FOther->GetLines().GetCommaText());
 }
 
+TEST_F(InspectorStringsTest, ALineIsTheSameWhereAllObjectsHaveItWithoutRegardToCase) {
+  FHolder->GetLines().SetCommaText("a,b,c");
+  FOther->GetLines().SetCommaText("A,x");
+  FInspector->SetInplaceTStrings(true);
+  Inspect({FHolder.get(), FOther.get()});
+  EXPECT_TRUE(Item("Lines.Items[0]").IsAllEqual());
+  EXPECT_FALSE(Item("Lines.Items[1]").IsAllEqual());
+  EXPECT_FALSE(Item("Lines.Items[2]").IsAllEqual());
+}
+
+TEST_F(InspectorStringsTest, AValueIsTheSameWhereAllObjectsHaveItUnderThatName) {
+  FHolder->GetLines().SetCommaText("a=1,b=2,c=3");
+  FOther->GetLines().SetCommaText("b=2,a=7");
+  FInspector->SetInplaceTStringsOptions({isUseNameValue});
+  FInspector->SetInplaceTStrings(true);
+  Inspect({FHolder.get(), FOther.get()});
+  EXPECT_FALSE(Item("Lines.a").IsAllEqual());
+  EXPECT_TRUE(Item("Lines.b").IsAllEqual());
+  EXPECT_FALSE(Item("Lines.c").IsAllEqual());
+}
+
+TEST_F(InspectorStringsTest, LinesBelowASecondCategoryAreWrittenAndRefreshedToo) {
+  Items().GetCategories().Add("Lines=One");
+  Items().GetCategories().Add("Lines=Two");
+  FInspector->SetArrangeByCategory(true);
+  InspectLines("a,b");
+  Edit("Two.Lines.Items[1]", "y");
+  EXPECT_EQ("a,y", Lines());
+  FInspector->RefreshProperties();
+  EXPECT_EQ("y", Value("One.Lines.Items[1]"));
+  EXPECT_EQ("a", Value("Two.Lines.Items[0]"));
+}
+
 }  // namespace
 }  // namespace kt::tests
