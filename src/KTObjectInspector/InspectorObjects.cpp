@@ -1,13 +1,26 @@
 #include "kt/KTObjectInspector/InspectorObjects.h"
 
 #include "kt/KTObjectInspector/ObjectInspector.h"
+#include "kt/KTObjectInspector/UpdateLock.h"
 #include "kt/rtl/collections/UpdateBracket.h"
+#include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/LifeWatch.h"
+#include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 
-#include <vector>
+#include <exception>
 
 namespace kt {
+
+namespace {
+
+using TObjectsUpdate = TLivingUpdate<TKTInspectorObjects>;
+
+void CheckAlive(const TLifeWatch& watch) {
+  if (!watch.IsAlive()) throw EInvalidOperation(SObjectFreed.toString());
+}
+
+}  // namespace
 
 const TClassInfo* TKTInspectorObjects::Class() {
   static const TClassInfo info = TClassBuilder<TKTInspectorObjects>("TKTInspectorObjects").Done();
@@ -39,7 +52,8 @@ int TKTInspectorObjects::IndexOfOwner(const TComponent* owner) const {
 
 TKTInspectorObject* TKTInspectorObjects::Add(TObject* object) {
   const TObjectRef watched(object);
-  const TUpdateBracket bracket(*this);
+  TObjectsUpdate update(*this);
+  const TUpdateBracket bracket(update);
   // A handler of the change may have freed the object meanwhile; there is nothing to inspect then.
   const int index = IndexOf(watched.Get());
   TKTInspectorObject* entry = index < 0 ? Add() : GetItem(index);
@@ -48,25 +62,67 @@ TKTInspectorObject* TKTInspectorObjects::Add(TObject* object) {
 }
 
 TKTInspectorObject* TKTInspectorObjects::Add(TComponent* owner, TObject* object) {
-  TKTInspectorObject* entry = Add(object);
-  entry->SetOwnerComponent(owner);
+  const TObjectRef watchedOwner(owner);
+  const TObjectRef watched(object);
+  TObjectsUpdate update(*this);
+  const TUpdateBracket bracket(update);
+  TKTInspectorObject* entry = Add(watched.Get());
+  entry->SetOwnerComponent(static_cast<TComponent*>(watchedOwner.Get()));
   return entry;
 }
 
-int TKTInspectorObjects::Remove(const TObject* object) {
+/// The first entry that has the object as its own or as its owner component, or -1.
+int TKTInspectorObjects::IndexNaming(const TObject* object) const {
   for (int i = 0; i < GetCount(); ++i) {
-    if (GetItem(i)->GetObjects() != object && GetItem(i)->GetOwnerComponent() != object) continue;
-    const TObjectRef entry(GetItem(i));
-    const TUpdateBracket bracket(*this);
-    // Whoever heard of the coming change may have removed it already.
-    if (entry) Delete(static_cast<TKTInspectorObject*>(entry.Get())->GetIndex());
-    return i;
+    if (GetItem(i)->GetObjects() == object || GetItem(i)->GetOwnerComponent() == object) return i;
   }
   return -1;
 }
 
+int TKTInspectorObjects::Remove(const TObject* object) {
+  const int index = IndexNaming(object);
+  if (index < 0) return -1;
+  const TObjectRef entry(GetItem(index));
+  TObjectsUpdate update(*this);
+  const TUpdateBracket bracket(update);
+  // Whoever heard of the coming change may have removed it already.
+  if (entry) Delete(static_cast<TKTInspectorObject*>(entry.Get())->GetIndex());
+  return index;
+}
+
+/// The inspector has been told that the objects are about to change.
+void TKTInspectorObjects::RemoveAll(const TComponent* named) {
+  struct TToldUpdate {
+    TKTInspectorObjects& Objects;
+    TLifeWatch Life{&Objects};
+    void BeginUpdate() { Objects.TOwnedCollection::BeginUpdate(); }
+    void EndUpdate() {
+      if (Life.IsAlive()) Objects.EndUpdate();
+    }
+  } update{*this};
+  const TUpdateBracket bracket(update);
+  for (int i = IndexNaming(named); i >= 0; i = update.Life.IsAlive() ? IndexNaming(named) : -1) Delete(i);
+}
+
+void TKTInspectorObjects::LetGo(const TComponent* dying) {
+  if (IndexNaming(dying) < 0) return;
+  const TLifeWatch self(this);
+  std::exception_ptr refusal;
+  try {
+    Changing(nullptr);
+  } catch (...) {
+    // An open editor that could not write what was typed, perhaps. The component dies all the same.
+    refusal = std::current_exception();
+  }
+  if (self.IsAlive()) RemoveAll(dying);
+  if (refusal) std::rethrow_exception(refusal);
+}
+
 void TKTInspectorObjects::AssignNonEmpty(TKTInspectorObjects& source) {
-  const TUpdateBracket bracket(*this);
+  const TLifeWatch watchOfSource(&source);
+  TObjectsUpdate update(*this);
+  const TUpdateBracket bracket(update);
+  CheckAlive(watchOfSource);
   Clear();
   for (int i = 0; i < source.GetCount(); ++i) {
     if (source.GetItem(i)->GetObjects()) Add()->Assign(source.GetItem(i));
@@ -79,7 +135,9 @@ void TKTInspectorObjects::Changing(TKTInspectorObject*) {
 }
 
 void TKTInspectorObjects::BeginUpdate() {
+  const TLifeWatch self(this);
   Changing(nullptr);
+  CheckAlive(self);
   TOwnedCollection::BeginUpdate();
 }
 

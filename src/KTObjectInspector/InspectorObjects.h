@@ -33,6 +33,9 @@ class TKTInspectorObjects : public TOwnedCollection {
   /// Deletes the first entry, and no other, that has the object as its own or as its owner component; answers where it
   /// was, or -1.
   int Remove(const TObject* object);
+  /// Deletes every entry that has a dying component as its object or as its owner component, whatever the inspector's
+  /// handlers make of it; what they raise is raised afterwards.
+  void LetGo(const TComponent* dying);
   /// Copies the entries that refer to an object.
   void AssignNonEmpty(TKTInspectorObjects& source);
 
@@ -40,7 +43,8 @@ class TKTInspectorObjects : public TOwnedCollection {
   TComponent* NotifyComponent() const;
   /// The owner when it is an inspector.
   TKTCustomObjectInspector* GetInspector() const;
-  /// First tells the inspector that the objects are about to change.
+  /// First tells the inspector that the objects are about to change. Raises EInvalidOperation "An object was freed
+  /// while it was in use" when a handler of that frees it.
   void BeginUpdate() override;
 
  protected:
@@ -49,6 +53,8 @@ class TKTInspectorObjects : public TOwnedCollection {
   /// `owner` may be null.
   explicit TKTInspectorObjects(TPersistent* owner);
 
+  int IndexNaming(const TObject* object) const;
+  void RemoveAll(const TComponent* named);
   /// Before a change; silent in an update bracket.
   void Changing(TKTInspectorObject* item);
   void Update(TCollectionItem* item) override;

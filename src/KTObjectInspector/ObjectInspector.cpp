@@ -105,7 +105,7 @@ void TKTCustomObjectInspector::SetInspectedComponent(TComponent* value) {
 void TKTCustomObjectInspector::Notification(TComponent* component, TOperation operation) {
   const TLifeWatch self(this);
   TKTCustomItemListEditor::Notification(component, operation);
-  while (self.IsAlive() && operation == opRemove && FObjects && FObjects->Remove(component) >= 0) continue;
+  if (self.IsAlive() && operation == opRemove && FObjects) FObjects->LetGo(component);
 }
 
 // Streams.

@@ -21,10 +21,11 @@ class TInspectorLock {
   TLifeWatch FLife;
 };
 
-/// The update bracket of a level that handlers may free.
-class TLevelUpdate {
+/// The update bracket of a collection that handlers may free.
+template <class T>
+class TLivingUpdate {
  public:
-  explicit TLevelUpdate(TKTItemProperties& items) : FItems(items), FLife(&items) {}
+  explicit TLivingUpdate(T& items) : FItems(items), FLife(&items) {}
 
   bool IsAlive() const { return FLife.IsAlive(); }
   void BeginUpdate() { FItems.BeginUpdate(); }
@@ -33,8 +34,10 @@ class TLevelUpdate {
   }
 
  private:
-  TKTItemProperties& FItems;
+  T& FItems;
   TLifeWatch FLife;
 };
+
+using TLevelUpdate = TLivingUpdate<TKTItemProperties>;
 
 }  // namespace kt

@@ -1,6 +1,7 @@
 #include "KTObjectInspector/InspectorFixture.h"
 #include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/vcl/graphics/Font.h"
+#include "kt/vcl/menus/PopupMenu.h"
 
 namespace kt::tests {
 namespace {
@@ -92,11 +93,28 @@ TEST_F(InspectorObjectsTest, AComponentThatDiesTakesItsEntryAlong) {
   EXPECT_EQ(FSecond.get(), Objects().GetItem(0)->GetObjects());
 }
 
-TEST_F(InspectorObjectsTest, AReplacedComponentIsNotWatchedAnyMore) {
+TEST_F(InspectorObjectsTest, AReplacedComponentLeavesTheListAloneWhenItDies) {
+  const auto third = Make<TSample>();
   Objects().Add(FFirst.get());
+  Objects().Add(third.get());
   Objects().GetItem(0)->SetObjects(FSecond.get());
+  TakeLog();
   FFirst.reset();
-  EXPECT_EQ(1, Objects().GetCount());
+  EXPECT_EQ("", TakeLog());
+  ASSERT_EQ(2, Objects().GetCount());
+  EXPECT_EQ(FSecond.get(), Objects().GetItem(0)->GetObjects());
+  EXPECT_EQ(third.get(), Objects().GetItem(1)->GetObjects());
+}
+
+TEST_F(InspectorObjectsTest, TheInspectorsMenuMayBeInspectedReplacedAndFreed) {
+  auto menu = Make<TPopupMenu>();
+  FInspector->SetPopupMenu(menu.get());
+  Objects().Add(menu.get());
+  FInspector->SetInspectedComponent(FFirst.get());
+  menu.reset();
+  EXPECT_EQ(nullptr, FInspector->GetPopupMenu());
+  ASSERT_EQ(1, Objects().GetCount());
+  EXPECT_EQ(FFirst.get(), FInspector->GetInspectedComponent());
 }
 
 TEST_F(InspectorObjectsTest, AComponentThatIsStillTheOwnerOfAnEntryStaysWatched) {
