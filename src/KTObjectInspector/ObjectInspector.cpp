@@ -6,7 +6,9 @@
 #include "kt/KTPropertyPresets/PropertyPresets.h"
 #include "kt/ktcommon/SpecialFiler.h"
 #include "kt/rtl/collections/UpdateBracket.h"
+#include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/LifeWatch.h"
+#include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/streams/Reader.h"
 #include "kt/rtl/streams/Writer.h"
 #include "kt/rtl/strings/StringList.h"
@@ -137,25 +139,48 @@ void TKTCustomObjectInspector::StoreItemsProperty(TWriter& writer) { writer.Writ
 
 void TKTCustomObjectInspector::Assign(TPersistent* source) {
   if (auto* other = dynamic_cast<TKTCustomObjectInspector*>(source); other && other != this) {
-    FCollectionItemFormat = other->FCollectionItemFormat;
-    FShowValueChangedFont = other->FShowValueChangedFont;
-    FInplaceCollections = other->FInplaceCollections;
-    FInplaceComponents = other->FInplaceComponents;
-    FInplaceTStrings = other->FInplaceTStrings;
-    FInplaceTStringsOptions = other->FInplaceTStringsOptions;
-    FStringsItemFormat = other->FStringsItemFormat;
-    FDisplayKinds = other->FDisplayKinds;
-    FDynamicTitleCaptions = other->FDynamicTitleCaptions;
-    FFilters->Assign(other->FFilters.get());
-    FPresets->Assign(other->FPresets.get());
-    FObjects->Assign(other->FObjects.get());
-    FFiltersEnabled = other->FFiltersEnabled;
-    FFilterOptions = other->FFilterOptions;
-    FFilters->Assign(other->FFilters.get());
-    FValueChangedFont->Assign(other->FValueChangedFont.get());
+    CopyInspector(*other);
   }
   // Deliberately not the inherited one, and also after the copy.
   TPersistent::Assign(source);
+}
+
+/// Whoever hears of a change may free either inspector; there is nobody to go on with, then.
+void TKTCustomObjectInspector::CopyInspector(TKTCustomObjectInspector& other) {
+  const TLifeWatch self(this);
+  const TLifeWatch watchOfOther(&other);
+  const auto checkBoth = [&] {
+    if (!self.IsAlive() || !watchOfOther.IsAlive()) throw EInvalidOperation(SObjectFreed.toString());
+  };
+  const auto copyFilters = [&] {
+    // The lines are copied out first: the other list may go before it is read.
+    const auto filters = Make<TStringList>();
+    filters->Assign(other.FFilters.get());
+    FFilters->Assign(filters.get());
+    checkBoth();
+  };
+  CopySettings(other);
+  copyFilters();
+  FPresets->Assign(other.FPresets.get());
+  checkBoth();
+  FObjects->Assign(other.FObjects.get());
+  checkBoth();
+  FFiltersEnabled = other.FFiltersEnabled;
+  FFilterOptions = other.FFilterOptions;
+  copyFilters();
+  FValueChangedFont->Assign(other.FValueChangedFont.get());
+}
+
+void TKTCustomObjectInspector::CopySettings(const TKTCustomObjectInspector& other) {
+  FCollectionItemFormat = other.FCollectionItemFormat;
+  FShowValueChangedFont = other.FShowValueChangedFont;
+  FInplaceCollections = other.FInplaceCollections;
+  FInplaceComponents = other.FInplaceComponents;
+  FInplaceTStrings = other.FInplaceTStrings;
+  FInplaceTStringsOptions = other.FInplaceTStringsOptions;
+  FStringsItemFormat = other.FStringsItemFormat;
+  FDisplayKinds = other.FDisplayKinds;
+  FDynamicTitleCaptions = other.FDynamicTitleCaptions;
 }
 
 // Messages.

@@ -238,6 +238,8 @@ class TKTCustomObjectInspector : public TKTCustomItemListEditor {
   bool RefreshItems(TKTItemProperties& items);
   void ReloadEditor();
   void ValueChangedFontChanged(TObject*);
+  void CopyInspector(TKTCustomObjectInspector& other);
+  void CopySettings(const TKTCustomObjectInspector& other);
   void LoadItemsProperty(TReader& reader);
   void StoreItemsProperty(TWriter& writer);
   QString DynamicTitle(int column) const;
