@@ -238,6 +238,7 @@ class TKTCustomObjectInspector : public TKTCustomItemListEditor {
   bool RefreshItems(TKTItemProperties& items);
   void ReloadEditor();
   void ValueChangedFontChanged(TObject*);
+  void EndScanUpdates();
   void CopyInspector(TKTCustomObjectInspector& other);
   void CopySettings(const TKTCustomObjectInspector& other);
   void LoadItemsProperty(TReader& reader);
@@ -260,6 +261,8 @@ class TKTCustomObjectInspector : public TKTCustomItemListEditor {
   bool FIsConstructing = true;
   bool FIsScanPending = false;
   bool FIsScanPosted = false;
+  /// Somebody has asked for a scan inside one.
+  bool FIsScanAwaited = false;
   /// What is named now is part of a property: the member of a set, the element of a collection, a line.
   bool FIsListingParts = false;
   bool FInplaceCollections = false;

@@ -73,16 +73,32 @@ void TKTCustomObjectInspector::AfterScan(TKTItemProperty* item) {
   const TItemWatch watched(item);
   if (!item) {
     FIsScanPending = false;
-    if (IsEditUpdateLocked()) EnableEditUpdate();
-    if (self.IsAlive() && GetItems().GetUpdateCount() > 0) GetItems().EndUpdate();
+    EndScanUpdates();
   }
   if (self.IsAlive()) OnAfterScan(this, static_cast<TKTItemProperty*>(watched.Get()));
+}
+
+/// Each, whatever the other raises.
+void TKTCustomObjectInspector::EndScanUpdates() {
+  struct TItemsUpdate {
+    TKTCustomObjectInspector& Inspector;
+    TLifeWatch Life{&Inspector};
+    void BeginUpdate() {}
+    void EndUpdate() {
+      if (Life.IsAlive() && Inspector.GetItems().GetUpdateCount() > 0) Inspector.GetItems().EndUpdate();
+    }
+  } update{*this};
+  const TUpdateBracket bracket(update);
+  if (IsEditUpdateLocked()) EnableEditUpdate();
 }
 
 void TKTCustomObjectInspector::Rescan() {
   if (HasState(csLoading) || HasState(csDestroying) || IsUpdatingObjects()) return;
   // Whoever asks from inside a scan gets one when that is done.
-  if (FScan) return InvalidateScan();
+  if (FScan) {
+    FIsScanAwaited = true;
+    return;
+  }
   const TLifeWatch self(this);
   KeepSelected();
   KeepView();
@@ -92,14 +108,14 @@ void TKTCustomObjectInspector::Rescan() {
   FIsScanPending = isWanted;
   try {
     GetItems().Clear();
-    if (FIsScanPending && scan.IsGoing()) ScanProperties();
+    if (scan.IsGoing() && FIsScanPending) ScanProperties();
     if (self.IsAlive()) RestoreExpansion();
     if (self.IsAlive()) Refresh();
   } catch (...) {
     const std::exception_ptr error = std::current_exception();
     try {
       if (self.IsAlive()) AfterScan(nullptr);
-    } catch (const Exception&) {
+    } catch (...) {
       // The first exception is the one that tells what went wrong.
     }
     std::rethrow_exception(error);

@@ -4,6 +4,7 @@
 #include "kt/rtl/objects/LifeWatch.h"
 
 #include <unordered_set>
+#include <utility>
 
 namespace kt {
 
@@ -16,7 +17,10 @@ class TKTCustomObjectInspector::TScan {
     inspector.FScan = this;
   }
   ~TScan() {
-    if (FLife.IsAlive()) FInspector.FScan = FOuter;
+    if (!FLife.IsAlive()) return;
+    FInspector.FScan = FOuter;
+    // Not before: an event loop inside the scan would have nothing to do but to put the request off again.
+    if (!FOuter && std::exchange(FInspector.FIsScanAwaited, false)) FInspector.InvalidateScan();
   }
   TScan(const TScan&) = delete;
   TScan& operator=(const TScan&) = delete;
