@@ -58,7 +58,8 @@ void TKTCustomItemListEditor::CopyTo(TKTItemProp& item, TKTItemProp* category) {
 void TKTCustomItemListEditor::Categorize(TKTItemProp* item, TStrings& categoryMap, bool multipleCategories) {
   const TItemWatch watched(item);
   const int line = IndexOfName(categoryMap, 0, item->GetName());
-  TKTItemProp* category = Categorize(item, item->GetName(), categoryMap);
+  // By a name of its own: the handler that is asked may free the item.
+  TKTItemProp* category = Categorize(item, QString(item->GetName()), categoryMap);
   // While loading, what is there stays where it is.
   if (!category || !watched || HasState(csLoading)) return;
   if (multipleCategories) {
@@ -105,7 +106,7 @@ void TKTCustomItemListEditor::Categorize(TStrings& categoryMap, bool) {
   for (int i = 0; i < snapshot.Count(); ++i) {
     TKTItemProp* item = snapshot[i];
     if (!item || item->GetCategory()) continue;
-    TKTItemProp* category = Categorize(item, item->GetName(), categoryMap);
+    TKTItemProp* category = Categorize(item, QString(item->GetName()), categoryMap);
     if (snapshot[i] && category) MoveTo(*item, category);
   }
 }

@@ -1,5 +1,6 @@
 // How the cells of an item list editor are drawn.
 #include "kt/KTItemListEditor/ItemListEditor.h"
+#include "kt/KTItemListEditor/ItemWatch.h"
 #include "kt/vcl/graphics/ExpandSign.h"
 
 namespace kt {
@@ -14,8 +15,8 @@ constexpr int kTextInset = 2;
 void TKTCustomItemListEditor::DrawCell(int col, int row, const QRect& rect, TGridDrawState state) {
   if (!IsDefaultDrawing()) return TCustomDrawGrid::DrawCell(col, row, rect, state);
   const TGridInfo info = GetGridInfo(col, row);
-  TKTItemProp* item = FindItemProp(col, row, true);
-  UseCellFont(info, item);
+  const TItemWatch item(FindItemProp(col, row, true));
+  UseCellFont(info, item.Get());
   QRect inner = rect;
   if (item && info.Field == 0) Indent(*item, inner);
   if (col == GetCol() && row == GetRow()) UseSelectionColors(inner, state);
@@ -26,8 +27,10 @@ void TKTCustomItemListEditor::DrawCell(int col, int row, const QRect& rect, TGri
 void TKTCustomItemListEditor::UseCellFont(const TGridInfo& info, TKTItemProp* item) {
   TCanvas& canvas = GetCanvas();
   if (item) {
+    const TItemWatch watched(item);
     canvas.SetFont(info.Field == 0 ? &item->FontToDraw() : &item->IndividualValueFontToDraw(info.Field - 1));
-    if (!item->GetEnabled()) canvas.GetFont().SetColor(clInactiveCaptionText);
+    // What decides of the font may have freed the item.
+    if (watched && !item->GetEnabled()) canvas.GetFont().SetColor(clInactiveCaptionText);
   } else if (info.Line < info.FixedLines) {
     canvas.SetFont(FTitleCaptionFont.get());
   } else {

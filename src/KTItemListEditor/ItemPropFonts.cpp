@@ -59,11 +59,14 @@ TFont& TKTItemProp::GetIndividualValueFont(int) { return GetValueFont(); }
 /// The getters can be overridden, and so have to be asked themselves.
 template <class F>
 TFont& TKTItemProp::Look(F get) {
+  // An override that asks others for what decides may lose the item on the way.
   struct TLooking {
-    TKTItemProp& Item;
-    bool Before = Item.FIsLooking;
-    ~TLooking() { Item.FIsLooking = Before; }
-  } looking{*this};
+    TItemWatch Item;
+    bool Before = Item->FIsLooking;
+    ~TLooking() {
+      if (Item) Item->FIsLooking = Before;
+    }
+  } looking{TItemWatch(this)};
   FIsLooking = true;
   return get();
 }

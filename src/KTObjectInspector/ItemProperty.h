@@ -161,6 +161,7 @@ class TKTItemProperty : public TKTItemProp {
   bool RefreshValues(TKTCustomObjectInspector& inspector);
   bool RefreshValueOf(TKTCustomObjectInspector& inspector, int index);
   QString MemberText(int index);
+  int ElementNumber(int index);
   TCollectionItem* ElementIn(TObject* instance, int index);
   void TellRefreshed();
   bool HasRefreshableValue() const;

@@ -87,12 +87,10 @@ TObject* TKTItemProperty::GetObjectProperty(int index) {
     return ReadProperty<TObject*>(index,
                                   [](TObject* holder, const QString& name) { return GetObjectProp(holder, name); });
   }
+  const TItemWatch self(this);
   TKTItemProperty* owner = GetParentItem(pkCollection);
   auto* collection = owner ? dynamic_cast<TCollection*>(owner->GetObjectProperty(-1)) : nullptr;
-  const std::vector<Variant>& values = GetRealValues();
-  if (!collection || values.empty() || values[0].IsEmpty()) return nullptr;
-  const int element = values[0].ToInt();
-  return element >= 0 && element < collection->GetCount() ? collection->GetItem(element) : nullptr;
+  return self ? ElementIn(collection, 0) : nullptr;
 }
 
 const TClassInfo* TKTItemProperty::GetObjectPropertyClass() {
@@ -153,13 +151,15 @@ void TKTItemProperty::SetOrdProperty(qint64 value, int index) {
 }
 
 void TKTItemProperty::SetStringProperty(const QString& value, int index) {
-  WriteProperty(index, tkLString, value,
-                [&](TObject* holder, const QString& name) { SetStrProp(holder, name, value); });
+  // A text of its own: `value` may be one of the item's, which a handler may free.
+  const QString text = value;
+  WriteProperty(index, tkLString, text, [&](TObject* holder, const QString& name) { SetStrProp(holder, name, text); });
 }
 
 void TKTItemProperty::SetVariantProperty(const Variant& value, int index) {
-  WriteProperty(index, tkVariant, VarToStr(value),
-                [&](TObject* holder, const QString& name) { SetVariantProp(holder, name, value); });
+  const Variant own = value;
+  WriteProperty(index, tkVariant, VarToStr(own),
+                [&](TObject* holder, const QString& name) { SetVariantProp(holder, name, own); });
 }
 
 }  // namespace kt

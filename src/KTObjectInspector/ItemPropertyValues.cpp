@@ -60,9 +60,12 @@ bool TKTItemProperty::RefreshValueOf(TKTCustomObjectInspector& inspector, int in
   const TItemWatch self(this);
   QString name = GetFullPathPropName();
   const TObjectRef instance(inspector.GetInstance(inspector.GetObjects().GetItem(index)->GetObjects(), name, this));
+  // A getter on the way may have freed the item.
+  if (!self) return false;
   if (const TKTItemGetPropertyEvent handler = GetOnGetProperty()) {
     QString text = name;
-    handler(this, instance.Get(), FRealPropName, text);
+    // By a name of its own: the handler may free the item.
+    handler(this, instance.Get(), QString(FRealPropName), text);
     if (self) SetValueLine(index, text);
     return bool(self);
   }
@@ -93,12 +96,18 @@ QString TKTItemProperty::MemberText(int index) {
   return has ? QStringLiteral("True") : QStringLiteral("False");
 }
 
+/// The number of the element that the item stands for; -1 when it is not known.
+int TKTItemProperty::ElementNumber(int index) {
+  const std::vector<Variant>& values = GetRealValues();
+  const bool isKnown = static_cast<size_t>(index) < values.size() && !values[static_cast<size_t>(index)].IsEmpty();
+  return isKnown ? values[static_cast<size_t>(index)].ToInt() : -1;
+}
+
 /// The element that the item stands for, in the collection that `instance` is; null when there is none any more.
 TCollectionItem* TKTItemProperty::ElementIn(TObject* instance, int index) {
   auto* collection = dynamic_cast<TCollection*>(instance);
-  const std::vector<Variant>& values = GetRealValues();
-  if (!collection || static_cast<size_t>(index) >= values.size()) return nullptr;
-  const int element = values[static_cast<size_t>(index)].ToInt();
+  if (!collection) return nullptr;
+  const int element = ElementNumber(index);
   return element >= 0 && element < collection->GetCount() ? collection->GetItem(element) : nullptr;
 }
 
@@ -168,7 +177,9 @@ void TKTItemProperty::DoValidateError(const Exception& error) {
 bool TKTItemProperty::IsModified() {
   const TKTCustomObjectInspector* inspector = GetEditor();
   if (!inspector || !inspector->IsMultiColumn()) return IsModified(0);
-  for (int i = 0; i < inspector->GetObjects().GetCount(); ++i) {
+  const TItemWatch self(this);
+  const TLifeWatch watchOfInspector(inspector);
+  for (int i = 0; self && watchOfInspector.IsAlive() && i < inspector->GetObjects().GetCount(); ++i) {
     if (IsModified(i)) return true;
   }
   return false;
@@ -183,7 +194,8 @@ bool TKTItemProperty::IsModified(int index) {
 
 bool TKTItemProperty::IsModifiedIn(TObject* instance, int index) {
   const TPropInfo* property = GetPropInfo(instance, FRealPropName);
-  if (!property || !property->IsStored(*instance)) return false;
+  const TItemWatch self(this);
+  if (!property || !property->IsStored(*instance) || !self) return false;
   switch (property->Kind()) {
     case tkString:
     case tkLString:
@@ -209,7 +221,14 @@ TFont& TKTItemProperty::GetIndividualValueFont(int index) {
   TKTCustomObjectInspector* inspector = GetEditor();
   const bool marks = inspector && !inspector->HasState(csDesigning) && inspector->GetShowValueChangedFont() &&
                      inspector->GetObjects().GetCount() > 0 && FIsRealProperty;
+  const TItemWatch self(this);
+  const TLifeWatch watchOfInspector(inspector);
   const bool isChanged = marks && (inspector->IsMultiColumn() ? IsModified(index) : IsModified());
+  if (!self) {
+    // Getters on the way to the value have freed the item; what is left is what a value without item looks like.
+    if (!watchOfInspector.IsAlive()) throw EInvalidOperation(SObjectFreed.toString());
+    return inspector->GetValueFont();
+  }
   return isChanged ? inspector->GetValueChangedFont() : TKTItemProp::GetIndividualValueFont(index);
 }
 

@@ -217,8 +217,9 @@ class TKTCustomObjectInspector : public TKTCustomItemListEditor {
   void RemoveFilterProperties();
   bool IsFiltered(TKTItemProperty& item);
   /// The object that the last name of a path belongs to, on the way from `object` along the ancestors of `item`; that
-  /// name is what is left of `path`. Null when the path leads nowhere.
-  TObject* GetInstance(TObject* object, QString& path, const TKTItemProperty* item) const;
+  /// name is what is left of `path`. Null when the path leads nowhere, or when a getter on it frees the item or the
+  /// inspector.
+  TObject* GetInstance(TObject* object, QString& path, TKTItemProperty* item) const;
   QString GetPropertyValue(TObject* instance, TKTItemProperty* item);
   QString GetPropertyValue(TObject* instance, TKTItemProperty* item, const TPropInfo* property);
 

@@ -130,9 +130,9 @@ void TKTCustomObjectInspector::BuildElements(TScan& scan, TKTInspectorObjects& o
   if (FInplaceCollections && owner->GetPropertyKind() == pkCollection) {
     BuildCollectionItems(scan, objects, *owner);
   } else if (FInplaceTStrings && owner->GetTypeKind() == tkClass) {
-    std::vector<TStrings*> lists;
+    std::vector<TObjectRef> lists;
     for (int i = 0; i < objects.GetCount(); ++i) {
-      if (auto* lines = dynamic_cast<TStrings*>(objects.GetItem(i)->GetObjects())) lists.push_back(lines);
+      if (auto* lines = dynamic_cast<TStrings*>(objects.GetItem(i)->GetObjects())) lists.emplace_back(lines);
     }
     const TLiveFlag parts(this, FIsListingParts);
     if (!lists.empty()) BuildTStringsItemProperties(*owner, lists, FInplaceTStringsOptions, FStringsItemFormat);
@@ -154,6 +154,7 @@ void TKTCustomObjectInspector::BuildProperty(TScan& scan, TKTItemProperty* item,
   const TPropInfo& property = first->ClassType() == listed.Class ? *listed.Info : *FindPropInfo(first, name);
   item->SetTypeKind(property.Kind());
   item->SetTypeName(property.PropType()->Name());
+  if (!watched || !scan.IsGoing()) return;
   FillValues(*item, objects, property);
   first = objects.GetItem(0)->GetObjects();
   if (!watched || !scan.IsGoing() || !first) return;
@@ -183,7 +184,8 @@ void TKTCustomObjectInspector::FillValues(TKTItemProperty& item, TKTInspectorObj
   // Getters may do anything.
   if (!watched) return;
   item.SetPropertyKind(isCollection ? pkCollection : kind == tkSet ? pkSet : pkNormal);
-  item.SetIsRealProperty(kind != tkInterface);
+  if (watched) item.SetIsRealProperty(kind != tkInterface);
+  if (!watched) return;
   const int count = IsMultiColumn() ? objects.GetCount() : 1;
   for (int i = 0; i < count; ++i) {
     const TObjectRef object(objects.GetItem(i)->GetObjects());
@@ -196,6 +198,7 @@ void TKTCustomObjectInspector::FillValues(TKTItemProperty& item, TKTInspectorObj
     const QString text = GetPropertyValue(object.Get(), &item, own);
     if (!watched) return;
     item.SetValueLine(i, text);
+    if (!watched) return;
   }
   if (!objects.GetItem(0)->GetObjects()) return;
   const bool isSame = IsSameInAll(item, objects, property);
@@ -283,6 +286,7 @@ TObject* TKTCustomObjectInspector::ObjectToEnter(const TScan& scan, TObject* obj
     value = FInplaceComponents ? ComponentBehind(GetInterfaceProp(object, property)) : nullptr;
   } else {
     value = GetObjectProp(object, property);
+    if (!scan.IsGoing()) return nullptr;
     if (dynamic_cast<TStrings*>(value) && !FInplaceTStrings) return nullptr;
     if (dynamic_cast<TComponent*>(value) && !FInplaceComponents) return nullptr;
   }
@@ -291,11 +295,12 @@ TObject* TKTCustomObjectInspector::ObjectToEnter(const TScan& scan, TObject* obj
 
 void TKTCustomObjectInspector::BuildObjects(TScan& scan, TKTItemProperty& item, TKTInspectorObjects& objects,
                                             const QString& name) {
+  const TItemWatch watched(&item);
   const auto below = Make<TKTInspectorObjects>(nullptr);
   for (int i = 0; i < objects.GetCount(); ++i) {
     TObject* object = ObjectToEnter(scan, objects.GetItem(i)->GetObjects(), name);
-    // Only what every object has is listed below it.
-    if (!object) return;
+    // Only what every object has is listed below it, and nothing once a getter has ended the scan.
+    if (!object || !watched || !scan.IsGoing()) return;
     below->Add()->SetObjects(object);
   }
   BuildBelow(scan, item, *below);
@@ -354,24 +359,30 @@ void TKTCustomObjectInspector::BuildCollectionItemProperty(TScan& scan, TKTInspe
     const TLiveFlag parts(this, FIsListingParts);
     item.SetName(name);
   }
-  if (!watched || !scan.IsGoing()) return;
+  const TCollection* first = CollectionAt(collections, 0);
+  if (!watched || !scan.IsGoing() || !first) return;
   item.SetRealPropName(name);
   item.SetTypeKind(tkClass);
-  item.SetTypeName(CollectionAt(collections, 0)->GetItemClass()->ClassName());
+  item.SetTypeName(first->GetItemClass()->ClassName());
   item.SetPropertyKind(pkCollectionItem);
   item.SetAllEqual(true);
   item.SetReadOnly(true);
   const auto elements = Make<TKTInspectorObjects>(nullptr);
-  std::vector<Variant>& indexes = item.GetRealValues();
   for (int i = 0; i < collections.GetCount(); ++i) {
-    TCollectionItem* element = CollectionAt(collections, i)->GetItem(index);
+    // What elements are called is theirs to say, and they may do anything on that occasion.
+    const TCollection* collection = CollectionAt(collections, i);
+    if (!collection || index >= collection->GetCount()) return;
+    TCollectionItem* element = collection->GetItem(index);
+    const TObjectRef watchedElement(element);
     const QString text = element->GetDisplayName();
-    if (!watched) return;
+    if (!watched || !scan.IsGoing() || !watchedElement) return;
+    std::vector<Variant>& indexes = item.GetRealValues();
     if (static_cast<size_t>(i) < indexes.size()) {
       indexes[static_cast<size_t>(i)] = index;
       item.SetValueLine(i, text);
     }
-    if (!scan.HasEntered(element)) elements->Add()->SetObjects(element);
+    if (!watched || !scan.IsGoing()) return;
+    if (!scan.HasEntered(element)) elements->Add()->SetObjects(watchedElement.Get());
   }
   item.GetItems().SetSorted(IsSorted());
   if (elements->GetCount() > 0) BuildBelow(scan, item, *elements);

@@ -62,22 +62,41 @@ TObject* ObjectBehind(TObject* object, const QString& name) {
   return property->Kind() == tkClass ? GetObjectProp(object, property) : nullptr;
 }
 
+/// What an item says of the way to those below it, kept because a getter on the way may free the item.
+struct TStep {
+  QString Name;
+  bool IsCategory;
+  /// Of a collection, which has that number in it; -1 when that is not known.
+  bool IsElement;
+  int Element;
+};
+
+TObject* ElementAt(TObject* object, int index) {
+  const auto* collection = dynamic_cast<TCollection*>(object);
+  return collection && index >= 0 && index < collection->GetCount() ? collection->GetItem(index) : nullptr;
+}
+
 }  // namespace
 
 // Reading.
 
-TObject* TKTCustomObjectInspector::GetInstance(TObject* object, QString& path, const TKTItemProperty* item) const {
-  QVarLengthArray<const TKTItemProperty*, 8> way;
-  for (const TKTItemProperty* at = item->GetParent(); at; at = at->GetParent()) way.append(at);
+TObject* TKTCustomObjectInspector::GetInstance(TObject* object, QString& path, TKTItemProperty* item) const {
+  if (!item->GetParent()) return object;
+  QVarLengthArray<TStep, 8> way;
+  for (TKTItemProperty* at = item->GetParent(); at; at = at->GetParent()) {
+    const bool isElement = FInplaceCollections && at->GetPropertyKind() == pkCollectionItem;
+    way.append({at->GetRealPropName(), at->GetCategory(), isElement, isElement ? at->ElementNumber(0) : -1});
+  }
   const qsizetype delimiter = GetPathDelimiter().size();
+  const TItemWatch watched(item);
+  const TLifeWatch self(this);
   for (qsizetype i = way.size() - 1; object && i >= 0; --i) {
-    const TKTItemProperty& at = *way[i];
+    const TStep& step = way[i];
     // By the length of the name, which may hold a delimiter.
-    path.remove(0, at.GetRealPropName().size() + delimiter);
-    if (at.GetCategory()) continue;
-    object = FInplaceCollections && at.GetPropertyKind() == pkCollectionItem
-                 ? const_cast<TKTItemProperty&>(at).ElementIn(object, 0)
-                 : ObjectBehind(object, at.GetRealPropName());
+    path.remove(0, step.Name.size() + delimiter);
+    if (step.IsCategory) continue;
+    object = step.IsElement ? ElementAt(object, step.Element) : ObjectBehind(object, step.Name);
+    if (!watched || !self.IsAlive()) return nullptr;
   }
   return object;
 }
@@ -92,7 +111,8 @@ QString TKTCustomObjectInspector::GetPropertyValue(TObject* instance, TKTItemPro
                                                    const TPropInfo* property) {
   if (const TKTItemGetPropertyEvent handler = item->GetOnGetProperty()) {
     QString value;
-    handler(item, instance, item->GetRealPropName(), value);
+    // By a name of its own: the handler may free the item.
+    handler(item, instance, QString(item->GetRealPropName()), value);
     return value;
   }
   return TextOf(instance, property);
@@ -104,6 +124,7 @@ bool TKTCustomObjectInspector::SetPropertyValue(TObject* instance, TKTItemProper
   const TItemWatch watched(item);
   QString name = item->GetFullPathPropName();
   const TObjectRef holder(GetInstance(instance, name, item));
+  if (!watched) return false;
   const TKTItemSetPropertyEvent handler = item->GetOnSetProperty();
   if (!holder && !handler) return false;
   const bool isOther = !holder || GetPropertyValue(holder.Get(), item) != value;

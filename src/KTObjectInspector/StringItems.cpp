@@ -6,6 +6,8 @@
 #include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/conversions/TextCompare.h"
+#include "kt/rtl/objects/LifeWatch.h"
+#include "kt/rtl/objects/ObjectRef.h"
 #include "kt/rtl/strings/StringList.h"
 
 #include <algorithm>
@@ -23,30 +25,41 @@ TKTItemProperty* OwnerOfLines(const TKTItemProperty& line) {
   return owner;
 }
 
+TStrings* LinesIn(const TObjectRef& list) { return static_cast<TStrings*>(list.Get()); }
+
 /// The lists that an item stands for: that of `instance`, or of all objects where the path to the item names no object.
-std::vector<TStrings*> ListsOf(TObject* line, TObject* instance) {
-  if (auto* lines = dynamic_cast<TStrings*>(instance)) return {lines};
+/// Getters and handlers of changes may free what they belong to.
+std::vector<TObjectRef> ListsOf(TObject* line, TObject* instance) {
+  if (auto* lines = dynamic_cast<TStrings*>(instance)) return {TObjectRef(lines)};
   const auto* item = dynamic_cast<TKTItemProperty*>(line);
   TKTItemProperty* owner = item ? OwnerOfLines(*item) : nullptr;
   const TKTCustomObjectInspector* inspector = owner ? owner->GetEditor() : nullptr;
-  std::vector<TStrings*> lists;
-  for (int i = 0; inspector && i < inspector->GetObjects().GetCount(); ++i) {
-    if (auto* lines = dynamic_cast<TStrings*>(owner->GetObjectProperty(i))) lists.push_back(lines);
+  const TItemWatch watchOfOwner(owner);
+  const TLifeWatch watchOfInspector(inspector);
+  std::vector<TObjectRef> lists;
+  for (int i = 0; watchOfOwner && watchOfInspector.IsAlive() && i < inspector->GetObjects().GetCount(); ++i) {
+    if (auto* lines = dynamic_cast<TStrings*>(owner->GetObjectProperty(i))) lists.emplace_back(lines);
   }
   return lists;
+}
+
+/// The first list, or null.
+TStrings* FirstListOf(TObject* line, TObject* instance) {
+  const auto lists = ListsOf(line, instance);
+  return lists.empty() ? nullptr : LinesIn(lists[0]);
 }
 
 /// A whole line, by its number.
 void LetEditLine(TKTItemProperty& item, int index) {
   item.SetOnGetProperty([index](TObject* sender, TObject* instance, const QString&, QString& value) {
-    const auto lists = ListsOf(sender, instance);
-    const bool hasLine = !lists.empty() && index < lists[0]->GetCount();
-    value = hasLine ? lists[0]->GetStrings(index) : QString();
+    TStrings* lines = FirstListOf(sender, instance);
+    value = lines && index < lines->GetCount() ? lines->GetStrings(index) : QString();
   });
   item.SetOnSetProperty([index](TObject* sender, TObject* instance, const QString&, const QString& value) {
-    for (TStrings* lines : ListsOf(sender, instance)) {
+    for (const TObjectRef& list : ListsOf(sender, instance)) {
+      TStrings* lines = LinesIn(list);
       // Where there is no such line, there is nothing to write to.
-      if (index < lines->GetCount()) lines->SetStrings(index, value);
+      if (lines && index < lines->GetCount()) lines->SetStrings(index, value);
     }
   });
 }
@@ -60,12 +73,14 @@ int LineOf(TStrings& lines, const QString& name, int index) {
 /// The value of a name.
 void LetEditValue(TKTItemProperty& item, const QString& name, int index) {
   item.SetOnGetProperty([name, index](TObject* sender, TObject* instance, const QString&, QString& value) {
-    const auto lists = ListsOf(sender, instance);
-    const int line = lists.empty() ? -1 : LineOf(*lists[0], name, index);
-    value = line < 0 ? QString() : lists[0]->GetValueFromIndex(line);
+    TStrings* lines = FirstListOf(sender, instance);
+    const int line = lines ? LineOf(*lines, name, index) : -1;
+    value = line < 0 ? QString() : lines->GetValueFromIndex(line);
   });
   item.SetOnSetProperty([name, index](TObject* sender, TObject* instance, const QString&, const QString& value) {
-    for (TStrings* lines : ListsOf(sender, instance)) {
+    for (const TObjectRef& list : ListsOf(sender, instance)) {
+      TStrings* lines = LinesIn(list);
+      if (!lines) continue;
       // A value that is emptied stays a line.
       const int line = LineOf(*lines, name, index);
       const QString text = name + lines->GetNameValueSeparator() + value;
@@ -87,8 +102,10 @@ void MarkAsLine(TKTItemProperty* item, const TKTItemProperty& owner) {
 }
 
 /// Whether all lists hold `text` as that line, or as the value of that name.
-bool IsInAll(const std::vector<TStrings*>& lists, int index, const QString& name, const QString& text) {
-  return std::all_of(lists.begin(), lists.end(), [&](TStrings* lines) {
+bool IsInAll(const std::vector<TObjectRef>& lists, int index, const QString& name, const QString& text) {
+  return std::all_of(lists.begin(), lists.end(), [&](const TObjectRef& list) {
+    TStrings* lines = LinesIn(list);
+    if (!lines) return false;
     const int line = name.isEmpty() ? index : LineOf(*lines, name, index);
     if (line < 0 || line >= lines->GetCount()) return false;
     return AnsiSameText(name.isEmpty() ? lines->GetStrings(line) : lines->GetValueFromIndex(line), text);
@@ -99,13 +116,14 @@ bool IsInAll(const std::vector<TStrings*>& lists, int index, const QString& name
 
 bool IsStringItem(const TKTItemProperty& item) { return item.GetTypeName() == kLineTypeName; }
 
-void BuildTStringsItemProperties(TKTItemProperty& item, const std::vector<TStrings*>& lists,
+void BuildTStringsItemProperties(TKTItemProperty& item, const std::vector<TObjectRef>& lists,
                                  TInplaceTStringsOptions options, const QString& format) {
-  TStrings& lines = *lists[0];
+  TStrings& lines = *LinesIn(lists[0]);
   TKTItemProperties& items = item.GetItems();
   items.SetSorted(options.Has(isSort));
   TLevelUpdate level(items);
   const TUpdateBracket bracket(level);
+  const TLifeWatch watchOfLines(&lines);
   // Lines that are the items of the inspector itself become more meanwhile.
   const int count = lines.GetCount();
   for (int i = 0; i < std::min(count, lines.GetCount()); ++i) {
@@ -119,12 +137,12 @@ void BuildTStringsItemProperties(TKTItemProperty& item, const std::vector<TStrin
       line = static_cast<TKTItemProperty*>(items.AddFullPath(name, QString(), true));
       if (line) LetEditValue(*line, name, i);
     }
-    if (!line || !level.IsAlive()) return;
+    if (!line || !level.IsAlive() || !watchOfLines.IsAlive()) return;
     MarkAsLine(line, item);
     const QString text = name.isEmpty() ? lines.GetStrings(i) : lines.GetValueFromIndex(i);
     line->SetAllEqual(IsInAll(lists, i, name, text));
     line->SetValueLine(0, text);
-    if (!level.IsAlive()) return;
+    if (!level.IsAlive() || !watchOfLines.IsAlive()) return;
   }
 }
 

@@ -1,19 +1,18 @@
 #pragma once
 
 #include "kt/KTObjectInspector/InspectorTypes.h"
+#include "kt/rtl/objects/ObjectRef.h"
 
 #include <vector>
 
 namespace kt {
-
-class TStrings;
 
 class TKTItemProperty;
 
 /// Adds an item for each line of the first of `lists` below the property that they belong to. What is written to such
 /// an item goes into the line of that number, or into the value of that name, of the lists of all inspected objects,
 /// which are `lists`.
-void BuildTStringsItemProperties(TKTItemProperty& item, const std::vector<TStrings*>& lists,
+void BuildTStringsItemProperties(TKTItemProperty& item, const std::vector<TObjectRef>& lists,
                                  TInplaceTStringsOptions options, const QString& format);
 
 /// Whether an item is one of these, or stands for a part of the name of one.

@@ -139,6 +139,17 @@ TEST_F(InspectorValuesTest, AHandlerMayCorrectTheTextBeforeItIsWritten) {
   EXPECT_EQ(7, FSample->Whole);
 }
 
+TEST_F(InspectorValuesTest, AnItemThatDiedBeforeItWasWrittenIsNotToldOf) {
+  int told = 0;
+  FInspector->OnPropertyChanging = [this](TObject*, TKTItemProperty*) { Items().Clear(); };
+  FInspector->OnPropertyChanged = [&](TObject*, TKTItemProperty*) { ++told; };
+  Inspect({FSample.get()});
+  Edit("Align", "saTop");
+  Deliver();
+  EXPECT_EQ(saNone, FSample->Align);
+  EXPECT_EQ(0, told);
+}
+
 TEST_F(InspectorValuesTest, WritingSetsAllEqualWithOneValueColumn) {
   FOther->Whole = 9;
   Inspect({FSample.get(), FOther.get()});
