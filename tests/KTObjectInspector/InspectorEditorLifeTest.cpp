@@ -1,0 +1,240 @@
+// Whatever an open editor shows may go, from outside or in a handler of the typing.
+#include "KTObjectInspector/LivelyInspector.h"
+
+#include <QRegularExpression>
+
+namespace kt::tests {
+namespace {
+
+/// Calls that have to do with typing; the others are many, and the same without an editor.
+bool IsOfTyping(const char* name) {
+  static const QStringList names{"OnSetEditText", "OnGetEditText", "OnSelectCell",      "OnGetPickList",
+                                 "OnValidate",    "OnValidated",   "OnValidateError",   "OnPropertyChanging",
+                                 "OnSetProperty", "OnGetProperty", "OnPropertyChanged", "SetSize",
+                                 "SetCaption",    "SetWhole",      "Partner.SetWhole",  "SetAlign"};
+  return names.contains(QLatin1StringView(name));
+}
+
+class InspectorEditorTest : public TLivelyInspectorTest {
+ protected:
+  /// Lists the objects in a window, with the editor open over an item.
+  void Open(const QString& path, TInspectorMode mode) {
+    Renew(mode);
+    FInspector->SetShowItemHintStyle(shNone);
+    Show();
+    FInspector->SetSelected(At(path));
+    TWindowProbe::Settle();
+    ASSERT_TRUE(FInspector->InplaceEditor() && FInspector->InplaceEditor()->Visible());
+  }
+  void DropDown() { TWindowProbe::Key(Qt::Key_Down, Qt::AltModifier); }
+  void Type(const QString& text) {
+    if (FInspector && FInspector->InplaceEditor()) FInspector->InplaceEditor()->SelectAll();
+    for (QChar character : text) {
+      if (QWidget* focus = QApplication::focusWidget()) QTest::keyClick(focus, character.toLatin1());
+    }
+  }
+  static void LeaveRow() {
+    TWindowProbe::Key(Qt::Key_Up);
+    TWindowProbe::Settle();
+  }
+  void ExpectNoErrors() {
+    FErrors.removeAll(QStringLiteral("An object was freed while it was in use"));
+    EXPECT_EQ("", FErrors.join(u'|'));
+  }
+};
+
+// From outside.
+
+class InspectorEditorLifeTest
+    : public InspectorEditorTest,
+      public testing::WithParamInterface<std::tuple<const char*, TInspectorMode, TLivelyDeed>> {
+ protected:
+  void Open() { InspectorEditorTest::Open(std::get<0>(GetParam()), std::get<1>(GetParam())); }
+  void Do() { (this->*std::get<2>(GetParam()).Do)(); }
+};
+
+TEST_P(InspectorEditorLifeTest, WhileItIsOnlyLookedAt) {
+  Open();
+  Do();
+  TWindowProbe::Settle();
+  ExpectNoErrors();
+  CheckAllIsWell();
+}
+
+TEST_P(InspectorEditorLifeTest, WhileSomethingIsTyped) {
+  Open();
+  Type("4");
+  Do();
+  TWindowProbe::Settle();
+  LeaveRow();
+  ExpectNoErrors();
+  CheckAllIsWell();
+}
+
+/// The deed at each call of a handler or setter while a text is typed and the row is left.
+TEST_P(InspectorEditorLifeTest, WhileTheTypedTextIsWritten) {
+  for (int number = 0;; ++number) {
+    SCOPED_TRACE(number);
+    Open();
+    int calls = 0;
+    TLively::SetHook([&](const char* name) {
+      if (IsOfTyping(name) && calls++ == number) Do();
+    });
+    Type("4");
+    LeaveRow();
+    TLively::SetHook({});
+    if (calls <= number) break;
+    ExpectNoErrors();
+    CheckAllIsWell();
+    if (HasFailure()) return;
+  }
+}
+
+/// The same while a text is refused, and the handler of errors is told.
+TEST_P(InspectorEditorLifeTest, WhileTheTypedTextIsRefused) {
+  for (int number = 0;; ++number) {
+    SCOPED_TRACE(number);
+    Open();
+    int calls = 0;
+    TLively::SetHook([&](const char* name) {
+      if (IsOfTyping(name) && calls++ == number) Do();
+    });
+    Type("x");
+    LeaveRow();
+    TLively::SetHook({});
+    if (calls <= number) break;
+    CheckAllIsWell();
+    if (HasFailure()) return;
+  }
+}
+
+std::string EditorTestName(const testing::TestParamInfo<InspectorEditorLifeTest::ParamType>& test) {
+  const QString path = QString(std::get<0>(test.param)).remove(QRegularExpression("\\W"));
+  return path.toStdString() + std::get<2>(test.param).Name;
+}
+
+INSTANTIATE_TEST_SUITE_P(OneColumn, InspectorEditorLifeTest,
+                         testing::Combine(testing::Values("Part.Size", "Items.Items[0].Caption", "Partner.Whole",
+                                                          "Reference.Whole"),
+                                          testing::Values(imPlain), testing::ValuesIn(LivelyDeeds)),
+                         EditorTestName);
+INSTANTIATE_TEST_SUITE_P(SeveralColumns, InspectorEditorLifeTest,
+                         testing::Combine(testing::Values("Part.Size", "Partner.Whole"),
+                                          testing::Values(imSeveralColumns), testing::ValuesIn(LivelyDeeds)),
+                         EditorTestName);
+
+class InspectorTypingCallsTest : public InspectorEditorTest {
+ protected:
+  /// The calls of typing while `type` runs.
+  QString CallsOf(const std::function<void()>& type) {
+    QStringList names = CallOutsOf([&] {
+      TLively::SetHook(&CallOut);
+      type();
+      TLively::SetHook({});
+    });
+    names.removeIf([](const QString& name) { return !IsOfTyping(name.toLatin1().constData()); });
+    names.sort();
+    return names.join(u' ');
+  }
+};
+
+TEST_F(InspectorTypingCallsTest, WritingATextReachesWhatIsMeant) {
+  Open("Part.Size", imPlain);
+  EXPECT_EQ(
+      "OnGetEditText OnGetProperty OnPropertyChanged OnPropertyChanging OnSelectCell OnSetEditText OnValidate "
+      "OnValidated SetSize",
+      CallsOf([this] {
+        Type("4");
+        LeaveRow();
+      }));
+}
+
+TEST_F(InspectorTypingCallsTest, ARefusedTextReachesTheHandlerOfErrors) {
+  Open("Part.Size", imPlain);
+  EXPECT_TRUE(CallsOf([this] {
+                Type("x");
+                LeaveRow();
+              }).contains("OnValidateError"));
+}
+
+TEST_F(InspectorTypingCallsTest, DroppingTheListDownReachesItsHandler) {
+  Open("Align", imPlain);
+  EXPECT_TRUE(CallsOf([this] { DropDown(); }).contains("OnGetPickList"));
+}
+
+// With a drop-down list.
+
+class InspectorListLifeTest : public InspectorEditorTest,
+                              public testing::WithParamInterface<std::tuple<const char*, TLivelyDeed>> {
+ protected:
+  void Open() { InspectorEditorTest::Open(std::get<0>(GetParam()), imPlain); }
+  void Do() { (this->*std::get<1>(GetParam()).Do)(); }
+};
+
+TEST_P(InspectorListLifeTest, WhileTheListIsDown) {
+  Open();
+  DropDown();
+  Do();
+  TWindowProbe::Settle();
+  TWindowProbe::Key(Qt::Key_Return);
+  TWindowProbe::Settle();
+  ExpectNoErrors();
+  CheckAllIsWell();
+}
+
+TEST_P(InspectorListLifeTest, WhileWhatWasPickedIsWritten) {
+  for (int number = 0;; ++number) {
+    SCOPED_TRACE(number);
+    Open();
+    int calls = 0;
+    TLively::SetHook([&](const char* name) {
+      if (IsOfTyping(name) && calls++ == number) Do();
+    });
+    DropDown();
+    TWindowProbe::Key(Qt::Key_Down);
+    TWindowProbe::Key(Qt::Key_Return);
+    LeaveRow();
+    TLively::SetHook({});
+    if (calls <= number) break;
+    ExpectNoErrors();
+    CheckAllIsWell();
+    if (HasFailure()) return;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Lists, InspectorListLifeTest,
+                         testing::Combine(testing::Values("Align", "Styles.ssBold"), testing::ValuesIn(LivelyDeeds)),
+                         [](const auto& test) {
+                           const QString path = QString(std::get<0>(test.param)).remove(QRegularExpression("\\W"));
+                           return path.toStdString() + std::get<1>(test.param).Name;
+                         });
+
+// While it is painted. Nobody frees a window that is just being painted.
+
+class InspectorPaintLifeTest : public InspectorEditorTest, public testing::WithParamInterface<TLivelyDeed> {};
+
+TEST_P(InspectorPaintLifeTest, WhileItIsPainted) {
+  for (int number = 0;; ++number) {
+    SCOPED_TRACE(number);
+    Renew(imSeveralColumns);
+    FInspector->FullExpand();
+    Show();
+    int calls = 0;
+    TLively::SetHook([&](const char*) {
+      if (calls++ == number) (this->*GetParam().Do)();
+    });
+    FWindow->Window()->grab();
+    TLively::SetHook({});
+    if (calls <= number) break;
+    ExpectNoErrors();
+    CheckAllIsWell();
+    if (HasFailure()) return;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Deeds, InspectorPaintLifeTest,
+                         testing::ValuesIn(std::begin(LivelyDeeds), std::end(LivelyDeeds) - 1),
+                         [](const auto& test) { return std::string(test.param.Name); });
+
+}  // namespace
+}  // namespace kt::tests
