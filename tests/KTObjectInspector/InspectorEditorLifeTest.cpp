@@ -1,55 +1,18 @@
 // Whatever an open editor shows may go, from outside or in a handler of the typing.
-#include "KTObjectInspector/LivelyInspector.h"
+#include "KTObjectInspector/LivelyEditor.h"
 
 #include <QRegularExpression>
 
 namespace kt::tests {
 namespace {
 
-/// Calls that have to do with typing; the others are many, and the same without an editor.
-bool IsOfTyping(const char* name) {
-  static const QStringList names{"OnSetEditText", "OnGetEditText", "OnSelectCell",      "OnGetPickList",
-                                 "OnValidate",    "OnValidated",   "OnValidateError",   "OnPropertyChanging",
-                                 "OnSetProperty", "OnGetProperty", "OnPropertyChanged", "SetSize",
-                                 "SetCaption",    "SetWhole",      "Partner.SetWhole",  "SetAlign"};
-  return names.contains(QLatin1StringView(name));
-}
-
-class InspectorEditorTest : public TLivelyInspectorTest {
- protected:
-  /// Lists the objects in a window, with the editor open over an item.
-  void Open(const QString& path, TInspectorMode mode) {
-    Renew(mode);
-    FInspector->SetShowItemHintStyle(shNone);
-    Show();
-    FInspector->SetSelected(At(path));
-    TWindowProbe::Settle();
-    ASSERT_TRUE(FInspector->InplaceEditor() && FInspector->InplaceEditor()->Visible());
-  }
-  void DropDown() { TWindowProbe::Key(Qt::Key_Down, Qt::AltModifier); }
-  void Type(const QString& text) {
-    if (FInspector && FInspector->InplaceEditor()) FInspector->InplaceEditor()->SelectAll();
-    for (QChar character : text) {
-      if (QWidget* focus = QApplication::focusWidget()) QTest::keyClick(focus, character.toLatin1());
-    }
-  }
-  static void LeaveRow() {
-    TWindowProbe::Key(Qt::Key_Up);
-    TWindowProbe::Settle();
-  }
-  void ExpectNoErrors() {
-    FErrors.removeAll(QStringLiteral("An object was freed while it was in use"));
-    EXPECT_EQ("", FErrors.join(u'|'));
-  }
-};
-
 // From outside.
 
 class InspectorEditorLifeTest
-    : public InspectorEditorTest,
+    : public TLivelyEditorTest,
       public testing::WithParamInterface<std::tuple<const char*, TInspectorMode, TLivelyDeed>> {
  protected:
-  void Open() { InspectorEditorTest::Open(std::get<0>(GetParam()), std::get<1>(GetParam())); }
+  void Open() { TLivelyEditorTest::Open(std::get<0>(GetParam()), std::get<1>(GetParam())); }
   void Do() { (this->*std::get<2>(GetParam()).Do)(); }
 };
 
@@ -123,7 +86,7 @@ INSTANTIATE_TEST_SUITE_P(SeveralColumns, InspectorEditorLifeTest,
                                           testing::Values(imSeveralColumns), testing::ValuesIn(LivelyDeeds)),
                          EditorTestName);
 
-class InspectorTypingCallsTest : public InspectorEditorTest {
+class InspectorTypingCallsTest : public TLivelyEditorTest {
  protected:
   /// The calls of typing while `type` runs.
   QString CallsOf(const std::function<void()>& type) {
@@ -164,10 +127,10 @@ TEST_F(InspectorTypingCallsTest, DroppingTheListDownReachesItsHandler) {
 
 // With a drop-down list.
 
-class InspectorListLifeTest : public InspectorEditorTest,
+class InspectorListLifeTest : public TLivelyEditorTest,
                               public testing::WithParamInterface<std::tuple<const char*, TLivelyDeed>> {
  protected:
-  void Open() { InspectorEditorTest::Open(std::get<0>(GetParam()), imPlain); }
+  void Open() { TLivelyEditorTest::Open(std::get<0>(GetParam()), imPlain); }
   void Do() { (this->*std::get<1>(GetParam()).Do)(); }
 };
 
@@ -211,7 +174,7 @@ INSTANTIATE_TEST_SUITE_P(Lists, InspectorListLifeTest,
 
 // While it is painted. Nobody frees a window that is just being painted.
 
-class InspectorPaintLifeTest : public InspectorEditorTest, public testing::WithParamInterface<TLivelyDeed> {};
+class InspectorPaintLifeTest : public TLivelyEditorTest, public testing::WithParamInterface<TLivelyDeed> {};
 
 TEST_P(InspectorPaintLifeTest, WhileItIsPainted) {
   for (int number = 0;; ++number) {
