@@ -18,6 +18,11 @@ TStreamOriginalFormat FormatOf(const QString& fileName) {
   return format == sofUnknown ? sofText : format;
 }
 
+/// A value as part of a line: line breaks show as \r and \n.
+QString InOneLine(QString value) {
+  return value.replace(u'\r', QLatin1StringView("\\r")).replace(u'\n', QLatin1StringView("\\n"));
+}
+
 QString TextOfItems(TKTItemProperties& items, int level) {
   QString text;
   for (int i = 0; i < items.GetCount(); ++i) {
@@ -27,7 +32,7 @@ QString TextOfItems(TKTItemProperties& items, int level) {
       text += QStringLiteral("%1[%2]\n").arg(indent, item.GetName());
     } else {
       const QString mark = item.IsModified() ? QStringLiteral("* ") : QStringLiteral("  ");
-      text += QStringLiteral("%1%2%3 = %4\n").arg(indent, mark, item.GetName(), item.GetValueLine(0));
+      text += QStringLiteral("%1%2%3 = %4\n").arg(indent, mark, item.GetName(), InOneLine(item.GetValueLine(0)));
     }
     if (item.HasItems()) text += TextOfItems(item.GetItems(), level + 1);
   }

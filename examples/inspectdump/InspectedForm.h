@@ -16,7 +16,8 @@ class TInspectedForm {
 
   /// Lists properties below their categories.
   void SetCategories(bool value) { FInspector->SetArrangeByCategory(value); }
-  /// Every component with its tree of properties, a line each: what is modified has a star before it.
+  /// Every component with its tree of properties, a line each: what is modified has a star before it. Line breaks in
+  /// values show as \r and \n.
   QString Text();
   /// Writes a value through the inspector: `path` is the component's name, unless it is the form's own, and the path of
   /// the property. Raises kt::EPropertyError when there is nothing at that path or it is read-only, and what the
