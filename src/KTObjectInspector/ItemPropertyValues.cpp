@@ -15,6 +15,8 @@
 #include "kt/rtl/typeinfo/PropValues.h"
 #include "kt/vcl/grids/InplaceEdit.h"
 
+#include <algorithm>
+
 namespace kt {
 
 namespace {
@@ -23,6 +25,12 @@ constexpr int kSetBits = 32;
 
 qint64 BitsOf(const std::vector<Variant>& values, int index) {
   return static_cast<size_t>(index) < values.size() ? values[static_cast<size_t>(index)].ToInt64() : 0;
+}
+
+/// How many objects the items have texts of. Columns for all of them come with the scan that follows the option.
+int TextCountIn(const TKTCustomObjectInspector& inspector) {
+  if (!inspector.GetDisplayOptions().Has(doMultiColValues)) return 1;
+  return std::min(inspector.GetObjects().GetCount(), inspector.GetValueCount());
 }
 
 }  // namespace
@@ -47,7 +55,7 @@ bool TKTItemProperty::RefreshValue() {
 bool TKTItemProperty::RefreshValues(TKTCustomObjectInspector& inspector) {
   const TItemWatch self(this);
   const TLifeWatch watchOfInspector(&inspector);
-  const int count = inspector.IsMultiColumn() ? inspector.GetObjects().GetCount() : 1;
+  const int count = TextCountIn(inspector);
   for (int i = 0; i < count; ++i) {
     if (!RefreshValueOf(inspector, i)) return false;
     // The handler of the value may have freed the item, or removed objects.
@@ -133,7 +141,7 @@ void TKTItemProperty::UpdateChildProperty(TKTItemProperty*) {
   TKTCustomObjectInspector* inspector = GetEditor();
   if (!inspector || !FIsRealProperty || FTypeKind != tkSet) return;
   const TItemWatch self(this);
-  const int count = inspector->IsMultiColumn() ? inspector->GetObjects().GetCount() : 1;
+  const int count = TextCountIn(*inspector);
   for (int i = 0; self && i < count; ++i) {
     QStringList names;
     for (int j = 0; HasItems() && j < GetItems().GetCount(); ++j) {

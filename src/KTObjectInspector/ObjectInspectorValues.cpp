@@ -13,6 +13,8 @@
 
 #include <QVarLengthArray>
 
+#include <algorithm>
+
 namespace kt {
 
 namespace {
@@ -159,12 +161,12 @@ void TKTCustomObjectInspector::SetProperty(TKTItemProperty* item) {
   if (!self.IsAlive()) return;
   // Setters may change the item's texts, and the objects.
   QStringList texts;
-  const int count = IsMultiColumn() ? FObjects->GetCount() : 1;
+  const int count = IsMultiColumn() ? std::min(FObjects->GetCount(), GetValueCount()) : 1;
   for (int i = 0; watched && i < count; ++i) texts.append(item->GetValueLine(i));
   const int index = watched ? item->GetAbsoluteIndex() : -1;
   for (int i = 0; watched && i < FObjects->GetCount(); ++i) {
     TObject* object = FObjects->GetItem(i)->GetObjects();
-    const QString text = i < texts.size() ? texts[i] : texts[0];
+    const QString text = texts.value(i < texts.size() ? i : 0);
     if (object && (i < texts.size() || !IsMultiColumn())) SetPropertyValue(object, item, text);
     if (!self.IsAlive()) return;
   }

@@ -23,6 +23,12 @@ class TInspectorTest : public testing::Test {
     Deliver();
   }
   void Rescan() { FInspector->Rescan(); }
+  /// A value column for each object.
+  void UseSeveralColumns(bool value = true) {
+    TILEDisplayOptions options = FInspector->GetDisplayOptions();
+    options.Put(doMultiColValues, value);
+    FInspector->SetDisplayOptions(options);
+  }
 
   TKTItemProperties& Items() { return FInspector->GetItems(); }
   TKTItemProperty* Find(const QString& path) { return Items().FindItemByFullPathName(path); }

@@ -1,52 +1,11 @@
 // An inspector in a window: what its cells show, and editing by keyboard.
-#include "KTObjectInspector/InspectorFixture.h"
+#include "KTObjectInspector/InspectorWindowFixture.h"
 #include "kt/KTItemListEditor/InplaceEditList.h"
-#include "kt/rtl/objects/Exceptions.h"
-#include "kt/vcl/controls/ControlMessages.h"
-#include "kt/vcl/forms/Application.h"
-#include "kt/vcl/grids/InplaceEdit.h"
-#include "support/WindowProbe.h"
 
 namespace kt::tests {
 namespace {
 
-class InspectorGridTest : public TInspectorTest {
- protected:
-  InspectorGridTest() {
-    Application().OnException = [this](TObject*, const Exception& error) { FErrors += error.Message(); };
-    FSample->SetName("First");
-    FOther->SetName("Second");
-  }
-  ~InspectorGridTest() override { Application().OnException = nullptr; }
-
-  void Show(std::initializer_list<TObject*> objects) {
-    Inspect(objects);
-    FWindow = std::make_unique<TWindowProbe>(*FInspector, QSize(400, 600));
-    FInspector->SetFocus();
-    TWindowProbe::Settle();
-  }
-  void Select(const QString& path) {
-    FInspector->SetSelected(&Item(path));
-    TWindowProbe::Settle();
-  }
-  int RowOf(const QString& path) { return Item(path).GetAbsoluteVIndex() + 1; }
-  QString Cell(const QString& path, int col = 1) { return FInspector->GetCell(col, RowOf(path)); }
-  TInplaceEdit& Editor() { return *FInspector->InplaceEditor(); }
-  bool IsEditorOpen() const { return FInspector->InplaceEditor() && FInspector->InplaceEditor()->Visible(); }
-  void Retype(const QString& text) {
-    Editor().SelectAll();
-    TWindowProbe::Type(text);
-  }
-  void UseSeveralColumns() {
-    FInspector->SetDisplayOptions(FInspector->GetDisplayOptions() + TILEDisplayOptions{doMultiColValues});
-  }
-  QString TakeErrors() { return std::exchange(FErrors, {}).join(u'|'); }
-
-  std::unique_ptr<TSample> FSample = Make<TSample>();
-  std::unique_ptr<TSample> FOther = Make<TSample>();
-  std::unique_ptr<TWindowProbe> FWindow;
-  QStringList FErrors;
-};
+using InspectorGridTest = TInspectorWindowTest;
 
 // Cells.
 
@@ -118,6 +77,17 @@ TEST_F(InspectorGridTest, WhatIsTypedReachesTheObjectsWhenTheRowIsLeft) {
   EXPECT_EQ("84", Cell("Double"));
 }
 
+TEST_F(InspectorGridTest, SwitchingToSeveralColumnsClosesTheEditorAtOnce) {
+  Show({FSample.get()});
+  Select("Text");
+  ASSERT_TRUE(IsEditorOpen());
+  FInspector->SetOptions(FInspector->GetOptions() - TGridOptions{goAlwaysShowEditor});
+  FInspector->SetEditorMode(true);
+  ASSERT_TRUE(IsEditorOpen());
+  UseSeveralColumns();
+  EXPECT_FALSE(IsEditorOpen());
+}
+
 TEST_F(InspectorGridTest, EnterAcceptsWhatIsTyped) {
   Show({FSample.get()});
   Select("Text");
@@ -135,6 +105,45 @@ TEST_F(InspectorGridTest, ARefusedValueIsToldWithItsTypeAndTakenBack) {
   EXPECT_TRUE(TakeErrors().startsWith("\"abc\" is not a valid Integer value: Could not convert"));
   EXPECT_EQ(7, FSample->Whole);
   EXPECT_EQ("7", Editor().GetText());
+}
+
+TEST_F(InspectorGridTest, ARefusedTextOfAMemberIsToldWithoutATypeAndTakenBack) {
+  Show({FSample.get()});
+  Select("Styles.ssBold");
+  Retype("maybe");
+  TWindowProbe::Key(Qt::Key_Return);
+  EXPECT_EQ("\"maybe\" is not a valid property value: Invalid property element: maybe", TakeErrors());
+  EXPECT_EQ("False", Editor().GetText());
+  EXPECT_EQ(TSampleStyles(), FSample->Styles);
+}
+
+TEST_F(InspectorGridTest, AnItemsOwnHandlerOfErrorsComesBeforeTheInspectors) {
+  FSample->Whole = 7;
+  UseSeveralColumns();
+  Show({FSample.get(), FOther.get()});
+  Select("Whole");
+  FInspector->SetCol(2);
+  TWindowProbe::Settle();
+  QStringList log;
+  FInspector->OnValidateError = [&](TObject* sender, TKTItemProp* item, int column, const Exception& error) {
+    EXPECT_EQ(FInspector.get(), sender);
+    log += "inspector " + item->GetName() + QString::number(column) + " " + error.Message().section(u':', 0, 0);
+  };
+  Retype("abc");
+  TWindowProbe::Key(Qt::Key_Return);
+  EXPECT_EQ("inspector Whole2 \"abc\" is not a valid Integer value", log.join(u'|'));
+  EXPECT_EQ("0", Editor().GetText());
+  log.clear();
+  Item("Whole").SetOnValidateError([&](TObject* sender, TKTItemProp* item, int column, const Exception& error) {
+    EXPECT_EQ(FInspector.get(), sender);
+    EXPECT_TRUE(dynamic_cast<const ETORVException*>(&error));
+    log += "item " + item->GetName() + QString::number(column) + " " + error.Message().section(u':', 0, 0);
+  });
+  Retype("abc");
+  TWindowProbe::Key(Qt::Key_Return);
+  EXPECT_EQ("item Whole2 \"abc\" is not a valid Integer value", log.join(u'|'));
+  EXPECT_EQ("0", Editor().GetText());
+  EXPECT_EQ("", TakeErrors());
 }
 
 TEST_F(InspectorGridTest, LeavingAValueThatDiffersWritesNothing) {
@@ -185,6 +194,20 @@ TEST_F(InspectorGridTest, ARefreshKeepsExpansionAndScrollPosition) {
   EXPECT_EQ(4, FInspector->GetTopRow());
 }
 
+TEST_F(InspectorGridTest, ASelectedItemThatARescanDoesNotFindAnyMoreClosesTheEditor) {
+  FSample->Partner = FOther.get();
+  Show({FSample.get()});
+  FInspector->SetOptions(FInspector->GetOptions() - TGridOptions{goAlwaysShowEditor});
+  Select("Partner.Whole");
+  FInspector->SetEditorMode(true);
+  ASSERT_TRUE(IsEditorOpen());
+  FSample->Partner = nullptr;
+  FInspector->Rescan();
+  EXPECT_EQ(nullptr, Find("Partner.Whole"));
+  EXPECT_FALSE(IsEditorOpen());
+  EXPECT_EQ("", TakeErrors());
+}
+
 TEST_F(InspectorGridTest, AnObjectMayDieWhileItsValueIsTyped) {
   Show({FSample.get(), FOther.get()});
   Select("Whole");
@@ -205,37 +228,6 @@ TEST_F(InspectorGridTest, AllObjectsMayDieWhileAListIsDroppedDown) {
   TWindowProbe::Settle();
   EXPECT_EQ(0, Items().GetCount());
   EXPECT_EQ("", TakeErrors());
-}
-
-// The clipboard.
-
-/// A component that writes down the messages it gets.
-class TClipboardSample : public TSample {
- public:
-  QList<quint32> Messages;
-  void Dispatch(TMessage& message) override { Messages += message.Msg; }
-
- protected:
-  TClipboardSample() = default;
-};
-
-TEST_F(InspectorGridTest, CopyingAndPastingAreSentToTheSelectedPropertysObjects) {
-  const auto first = Make<TClipboardSample>();
-  const auto second = Make<TClipboardSample>();
-  FSample->Partner = first.get();
-  FOther->Partner = second.get();
-  Show({FSample.get(), FOther.get()});
-  Select("Partner");
-  FInspector->CopyToClipboard();
-  EXPECT_EQ(QList<quint32>{WM_COPY}, first->Messages);
-  EXPECT_EQ(QList<quint32>(), second->Messages);
-  FInspector->PasteFromClipboard();
-  EXPECT_EQ((QList<quint32>{WM_COPY, WM_PASTE}), first->Messages);
-  EXPECT_EQ(QList<quint32>{WM_PASTE}, second->Messages);
-  Select("Whole");
-  FInspector->CopyToClipboard();
-  FInspector->PasteFromClipboard();
-  EXPECT_EQ(2, first->Messages.size());
 }
 
 }  // namespace

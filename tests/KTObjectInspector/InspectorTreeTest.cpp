@@ -15,9 +15,27 @@ TEST_F(InspectorTreeTest, WithoutObjectsTheTreeIsEmpty) {
   EXPECT_EQ(0, Items().GetCount());
 }
 
+TEST_F(InspectorTreeTest, AFirstEntryWithoutObjectLeavesTheTreeEmptyWhateverFollows) {
+  FInspector->GetObjects().Add();
+  Inspect({FSample.get()});
+  EXPECT_EQ(0, Items().GetCount());
+  FInspector->GetObjects().GetItem(0)->SetObjects(FOther.get());
+  Deliver();
+  EXPECT_NE(0, Items().GetCount());
+}
+
+TEST_F(InspectorTreeTest, AFurtherEntryWithoutObjectIsPassedOver) {
+  UseSeveralColumns();
+  FInspector->GetObjects().Add(FSample.get());
+  FInspector->GetObjects().Add();
+  Inspect({FOther.get()});
+  EXPECT_EQ(3, FInspector->GetColCount());
+  EXPECT_NE(nullptr, Find("Whole"));
+}
+
 TEST_F(InspectorTreeTest, WithoutObjectsSeveralValueColumnsComeToOne) {
   Inspect({FSample.get(), FOther.get()});
-  FInspector->SetDisplayOptions(FInspector->GetDisplayOptions() + TILEDisplayOptions{doMultiColValues});
+  UseSeveralColumns();
   Deliver();
   EXPECT_EQ(3, FInspector->GetColCount());
   FInspector->GetObjects().Clear();
@@ -36,12 +54,6 @@ TEST_F(InspectorTreeTest, UnsortedTheyAreListedAsTheyAreDeclared) {
   FInspector->SetSorted(false);
   Inspect({part.get()});
   EXPECT_EQ("Size Title Style", Names(Items()));
-}
-
-TEST_F(InspectorTreeTest, OnlySharedPropertiesOfSeveralObjectsAreListed) {
-  const auto holder = Make<TComponent>();
-  Inspect({FSample.get(), holder.get()});
-  EXPECT_EQ("Name Tag", Names(Items()));
 }
 
 TEST_F(InspectorTreeTest, OnlyTheDisplayedKindsAreListed) {
@@ -143,6 +155,18 @@ TEST_F(InspectorTreeTest, AnObjectThatLeadsBackToItselfIsNotEnteredAgain) {
   EXPECT_EQ("", NamesBelow("Sibling.Sibling"));
 }
 
+TEST_F(InspectorTreeTest, AnObjectBehindTwoPropertiesIsEnteredOnce) {
+  FSample->Partner = FOther.get();
+  FSample->Sibling = FOther.get();
+  Inspect({FSample.get()});
+  EXPECT_NE("", NamesBelow("Partner"));
+  EXPECT_EQ("", NamesBelow("Sibling"));
+  // Anew in each scan.
+  FSample->Partner = nullptr;
+  Rescan();
+  EXPECT_NE("", NamesBelow("Sibling"));
+}
+
 TEST_F(InspectorTreeTest, WhatOneObjectLacksIsNotListedBelow) {
   const auto partner = Make<TComponent>();
   FSample->Partner = partner.get();
@@ -223,7 +247,7 @@ TEST_F(InspectorTreeTest, TextsThatDifferInCaseAloneCountAsEqual) {
 
 TEST_F(InspectorTreeTest, SeveralValueColumnsShowEachObjectsValue) {
   FOther->Whole = 7;
-  FInspector->SetDisplayOptions(FInspector->GetDisplayOptions() + TILEDisplayOptions{doMultiColValues});
+  UseSeveralColumns();
   Inspect({FSample.get(), FOther.get()});
   EXPECT_EQ(3, FInspector->GetColCount());
   EXPECT_EQ("0", Item("Whole").GetValueLine(0));
@@ -257,43 +281,6 @@ TEST_F(InspectorTreeTest, MembersAndElementsStayWithWhatTheyArePartOf) {
   EXPECT_EQ("Items[0]", NamesBelow("Miscellaneous.Items"));
   Edit("Miscellaneous.Styles.ssBold", "True");
   EXPECT_TRUE(FSample->Styles.Has(ssBold));
-}
-
-// Filters.
-
-TEST_F(InspectorTreeTest, FiltersHideWhatTheyNameWhereverItIs) {
-  FInspector->GetFilters().Add("tag");
-  Inspect({FSample.get()});
-  EXPECT_EQ(nullptr, Find("Tag"));
-  EXPECT_NE(nullptr, Find("Whole"));
-}
-
-TEST_F(InspectorTreeTest, FiltersNameFullPathsToo) {
-  FInspector->GetFilters().Add("Part.Size");
-  Inspect({FSample.get()});
-  EXPECT_EQ("Style Title", NamesBelow("Part"));
-}
-
-TEST_F(InspectorTreeTest, InclusiveFiltersKeepWhatTheyName) {
-  FInspector->GetFilters().SetCommaText("Part,Size,Tag,Title");
-  FInspector->SetFilterOptions({foInclusive});
-  Inspect({FSample.get()});
-  EXPECT_EQ("Part Tag", Names(Items()));
-  EXPECT_EQ("Size Title", NamesBelow("Part"));
-}
-
-TEST_F(InspectorTreeTest, FiltersMindTheCaseWhenTheyAreToldTo) {
-  FInspector->GetFilters().Add("tag");
-  FInspector->SetFilterOptions({foCaseSensitive});
-  Inspect({FSample.get()});
-  EXPECT_NE(nullptr, Find("Tag"));
-}
-
-TEST_F(InspectorTreeTest, DisabledFiltersHideNothing) {
-  FInspector->GetFilters().Add("Tag");
-  FInspector->SetFiltersEnabled(false);
-  Inspect({FSample.get()});
-  EXPECT_NE(nullptr, Find("Tag"));
 }
 
 }  // namespace

@@ -85,7 +85,7 @@ TEST_F(InspectorValuesTest, OneEditIsWrittenToAllObjects) {
 }
 
 TEST_F(InspectorValuesTest, WithSeveralValueColumnsEachObjectGetsItsText) {
-  FInspector->SetDisplayOptions(FInspector->GetDisplayOptions() + TILEDisplayOptions{doMultiColValues});
+  UseSeveralColumns();
   Inspect({FSample.get(), FOther.get()});
   Item("Whole").SetValueLine(1, "4");
   Item("Whole").Validate();
@@ -218,51 +218,6 @@ TEST_F(InspectorValuesTest, AHandlerTakesTheWriteOver) {
   EXPECT_EQ(0, FSample->Whole);
   EXPECT_EQ(5, FSample->Big);
   EXPECT_EQ(6, FOther->Big);
-}
-
-// What differs from its default.
-
-TEST_F(InspectorValuesTest, AValueIsModifiedWhenItIsNotItsDefault) {
-  FSample->Whole = 1;
-  FSample->Letter = 'A';
-  Inspect({FSample.get()});
-  EXPECT_TRUE(Item("Whole").IsModified());
-  EXPECT_FALSE(Item("Letter").IsModified());
-  EXPECT_FALSE(Item("Flag").IsModified());
-  EXPECT_FALSE(Item("Wide").IsModified());
-  EXPECT_FALSE(Item("Styles").IsModified());
-  FSample->Flag = true;
-  FSample->Wide = true;
-  FSample->Styles = {ssBold};
-  FInspector->RefreshProperties();
-  EXPECT_TRUE(Item("Flag").IsModified());
-  EXPECT_TRUE(Item("Wide").IsModified());
-  EXPECT_TRUE(Item("Styles").IsModified());
-}
-
-TEST_F(InspectorValuesTest, AStoredTextIsAlwaysModifiedAndOneThatIsNotStoredNever) {
-  Inspect({FSample.get()});
-  EXPECT_TRUE(Item("Text").IsModified());
-  FSample->IsTextStored = false;
-  EXPECT_FALSE(Item("Text").IsModified());
-}
-
-TEST_F(InspectorValuesTest, OtherKindsAreNeverModified) {
-  FSample->Ratio = 1;
-  FSample->Big = 1;
-  Inspect({FSample.get()});
-  EXPECT_FALSE(Item("Ratio").IsModified());
-  EXPECT_FALSE(Item("Big").IsModified());
-  EXPECT_FALSE(Item("Part").IsModified());
-}
-
-TEST_F(InspectorValuesTest, AModifiedValueIsDrawnInTheFontForThat) {
-  FSample->Whole = 1;
-  Inspect({FSample.get()});
-  EXPECT_EQ(&FInspector->GetValueChangedFont(), &Item("Whole").GetIndividualValueFont(0));
-  EXPECT_NE(&FInspector->GetValueChangedFont(), &Item("Flag").GetIndividualValueFont(0));
-  FInspector->SetShowValueChangedFont(false);
-  EXPECT_NE(&FInspector->GetValueChangedFont(), &Item("Whole").GetIndividualValueFont(0));
 }
 
 }  // namespace

@@ -8,9 +8,6 @@ namespace {
 
 class ItemPropertyTest : public TInspectorTest {
  protected:
-  void UseSeveralColumns() {
-    FInspector->SetDisplayOptions(FInspector->GetDisplayOptions() + TILEDisplayOptions{doMultiColValues});
-  }
   template <class F>
   static QString ErrorOf(F action) {
     try {
@@ -126,17 +123,6 @@ TEST_F(ItemPropertyTest, MinusOneMeansTheObjectOfTheCurrentColumn) {
   EXPECT_EQ(0, Item("Whole").GetOrdProperty(-1));
 }
 
-TEST_F(ItemPropertyTest, AnItemThatIsNoPropertyCannotBeRead) {
-  FSample->Styles = {ssBold};
-  Inspect({FSample.get()});
-  TKTItemProperty& member = Item("Styles.ssBold");
-  const QString error = "ETORVException: Item \"Styles.ssBold\" is not a real property";
-  EXPECT_EQ(error, ErrorOf([&] { member.GetOrdProperty(0); }));
-  EXPECT_EQ(error, ErrorOf([&] { member.GetObjectProperty(0); }));
-  EXPECT_EQ(error, ErrorOf([&] { member.GetObjectPropertyClass(); }));
-  EXPECT_EQ("True", member.GetStringProperty(0));
-}
-
 TEST_F(ItemPropertyTest, AnElementsObjectIsTheItemOfTheCollection) {
   FSample->GetItems().AddItem("one");
   FSample->GetItems().AddItem("two");
@@ -204,17 +190,6 @@ TEST_F(ItemPropertyTest, WritingTellsBeforeAndAfter) {
   EXPECT_EQ("0 5", log.join(u' '));
 }
 
-TEST_F(ItemPropertyTest, AnItemThatIsNoPropertyShowsWhatIsWritten) {
-  const auto items = Make<TKTItemProperties>(nullptr);
-  TKTItemProperty* item = items->Add();
-  item->SetOrdProperty(12, -1);
-  EXPECT_EQ("12", item->GetValue());
-  EXPECT_EQ(tkInteger, item->GetTypeKind());
-  item->SetStringProperty("text", -1);
-  EXPECT_EQ("text", item->GetValue());
-  EXPECT_EQ(tkLString, item->GetTypeKind());
-}
-
 // Copies.
 
 TEST_F(ItemPropertyTest, ACopyStandsForTheSame) {
@@ -264,19 +239,6 @@ TEST_F(ItemPropertyTest, ReadOnlyPropertiesThatLeadOnShowAlsoWhereReadOnlyOnesDo
   EXPECT_TRUE(Item("Items.Items[0]").IsVisible());
   EXPECT_LE(0, Item("Styles").GetAbsoluteVIndex());
   EXPECT_EQ(-1, Item("Double").GetAbsoluteVIndex());
-}
-
-// Refreshing.
-
-TEST_F(ItemPropertyTest, AnItemsOwnHandlerHearsOfARefreshInPlaceOfTheInspectors) {
-  QStringList log;
-  FInspector->OnRefreshValue = [&](TObject*, TKTItemProperty* item) { log += "inspector " + item->GetName(); };
-  const auto part = Make<TSamplePart>();
-  Inspect({part.get()});
-  Item("Size").SetOnRefreshValue([&](TObject*, TKTItemProperty* item) { log += "item " + item->GetName(); });
-  Item("Size").RefreshValue();
-  Item("Title").RefreshValue();
-  EXPECT_EQ("item Size|inspector Title", log.join(u'|'));
 }
 
 }  // namespace
