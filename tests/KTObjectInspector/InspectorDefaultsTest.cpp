@@ -1,9 +1,5 @@
-// What a new inspector is set to, and what it streams.
+// What a new inspector is set to, and what it publishes.
 #include "KTObjectInspector/InspectorFixture.h"
-#include "kt/KTPropertyPresets.h"
-#include "kt/rtl/objects/Exceptions.h"
-#include "kt/rtl/streams/Reader.h"
-#include "kt/rtl/streams/Writer.h"
 #include "kt/rtl/typeinfo/PropLists.h"
 #include "support/FormText.h"
 
@@ -15,6 +11,13 @@ namespace {
 class InspectorDefaultsTest : public TInspectorTest {
  protected:
   void SetUp() override { RegisterObjectInspector(); }
+  /// The names, in alphabetical order.
+  static QStringList PublishedBy(const TClassInfo* classInfo) {
+    QStringList names;
+    for (const TPropInfo* property : GetPropList(classInfo)) names += property->Name();
+    names.sort();
+    return names;
+  }
 };
 
 constexpr TTypeKinds kListedKinds = tkAny - TTypeKinds{tkUnknown, tkMethod, tkArray, tkRecord, tkDynArray};
@@ -51,21 +54,35 @@ TEST_F(InspectorDefaultsTest, ArraysAndRecordsAreNeverAmongTheDisplayedKinds) {
   EXPECT_EQ(tkAny - TTypeKinds({tkArray, tkRecord, tkDynArray}), FInspector->GetDisplayKinds());
 }
 
-TEST_F(InspectorDefaultsTest, TheCategoryMapHasSixtyTwoLines) {
-  TStringList& categories = Items().GetCategories();
-  ASSERT_EQ(62, categories.GetCount());
-  for (const char* line : {"Action=Action", "BiDiMode=Locale", "ParentBiDiMode=Linkage", "Width=Visual"}) {
-    EXPECT_LE(0, categories.IndexOf(QString::fromLatin1(line))) << line;
+TEST_F(InspectorDefaultsTest, WhatIsPublishedIsWhatAnItemListEditorPublishesAndWhatInspectorsAdd) {
+  QStringList expected = PublishedBy(TKTItemListEditor::Class());
+  // Rows and columns are the inspector's own business.
+  for (const char* name : {"CaseSensitive", "ColCount", "RowCount"}) {
+    EXPECT_EQ(1, expected.removeAll(QString::fromLatin1(name))) << name;
   }
+  expected += QStringLiteral(
+                  "DisplayKinds DynamicTitleCaptions VisibleRowCount OnRefreshValue OnAfterScan OnBeforeScan "
+                  "InplaceCollections InplaceComponents InplaceTStrings InplaceTStringsOptions StringsItemFormat "
+                  "CollectionItemFormat FiltersEnabled FilterOptions Filters OnCustomPreset OnMatchPreset "
+                  "OnFiltersChanging OnFiltersChanged OnPropertyChanging OnPropertyChanged ShowValueChangedFont "
+                  "ValueChangedFont Component Objects Presets")
+                  .split(u' ');
+  if (!expected.contains(QLatin1StringView("FixedRows"))) expected += QStringLiteral("FixedRows");
+  expected.sort();
+  EXPECT_EQ(expected.join(u' '), PublishedBy(TKTObjectInspector::Class()).join(u' '));
 }
 
-TEST_F(InspectorDefaultsTest, GridPropertiesThatAnInspectorMakesItselfAreNotPublished) {
-  for (const char* name : {"CaseSensitive", "ColCount", "RowCount"}) {
-    EXPECT_EQ(nullptr, GetPropInfo(TKTObjectInspector::Class(), QString::fromLatin1(name))) << name;
-  }
-  EXPECT_NE(nullptr, GetPropInfo(TKTObjectInspector::Class(), u"FixedRows"));
+TEST_F(InspectorDefaultsTest, PropertiesArePublishedWithTheirTypesAndDefaults) {
   EXPECT_FALSE(GetPropInfo(TKTObjectInspector::Class(), u"VisibleRowCount")->IsWritable());
-  EXPECT_EQ(1, GetPropInfo(TKTObjectInspector::Class(), u"Sorted")->Default());
+  EXPECT_EQ("TKTItemProperties", GetPropInfo(TKTObjectInspector::Class(), u"Items")->PropType()->Name());
+  const std::pair<const char*, qint64> defaults[] = {
+      {"Sorted", 1},           {"InplaceCollections", 0}, {"InplaceComponents", 1},    {"InplaceTStrings", 0},
+      {"FiltersEnabled", 1},   {"FilterOptions", 0},      {"ShowValueChangedFont", 1}, {"DynamicTitleCaptions", 0},
+      {"ArrangeByCategory", 0}};
+  for (const auto& [name, value] : defaults) {
+    EXPECT_EQ(value, GetPropInfo(TKTObjectInspector::Class(), QString::fromLatin1(name))->Default()) << name;
+  }
+  EXPECT_FALSE(GetPropInfo(TKTObjectInspector::Class(), u"InplaceTStringsOptions")->HasDefault());
 }
 
 TEST_F(InspectorDefaultsTest, TheChangedFontFollowsTheValueFont) {
@@ -74,59 +91,6 @@ TEST_F(InspectorDefaultsTest, TheChangedFontFollowsTheValueFont) {
   EXPECT_EQ(TFontStyles{fsBold}, FInspector->GetValueChangedFont().GetStyle());
   FInspector->GetFont().SetHeight(-20);
   EXPECT_EQ(-30, FInspector->GetValueChangedFont().GetHeight());
-}
-
-TEST_F(InspectorDefaultsTest, ItemsAreStreamedUnderANameOfTheirOwnAndComeBack) {
-  const auto sample = Make<TSample>();
-  Inspect({sample.get()});
-  FInspector->GetObjects().Clear();
-  Items().Add()->SetName("own");
-  TKTItemProperty* item = Items().GetItem(0);
-  item->SetTypeKind(tkSet);
-  item->SetTypeName("TKinds");
-  item->SetAllEqual(true);
-  item->GetItems().Add()->SetName("below");
-  const QByteArray form = WriteComponentToBinary(FInspector.get());
-  EXPECT_THAT(TextOf(FInspector.get()), testing::HasSubstr("HItems = <"));
-  const auto copy = Make<TKTObjectInspector>();
-  TReader(form).ReadRootComponent(copy.get());
-  ASSERT_EQ(1, copy->GetItems().GetCount());
-  const TKTItemProperty* read = copy->GetItems().GetItem(0);
-  EXPECT_EQ("own", read->GetName());
-  EXPECT_EQ(tkSet, read->GetTypeKind());
-  EXPECT_EQ("TKinds", read->GetTypeName());
-  EXPECT_TRUE(read->IsAllEqual());
-  EXPECT_EQ("below", copy->GetItems().GetItem(0)->GetItems().GetItem(0)->GetName());
-}
-
-TEST_F(InspectorDefaultsTest, PresetsAreStreamedUnderANameOfTheirOwnAndComeBack) {
-  FInspector->GetPresets().Clear();
-  TKTPropertyPreset* preset = FInspector->GetPresets().Add();
-  preset->SetName("mine");
-  EXPECT_THAT(TextOf(FInspector.get()), testing::HasSubstr("HPresets"));
-  const auto copy = Make<TKTObjectInspector>();
-  TReader(WriteComponentToBinary(FInspector.get())).ReadRootComponent(copy.get());
-  ASSERT_EQ(1, copy->GetPresets().GetCount());
-  EXPECT_EQ("mine", copy->GetPresets().GetItem(0)->GetName());
-}
-
-TEST_F(InspectorDefaultsTest, AnAssignmentCopiesAndEndsInTheErrorOfOneThatIsNotPossible) {
-  const auto other = Make<TKTObjectInspector>();
-  const auto sample = Make<TSample>();
-  other->SetCollectionItemFormat("a%d");
-  other->SetInplaceCollections(true);
-  other->GetFilters().Add("Tag");
-  other->GetObjects().Add(sample.get());
-  try {
-    FInspector->Assign(other.get());
-    FAIL();
-  } catch (const EConvertError& error) {
-    EXPECT_EQ("Cannot assign a TKTObjectInspector to a TKTObjectInspector", error.Message());
-  }
-  EXPECT_EQ("a%d", FInspector->GetCollectionItemFormat());
-  EXPECT_TRUE(FInspector->GetInplaceCollections());
-  EXPECT_EQ("Tag", FInspector->GetFilters().GetStrings(0));
-  EXPECT_EQ(sample.get(), FInspector->GetObjects().GetItem(0)->GetObjects());
 }
 
 }  // namespace

@@ -222,6 +222,12 @@ TEST_F(InspectorObjectsTest, SettingTheComponentReplacesTheFirstEntryAlone) {
   EXPECT_EQ(FSecond.get(), Objects().GetItem(1)->GetObjects());
 }
 
+TEST_F(InspectorObjectsTest, SettingNoComponentInAnEmptyListDoesNothing) {
+  FInspector->SetInspectedComponent(nullptr);
+  EXPECT_EQ(0, Objects().GetCount());
+  EXPECT_EQ("", TakeLog());
+}
+
 TEST_F(InspectorObjectsTest, SettingNoComponentRemovesTheFirstEntryThatLacksAnObjectOrOwner) {
   const auto font = Make<TFont>();
   Objects().Add(FFirst.get(), font.get());

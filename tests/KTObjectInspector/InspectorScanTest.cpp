@@ -31,6 +31,20 @@ TEST_F(InspectorScanTest, AScanIsToldOfAsAWholeAndForEachItemThatIsEntered) {
   EXPECT_FALSE(IsLocked());
 }
 
+TEST_F(InspectorScanTest, ElementsAndWhatInterfacesLeadToAreToldOfInTheOrderOfTheTree) {
+  const auto other = Make<TComponent>();
+  FSample->GetItems().AddItem("one");
+  FSample->GetItems().AddItem("two");
+  FSample->Reference = other.get();
+  FInspector->SetInplaceCollections(true);
+  Inspect({FSample.get()});
+  EXPECT_EQ(
+      "before(-) before(Items) before(Items[0]) before(Children) after(Children) after(Items[0]) before(Items[1]) "
+      "before(Children) after(Children) after(Items[1]) after(Items) before(Part) after(Part) before(Reference) "
+      "after(Reference) after(-)",
+      TakeLog());
+}
+
 TEST_F(InspectorScanTest, ChangesOfOneHandlerAreFoldedIntoOneScan) {
   FInspector->GetObjects().Add(FPart.get());
   FInspector->SetInplaceCollections(true);

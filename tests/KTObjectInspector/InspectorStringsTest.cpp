@@ -1,35 +1,9 @@
 // String lists whose lines are listed in place.
 #include "KTObjectInspector/InspectorFixture.h"
-#include "kt/rtl/typeinfo/ClassBuilder.h"
+#include "KTObjectInspector/LinesHolder.h"
 
 namespace kt::tests {
 namespace {
-
-/// A component with a published string list.
-class TLinesHolder : public TComponent {
- public:
-  using Inherited = TComponent;
-  static const TClassInfo* Class() {
-    static const TClassInfo info = TClassBuilder<TLinesHolder>("TLinesHolder")
-                                       .Property<&TLinesHolder::GetLines, &TLinesHolder::SetLines>("Lines")
-                                       .Done();
-    return &info;
-  }
-  const TClassInfo* ClassType() const override { return Class(); }
-
-  TStrings& GetLines() { return *FLines; }
-  void SetLines(TStrings& value) { FLines->Assign(&value); }
-
- protected:
-  explicit TLinesHolder(TComponent* owner = nullptr) : TComponent(owner) {}
-  void Construct() override {
-    FLines = Make<TStringList>();
-    TComponent::Construct();
-  }
-
- private:
-  std::unique_ptr<TStringList> FLines;
-};
 
 class InspectorStringsTest : public TInspectorTest {
  protected:

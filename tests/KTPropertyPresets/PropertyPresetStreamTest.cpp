@@ -141,6 +141,16 @@ TEST_F(PropertyPresetStreamTest, APresetWithEverythingComesBack) {
   EXPECT_TRUE(copy->OnValidate);
 }
 
+TEST_F(PropertyPresetStreamTest, LinesSwitchTheirTestOnAgainWhenTheyAreReadDeliberately) {
+  TKTPropertyPreset* preset = FForm->Presets->Add();
+  preset->GetPropNames().Add("Part.Size");
+  preset->SetMatchTypes({mtFullPropertyName});
+  TKTPropertyPreset* copy = ReadBack();
+  EXPECT_EQ("Part.Size\r\n", copy->GetPropNames().GetText());
+  // What is tested is written before the lines, and filling a list is what switches its test on.
+  EXPECT_EQ((TKTPresetMatchTypes{mtPropertyName, mtFullPropertyName}), copy->GetMatchTypes());
+}
+
 TEST_F(PropertyPresetStreamTest, ActionsAreReadLastAndSoAreAsTheyWere) {
   TKTPropertyPreset* preset = FForm->Presets->Add();
   preset->SetAlias("alias");
