@@ -21,6 +21,12 @@ struct TEnumNames<tests::TForeignAlign> {
 namespace kt::tests {
 namespace {
 
+/// A 32-bit number under the name of another kind's type.
+const TTypeInfo* SmallNumberCalledInt64() {
+  static const TOrdTypeInfo info(tkInteger, QStringLiteral("Int64"), otSLong, -0x7FFFFFFF - 1, 0x7FFFFFFF);
+  return &info;
+}
+
 /// Has properties of a TSample's names, some of them with other types.
 class TForeignSample : public TComponent {
  public:
@@ -32,6 +38,7 @@ class TForeignSample : public TComponent {
                                        .Property<&TForeignSample::Color>("Color")
                                        .Property<&TForeignSample::Align>("Align")
                                        .Property<&TForeignSample::Text>("Text", &TypeInfos::WideText)
+                                       .Property<&TForeignSample::Big>("Big", &SmallNumberCalledInt64)
                                        .Property<&TForeignSample::Ratio>("Ratio")
                                        .Property<&TForeignSample::Partner>("Partner")
                                        .Property<&TForeignSample::Sibling>("Sibling")
@@ -45,6 +52,7 @@ class TForeignSample : public TComponent {
   int Color = 0;     // the same kind under another name
   TForeignAlign Align = foreignNone;
   QString Text;
+  int Big = 0;  // another kind under the same name
   double Ratio = 0;
   TComponent* Partner = nullptr;
   TComponent* Sibling = nullptr;
@@ -67,6 +75,7 @@ TEST_F(InspectorSharingTest, OnlyWhatAllObjectsHaveIsListed) {
 }
 
 TEST_F(InspectorSharingTest, OnlyWhatHasTheSameTypeInAllObjectsIsListed) {
+  ASSERT_EQ(SmallNumberCalledInt64()->Name(), TypeInfoOf<qint64>()->Name());
   Inspect({FSample.get(), FForeign.get()});
   EXPECT_EQ("Name Partner Ratio Small Tag", Names(Items()));
 }

@@ -34,9 +34,9 @@ class TStreamedInspector : public TKTObjectInspector {
   }
   void Loaded() override {
     EXPECT_TRUE(HasState(csLoading));
-    InvalidateScan();
-    QCoreApplication::sendPostedEvents();
     Rescan();
+    // Would be delivered when all is read.
+    InvalidateScan();
     Log += QStringLiteral("loaded");
     TKTObjectInspector::Loaded();
   }
@@ -109,6 +109,7 @@ TEST_F(InspectorStreamsTest, PresetsChangeTheItemsThatWereRead) {
   EXPECT_EQ("", inspector.GetItems().FindItemByFullPathName("own")->GetHint());
   Deliver();
   EXPECT_EQ("loaded", TStreamedInspector::TakeLog());
+  EXPECT_NE(nullptr, inspector.GetItems().FindItemByFullPathName("own.below"));
 }
 
 TEST_F(InspectorStreamsTest, ComponentPresetsAndItemsAreNotWrittenUnderTheirPublishedNames) {
