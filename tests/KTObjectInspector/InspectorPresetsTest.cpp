@@ -1,5 +1,6 @@
 // What the presets of an inspector do to the items that a scan has made.
 #include "KTObjectInspector/InspectorFixture.h"
+#include "kt/KTPropertyPresets/PropertyPresets.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "support/Expect.h"
 
