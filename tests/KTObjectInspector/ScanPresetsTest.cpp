@@ -1,8 +1,6 @@
 // What the presets of an inspector do to the items that a scan has made.
 #include "KTObjectInspector/InspectorFixture.h"
 #include "kt/KTPropertyPresets/PropertyPresets.h"
-#include "kt/rtl/typeinfo/ClassBuilder.h"
-#include "support/Expect.h"
 
 #include <algorithm>
 #include <set>
@@ -11,9 +9,9 @@
 namespace kt::tests {
 namespace {
 
-class InspectorPresetsTest : public TInspectorTest {
+class ScanPresetsTest : public TInspectorTest {
  protected:
-  InspectorPresetsTest() { FInspector->GetPresets().Clear(); }
+  ScanPresetsTest() { FInspector->GetPresets().Clear(); }
 
   TKTPropertyPreset& AddPreset(const QString& propertyName) {
     TKTPropertyPreset* preset = FInspector->GetPresets().Add();
@@ -32,7 +30,7 @@ class InspectorPresetsTest : public TInspectorTest {
   std::vector<TKTItemProperty*> FAsked;
 };
 
-TEST_F(InspectorPresetsTest, EveryItemIsAskedAboutOnceThoughAnAliasMovesOne) {
+TEST_F(ScanPresetsTest, EveryItemIsAskedAboutOnceThoughAnAliasMovesOne) {
   AddPreset("Color").SetAlias("Zebra");
   LogMatches();
   Inspect({FSample.get()});
@@ -41,20 +39,20 @@ TEST_F(InspectorPresetsTest, EveryItemIsAskedAboutOnceThoughAnAliasMovesOne) {
   EXPECT_TRUE(Names(Items()).endsWith("Zebra"));
 }
 
-TEST_F(InspectorPresetsTest, ItemsOfAllLevelsAreAskedAbout) {
+TEST_F(ScanPresetsTest, ItemsOfAllLevelsAreAskedAbout) {
   AddPreset("ssBold").SetHint("heavy");
   Inspect({FSample.get()});
   EXPECT_EQ("heavy", Item("Styles.ssBold").GetHint());
 }
 
-TEST_F(InspectorPresetsTest, ALaterPresetOverridesAnEarlierOne) {
+TEST_F(ScanPresetsTest, ALaterPresetOverridesAnEarlierOne) {
   AddPreset("Whole").SetHint("first");
   AddPreset("Whole").SetHint("second");
   Inspect({FSample.get()});
   EXPECT_EQ("second", Item("Whole").GetHint());
 }
 
-TEST_F(InspectorPresetsTest, TheInspectorsHandlersHearOfItsPresets) {
+TEST_F(ScanPresetsTest, TheInspectorsHandlersHearOfItsPresets) {
   TKTPropertyPreset& preset = AddPreset("Whole");
   preset.SetActions({pftCustom});
   TObject* sender = nullptr;
@@ -69,7 +67,7 @@ TEST_F(InspectorPresetsTest, TheInspectorsHandlersHearOfItsPresets) {
 }
 
 // The list of categories that counts for the new name is that of the level, which is another one below a category.
-TEST_F(InspectorPresetsTest, AnAliasBelowACategoryMovesItsItemToTheDefaultCategory) {
+TEST_F(ScanPresetsTest, AnAliasBelowACategoryMovesItsItemToTheDefaultCategory) {
   Items().GetCategories().Add("Whole=One");
   Items().GetCategories().Add("Parted=Two");
   FInspector->SetArrangeByCategory(true);
@@ -79,50 +77,6 @@ TEST_F(InspectorPresetsTest, AnAliasBelowACategoryMovesItsItemToTheDefaultCatego
   TKTItemProperty& item = Item("Miscellaneous.Parted");
   EXPECT_EQ("Whole", item.GetRealPropName());
   EXPECT_EQ(1, std::count(FAsked.begin(), FAsked.end(), &item));
-}
-
-/// Publishes something else from one moment on.
-class TTurncoat : public TComponent {
- public:
-  using Inherited = TComponent;
-
-  static const TClassInfo* Before() {
-    static const TClassInfo info = TClassBuilder<TTurncoat>("TTurncoat")
-                                       .Property<&TTurncoat::GetNumber, &TTurncoat::SetNumber>("One")
-                                       .Property<&TTurncoat::GetNumber, &TTurncoat::SetNumber>("Two")
-                                       .Done();
-    return &info;
-  }
-  static const TClassInfo* After() {
-    static const TClassInfo info =
-        TClassBuilder<TTurncoat>("TTurncoat").Property<&TTurncoat::GetNumber, &TTurncoat::SetNumber>("One").Done();
-    return &info;
-  }
-  const TClassInfo* ClassType() const override { return HasTurned ? After() : Before(); }
-
-  int GetNumber() const { return FNumber; }
-  void SetNumber(int value) { FNumber = value; }
-
-  bool HasTurned = false;
-
- protected:
-  explicit TTurncoat(TComponent* owner = nullptr) : TComponent(owner) {}
-
- private:
-  int FNumber = 0;
-};
-
-TEST_F(InspectorPresetsTest, APropertyThatIsNotPublishedAnyMoreWhenItsTurnComesRaises) {
-  const auto turncoat = Make<TTurncoat>();
-  Inspect({turncoat.get()});
-  EXPECT_NE(nullptr, Find("Two"));
-  FInspector->SetArrangeByCategory(true);
-  FInspector->OnCategorize = [&](TObject*, TKTItemProp* item, const QString&, QString&) {
-    turncoat->HasTurned |= item != nullptr;
-  };
-  EXPECT_EQ("Property Two does not exist", MessageOf<EPropertyError>([&] { Rescan(); }));
-  EXPECT_FALSE(FInspector->IsEditUpdateLocked());
-  EXPECT_EQ(0, Items().GetUpdateCount());
 }
 
 }  // namespace
