@@ -43,11 +43,13 @@ class TItemTreeModel {
       // A name that was not unique.
     } catch (const EInvalidOperation&) {
       // Something that a handler freed while it was in use.
+    } catch (const Exception& error) {
+      FError = error.Message();
     }
   }
   QString Fault() const {
     const TItemTreeWalk walk(*FEditor);
-    QString fault = walk.ItemFault() + walk.EntriesFault();
+    QString fault = FError + walk.ItemFault() + walk.EntriesFault();
     if (FBrackets > 0) return fault + walk.StandingRowsFault();
     fault += walk.RowsFault();
     // The grid follows when nothing keeps it from that any more.
@@ -266,6 +268,8 @@ class TItemTreeModel {
   std::unique_ptr<TKTItemListEditor> FEditor = Make<TKTItemListEditor>();
   TStepRandom FRandom;
   int FOperation = 0;
+  /// What no operation may raise.
+  QString FError;
   std::vector<int> FDrawn;
   int FBrackets = 0;
   int FActsFromInside = 0;

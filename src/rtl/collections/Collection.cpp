@@ -9,6 +9,7 @@
 #include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace kt {
@@ -58,7 +59,8 @@ TCollectionItem* TCollection::Insert(int index) {
   std::unique_ptr<TCollectionItem> item(Add());
   const TLifeWatch watch(item.get());
   try {
-    item->SetIndex(index);
+    // Whoever heard of the item may have taken it elsewhere, or others away.
+    if (item->GetCollection() == this) item->SetIndex(std::min(index, GetCount() - 1));
     CheckAlive(watch);
   } catch (...) {
     if (!watch.IsAlive()) static_cast<void>(item.release());

@@ -182,6 +182,21 @@ TEST_F(CollectionHooksTest, AnUpdateThatRaisesAtTheEndOfClearComesToTheCaller) {
   Items->On = {};
 }
 
+TEST_F(CollectionHooksTest, AnInsertedItemStandsAtTheEndOfAListThatWasShortenedMeanwhile) {
+  Items->Clear();
+  Items->Add();
+  Items->Add();
+  bool isDone = false;
+  Items->On = [&](const char* hook) {
+    if (qstrcmp(hook, "added") != 0 || std::exchange(isDone, true)) return;
+    Items->Delete(0);
+    Items->Delete(0);
+  };
+  TCollectionItem* item = Items->Insert(2);
+  EXPECT_EQ(1, Items->GetCount());
+  EXPECT_EQ(0, item->GetIndex());
+}
+
 constexpr char kFreed[] = "An object was freed while it was in use";
 
 /// A hook that an addition calls.
