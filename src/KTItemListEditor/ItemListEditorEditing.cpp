@@ -1,4 +1,5 @@
 // How the cells of TKTCustomItemListEditor are edited.
+#include "kt/KTItemListEditor/EditUpdateLock.h"
 #include "kt/KTItemListEditor/InplaceEditList.h"
 #include "kt/KTItemListEditor/ItemListEditor.h"
 #include "kt/KTItemListEditor/ItemWatch.h"
@@ -9,41 +10,6 @@
 #include "kt/vcl/stdctrls/ListBox.h"
 
 namespace kt {
-
-namespace {
-
-/// The lock of an editor, for a bracket. An editor that died meanwhile is left alone.
-class TTypingLock {
- public:
-  explicit TTypingLock(TKTCustomItemListEditor& editor) : FEditor(editor), FLife(&editor) {}
-
-  void BeginUpdate() { FEditor.DisableEditUpdate(); }
-  void EndUpdate() {
-    if (FLife.IsAlive()) FEditor.EnableEditUpdate();
-  }
-
- private:
-  TKTCustomItemListEditor& FEditor;
-  TLifeWatch FLife;
-};
-
-/// The update bracket of lines that may die in it.
-class TLinesUpdate {
- public:
-  explicit TLinesUpdate(TStrings& lines) : FLines(lines), FLife(&lines) {}
-
-  bool IsAlive() const { return FLife.IsAlive(); }
-  void BeginUpdate() { FLines.BeginUpdate(); }
-  void EndUpdate() {
-    if (FLife.IsAlive()) FLines.EndUpdate();
-  }
-
- private:
-  TStrings& FLines;
-  TLifeWatch FLife;
-};
-
-}  // namespace
 
 TInplaceEdit* TKTCustomItemListEditor::CreateEditor() {
   auto* editor = New<TKTInplaceEditList>(this);
@@ -124,13 +90,12 @@ bool TKTCustomItemListEditor::GetPickList(TKTItemProp* item, TStrings& values, b
   const QString name = GetCell(cell.X, cell.Y);
   if (name.isEmpty()) return false;
   const TLifeWatch self(this);
-  TLinesUpdate update(values);
-  const TUpdateBracket bracket(update);
+  const TUpdateBracket bracket(values);
   if (clearFirst) values.Clear();
   const TKTGetPickListEvent own = item ? item->GetOnGetPickList() : TKTGetPickListEvent();
   const TKTGetPickListEvent handler = own ? own : OnGetPickList;
   handler(own ? static_cast<TObject*>(item) : this, item ? item->GetFullPathName() : name, values);
-  if (!self.IsAlive() || !update.IsAlive()) return false;
+  if (!self.IsAlive() || !bracket.IsAlive()) return false;
   const bool hasValues = values.GetCount() > 0;
   if (TKTInplaceEditList* editor = ListEditor()) editor->SetPickListLoaded(hasValues);
   return hasValues;
@@ -143,7 +108,7 @@ void TKTCustomItemListEditor::SetEditText(int col, int row, const QString& value
   const TLifeWatch self(this);
   TCustomDrawGrid::SetEditText(col, row, value);
   if (!self.IsAlive()) return;
-  TTypingLock lock(*this);
+  TEditUpdateLock lock(*this);
   const TUpdateBracket bracket(lock);
   // Deliberately the row, even where the columns are the items.
   if (row - GetFixedRows() >= GetVisibleItemCount() && !value.isEmpty()) {

@@ -1,3 +1,4 @@
+#include "kt/KTItemListEditor/EditUpdateLock.h"
 #include "kt/KTItemListEditor/ItemListEditor.h"
 #include "kt/KTItemListEditor/ItemRows.h"
 #include "kt/KTItemListEditor/ItemSnapshot.h"
@@ -6,22 +7,6 @@
 #include "kt/rtl/objects/LifeWatch.h"
 
 namespace kt {
-
-namespace {
-
-/// The lock of an editor, for a bracket: taken and given back also when what is between throws. An editor that died
-/// meanwhile is left alone.
-struct TEditUpdateLock {
-  TKTCustomItemListEditor& Editor;
-  TLifeWatch Life{&Editor};
-
-  void BeginUpdate() { Editor.DisableEditUpdate(); }
-  void EndUpdate() {
-    if (Life.IsAlive()) Editor.EnableEditUpdate();
-  }
-};
-
-}  // namespace
 
 TKTItemProp* TKTCustomItemListEditor::GetItem(int index) const { return TItemRows::FindEntry(*FItems, index); }
 
@@ -54,7 +39,7 @@ void TKTCustomItemListEditor::UpdateItemProp(TKTItemProp* item) {
   if (IsUpdating()) return;
   const TLifeWatch self(this);
   if (!item && !IsEditUpdateLocked()) {
-    TEditUpdateLock lock{*this};
+    TEditUpdateLock lock(*this);
     const TUpdateBracket bracket(lock);
     ShowRows();
   } else if (!item) {

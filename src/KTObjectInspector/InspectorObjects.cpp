@@ -1,7 +1,6 @@
 #include "kt/KTObjectInspector/InspectorObjects.h"
 
 #include "kt/KTObjectInspector/ObjectInspector.h"
-#include "kt/KTObjectInspector/UpdateLock.h"
 #include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/LifeWatch.h"
@@ -13,8 +12,6 @@
 namespace kt {
 
 namespace {
-
-using TObjectsUpdate = TLivingUpdate<TKTInspectorObjects>;
 
 void CheckAlive(const TLifeWatch& watch) {
   if (!watch.IsAlive()) throw EInvalidOperation(SObjectFreed.toString());
@@ -52,9 +49,9 @@ int TKTInspectorObjects::IndexOfOwner(const TComponent* owner) const {
 
 TKTInspectorObject* TKTInspectorObjects::Add(TObject* object) {
   const TObjectRef watched(object);
-  TObjectsUpdate update(*this);
-  const TUpdateBracket bracket(update);
-  // A handler of the change may have freed the object meanwhile; there is nothing to inspect then.
+  const TUpdateBracket bracket(*this);
+  // A handler of the change may have freed the object meanwhile.
+  if (object && !watched) throw EInvalidOperation(SObjectFreed.toString());
   const int index = IndexOf(watched.Get());
   TKTInspectorObject* entry = index < 0 ? Add() : GetItem(index);
   entry->SetObjects(watched.Get());
@@ -64,8 +61,7 @@ TKTInspectorObject* TKTInspectorObjects::Add(TObject* object) {
 TKTInspectorObject* TKTInspectorObjects::Add(TComponent* owner, TObject* object) {
   const TObjectRef watchedOwner(owner);
   const TObjectRef watched(object);
-  TObjectsUpdate update(*this);
-  const TUpdateBracket bracket(update);
+  const TUpdateBracket bracket(*this);
   TKTInspectorObject* entry = Add(watched.Get());
   entry->SetOwnerComponent(static_cast<TComponent*>(watchedOwner.Get()));
   return entry;
@@ -83,8 +79,7 @@ int TKTInspectorObjects::Remove(const TObject* object) {
   const int index = IndexNaming(object);
   if (index < 0) return -1;
   const TObjectRef entry(GetItem(index));
-  TObjectsUpdate update(*this);
-  const TUpdateBracket bracket(update);
+  const TUpdateBracket bracket(*this);
   // Whoever heard of the coming change may have removed it already.
   if (entry) Delete(static_cast<TKTInspectorObject*>(entry.Get())->GetIndex());
   return index;
@@ -120,8 +115,7 @@ void TKTInspectorObjects::LetGo(const TComponent* dying) {
 
 void TKTInspectorObjects::AssignNonEmpty(TKTInspectorObjects& source) {
   const TLifeWatch watchOfSource(&source);
-  TObjectsUpdate update(*this);
-  const TUpdateBracket bracket(update);
+  const TUpdateBracket bracket(*this);
   CheckAlive(watchOfSource);
   Clear();
   for (int i = 0; i < source.GetCount(); ++i) {

@@ -48,7 +48,7 @@ void TKTItemProperty::WriteProperty(int index, TTypeKind kind, const QString& te
   const TLifeWatch watchOfInspector(inspector);
   const int place = GetAbsoluteIndex();
   if (inspector) inspector->PropertyChanging(this);
-  if (!self || !watchOfInspector.IsAlive() != !inspector) return;
+  if (!self || (inspector && !watchOfInspector.IsAlive())) return;
   if (!inspector || !FIsRealProperty) {
     SetTypeKind(kind);
     if (self) SetValue(text);
@@ -125,16 +125,22 @@ void TKTItemProperty::SetInt64Property(qint64 value, int index) {
 }
 
 void TKTItemProperty::SetInterfaceProperty(IInterface* value, int index) {
-  const TComponent* component = ComponentBehind(value);
+  TComponent* component = ComponentBehind(value);
+  const TObjectRef watched(component);
   WriteProperty(index, tkInterface, component ? component->GetName() : QString(),
-                [&](TObject* holder, const QString& name) { SetInterfaceProp(holder, name, value); });
+                [&](TObject* holder, const QString& name) {
+                  SetInterfaceProp(holder, name, component && !watched ? nullptr : value);
+                });
 }
 
 void TKTItemProperty::SetMethodProperty(const TMethod& value, int index) {
-  const TObject* instance = value.Instance();
-  const QString text = instance ? instance->ClassType()->MethodName(value) : QString();
-  WriteProperty(index, tkMethod, text,
-                [&](TObject* holder, const QString& name) { SetMethodProp(holder, name, value); });
+  const TMethod method = value;
+  TObject* instance = method.Instance();
+  const TObjectRef watched(instance);
+  const QString text = instance ? instance->ClassType()->MethodName(method) : QString();
+  WriteProperty(index, tkMethod, text, [&](TObject* holder, const QString& name) {
+    SetMethodProp(holder, name, instance && !watched ? TMethod() : method);
+  });
 }
 
 void TKTItemProperty::SetObjectProperty(TObject* value, int index) {

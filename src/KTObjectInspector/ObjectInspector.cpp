@@ -167,6 +167,9 @@ void TKTCustomObjectInspector::CopyInspector(TKTCustomObjectInspector& other) {
   checkBoth();
   FFiltersEnabled = other.FFiltersEnabled;
   FFilterOptions = other.FFilterOptions;
+  // A list does not take over how another one compares.
+  FFilters->SetCaseSensitive(FFilterOptions.Has(foCaseSensitive));
+  checkBoth();
   copyFilters();
   FValueChangedFont->Assign(other.FValueChangedFont.get());
 }

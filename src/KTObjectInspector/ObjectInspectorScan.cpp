@@ -1,9 +1,9 @@
 // How and when an inspector builds its tree.
+#include "kt/KTItemListEditor/EditUpdateLock.h"
 #include "kt/KTItemListEditor/ItemSnapshot.h"
 #include "kt/KTItemListEditor/ItemWatch.h"
 #include "kt/KTObjectInspector/ObjectInspector.h"
 #include "kt/KTObjectInspector/Scan.h"
-#include "kt/KTObjectInspector/UpdateLock.h"
 #include "kt/KTPropertyPresets/PropertyPresets.h"
 #include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/rtl/objects/LifeWatch.h"
@@ -131,7 +131,7 @@ void TKTCustomObjectInspector::ScanProperties() {
     return;
   }
   const TLifeWatch self(this);
-  TInspectorLock lock(*this);
+  TEditUpdateLock lock(*this);
   const TUpdateBracket bracket(lock);
   const auto objects = Make<TKTInspectorObjects>(nullptr);
   objects->AssignNonEmpty(*FObjects);

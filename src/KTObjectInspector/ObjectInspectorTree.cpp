@@ -3,13 +3,11 @@
 #include "kt/KTObjectInspector/ObjectInspector.h"
 #include "kt/KTObjectInspector/Scan.h"
 #include "kt/KTObjectInspector/StringItems.h"
-#include "kt/KTObjectInspector/UpdateLock.h"
 #include "kt/rtl/collections/UpdateBracket.h"
-#include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/conversions/TextCompare.h"
-#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/Make.h"
-#include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/objects/ObjectRef.h"
 #include "kt/rtl/strings/StringList.h"
 #include "kt/rtl/typeinfo/ClassInfo.h"
 #include "kt/rtl/typeinfo/EnumNames.h"
@@ -53,17 +51,17 @@ void FillPickList(TKTItemProperty& item, const QStringList& names) {
   TStringList& list = item.GetPickList();
   const TUpdateBracket bracket(list);
   for (const QString& name : names) list.Add(name);
-  // Most lists are those of truth values, which are in order.
-  if (&names != &TruthNames()) list.Sort();
 }
 
 void OfferNamesOf(const TTypeInfo* type, TKTItemProperty& item) {
+  // These are in order.
   if (IsBoolType(type)) return FillPickList(item, TruthNames());
   QStringList names;
   const TEnumTypeInfo* enumeration = EnumTypeOf(type);
   const qint64 last = enumeration ? enumeration->MaxValue() : -1;
   for (qint64 i = enumeration ? enumeration->MinValue() : 0; i <= last; ++i) names.append(GetEnumName(type, i));
   FillPickList(item, names);
+  item.GetPickList().Sort();
 }
 
 /// The names of the members that are listed; empty where the members have none.
@@ -107,8 +105,7 @@ void TKTCustomObjectInspector::BuildCommonProperties(TScan& scan, TKTInspectorOb
   for (int i = 0; i < objects.GetCount(); ++i) scan.Enter(objects.GetItem(i)->GetObjects());
   const TClassInfo* listed = first->ClassType();
   const auto properties = GetPropList(listed, FDisplayKinds, IsSorted() ? poSorted : poDeclared);
-  TLevelUpdate level(props);
-  const TUpdateBracket bracket(level);
+  const TUpdateBracket level(props);
   for (const TPropInfo* property : properties) {
     // What can only be written has nothing to show.
     if (!property->IsReadable() || !IsSharedProperty(objects, *property)) continue;
@@ -226,14 +223,14 @@ namespace {
 
 /// The members, as bits, that are in the sets of all objects or of none.
 qint64 SharedMembers(TKTInspectorObjects& objects, const TPropInfo& property) {
+  if (objects.GetCount() == 1) return -1;
+  TObject* first = objects.GetItem(0)->GetObjects();
+  const qint64 members = first ? GetOrdProp(first, &property) : 0;
   qint64 shared = -1;
   for (int i = 1; i < objects.GetCount(); ++i) {
     const TPropInfo* own = CounterpartIn(objects, i, property);
     if (!own) return 0;
-    const qint64 bits = GetOrdProp(objects.GetItem(i)->GetObjects(), own);
-    TObject* first = objects.GetItem(0)->GetObjects();
-    if (!first) return 0;
-    shared &= ~(bits ^ GetOrdProp(first, &property));
+    shared &= ~(members ^ GetOrdProp(objects.GetItem(i)->GetObjects(), own));
   }
   return shared;
 }
@@ -251,12 +248,13 @@ void TKTCustomObjectInspector::BuildMembers(TKTItemProperty& set, TKTInspectorOb
   if (!watched) return;
   TKTItemProperties& members = set.GetItems();
   members.SetSorted(false);
-  TLevelUpdate level(members);
-  const TUpdateBracket bracket(level);
+  const TUpdateBracket level(members);
   const TLiveFlag parts(this, FIsListingParts);
   for (int ordinal = 0; ordinal < names.size(); ++ordinal) {
     if (names[ordinal].isEmpty()) continue;
     TKTItemProperty* member = members.Add();
+    // Whoever heard of it may have freed it.
+    if (!member) return;
     member->SetName(names[ordinal]);
     member->SetRealPropName(names[ordinal]);
     member->SetPropertyKind(pkSetMember);
@@ -312,80 +310,6 @@ void TKTCustomObjectInspector::BuildBelow(TScan& scan, TKTItemProperty& item, TK
   // Null would stand for the whole scan.
   if (isWanted && watched && scan.IsGoing()) BuildCommonProperties(scan, objects, item.GetItems());
   if (watched && scan.IsGoing()) AfterScan(&item);
-}
-
-// Collections.
-
-namespace {
-
-TCollection* CollectionAt(TKTInspectorObjects& objects, int index) {
-  return dynamic_cast<TCollection*>(objects.GetItem(index)->GetObjects());
-}
-
-bool HaveSameCount(TKTInspectorObjects& collections) {
-  const TCollection* first = CollectionAt(collections, 0);
-  for (int i = 0; i < collections.GetCount(); ++i) {
-    const TCollection* collection = CollectionAt(collections, i);
-    if (!first || !collection || collection->GetCount() != first->GetCount()) return false;
-  }
-  return true;
-}
-
-}  // namespace
-
-void TKTCustomObjectInspector::BuildCollectionItems(TScan& scan, TKTInspectorObjects& collections,
-                                                    TKTItemProperty& owner) {
-  if (!HaveSameCount(collections)) return;
-  // The items of this very tree grow while they are listed: those that are there at the top now, and none below.
-  const auto* own = dynamic_cast<TKTItemProps*>(CollectionAt(collections, 0));
-  if (own && own != &GetItems() && own->GetEditor() == this) return;
-  const TItemWatch watched(&owner);
-  TKTItemProperties& items = owner.GetItems();
-  const int count = CollectionAt(collections, 0)->GetCount();
-  // In the order of their indexes, whatever they are called.
-  if (count > 0) items.SetSorted(false);
-  for (int i = 0; i < count && HaveSameCount(collections) && i < CollectionAt(collections, 0)->GetCount(); ++i) {
-    const TItemWatch item(items.Add());
-    if (item) BuildCollectionItemProperty(scan, collections, i, static_cast<TKTItemProperty&>(*item));
-    if (!watched || !scan.IsGoing()) return;
-  }
-}
-
-void TKTCustomObjectInspector::BuildCollectionItemProperty(TScan& scan, TKTInspectorObjects& collections, int index,
-                                                           TKTItemProperty& item) {
-  const TItemWatch watched(&item);
-  const QString name = Format(FCollectionItemFormat, {index});
-  {
-    const TLiveFlag parts(this, FIsListingParts);
-    item.SetName(name);
-  }
-  const TCollection* first = CollectionAt(collections, 0);
-  if (!watched || !scan.IsGoing() || !first) return;
-  item.SetRealPropName(name);
-  item.SetTypeKind(tkClass);
-  item.SetTypeName(first->GetItemClass()->ClassName());
-  item.SetPropertyKind(pkCollectionItem);
-  item.SetAllEqual(true);
-  item.SetReadOnly(true);
-  const auto elements = Make<TKTInspectorObjects>(nullptr);
-  for (int i = 0; i < collections.GetCount(); ++i) {
-    // What elements are called is theirs to say, and they may do anything on that occasion.
-    const TCollection* collection = CollectionAt(collections, i);
-    if (!collection || index >= collection->GetCount()) return;
-    TCollectionItem* element = collection->GetItem(index);
-    const TObjectRef watchedElement(element);
-    const QString text = element->GetDisplayName();
-    if (!watched || !scan.IsGoing() || !watchedElement) return;
-    std::vector<Variant>& indexes = item.GetRealValues();
-    if (static_cast<size_t>(i) < indexes.size()) {
-      indexes[static_cast<size_t>(i)] = index;
-      item.SetValueLine(i, text);
-    }
-    if (!watched || !scan.IsGoing()) return;
-    if (!scan.HasEntered(element)) elements->Add()->SetObjects(watchedElement.Get());
-  }
-  item.GetItems().SetSorted(IsSorted());
-  if (elements->GetCount() > 0) BuildBelow(scan, item, *elements);
 }
 
 }  // namespace kt

@@ -1,8 +1,9 @@
 // How an inspector reads the properties of its objects, and writes what was edited.
+#include "kt/KTItemListEditor/EditUpdateLock.h"
 #include "kt/KTItemListEditor/ItemPropValueStrings.h"
 #include "kt/KTItemListEditor/ItemWatch.h"
 #include "kt/KTObjectInspector/ObjectInspector.h"
-#include "kt/KTObjectInspector/UpdateLock.h"
+#include "kt/KTObjectInspector/StringItems.h"
 #include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Exceptions.h"
@@ -67,7 +68,8 @@ TObject* ObjectBehind(TObject* object, const QString& name) {
 /// What an item says of the way to those below it, kept because a getter on the way may free the item.
 struct TStep {
   QString Name;
-  bool IsCategory;
+  /// Of a category, or of a part of the name of a line: what is below belongs to the same object.
+  bool IsPassedOver;
   /// Of a collection, which has that number in it; -1 when that is not known.
   bool IsElement;
   int Element;
@@ -87,7 +89,8 @@ TObject* TKTCustomObjectInspector::GetInstance(TObject* object, QString& path, T
   QVarLengthArray<TStep, 8> way;
   for (TKTItemProperty* at = item->GetParent(); at; at = at->GetParent()) {
     const bool isElement = FInplaceCollections && at->GetPropertyKind() == pkCollectionItem;
-    way.append({at->GetRealPropName(), at->GetCategory(), isElement, isElement ? at->ElementNumber(0) : -1});
+    const bool isPassedOver = at->GetCategory() || IsStringItem(*at);
+    way.append({at->GetRealPropName(), isPassedOver, isElement, isElement ? at->ElementNumber(0) : -1});
   }
   const qsizetype delimiter = GetPathDelimiter().size();
   const TItemWatch watched(item);
@@ -96,7 +99,7 @@ TObject* TKTCustomObjectInspector::GetInstance(TObject* object, QString& path, T
     const TStep& step = way[i];
     // By the length of the name, which may hold a delimiter.
     path.remove(0, step.Name.size() + delimiter);
-    if (step.IsCategory) continue;
+    if (step.IsPassedOver) continue;
     object = step.IsElement ? ElementAt(object, step.Element) : ObjectBehind(object, step.Name);
     if (!watched || !self.IsAlive()) return nullptr;
   }
@@ -147,6 +150,11 @@ void TKTCustomObjectInspector::PropertyChanging(TKTItemProperty* item) {
   const TItemWatch watched(item);
   const TLifeWatch self(this);
   item->SetAllEqual(!IsMultiColumn());
+  // All objects are about to have the same members.
+  const bool hasMembers = watched && item->GetPropertyKind() == pkSet && item->HasItems();
+  for (int i = 0; hasMembers && watched && i < item->GetItems().GetCount(); ++i) {
+    item->GetItems().GetItem(i)->SetAllEqual(!IsMultiColumn());
+  }
   if (watched && self.IsAlive()) OnPropertyChanging(this, item);
 }
 
@@ -198,7 +206,7 @@ bool TKTCustomObjectInspector::UpdateProperties(TKTItemProperties& items) {
   const TLifeWatch self(this);
   bool isFresh = false;
   {
-    TInspectorLock lock(*this);
+    TEditUpdateLock lock(*this);
     const TUpdateBracket bracket(lock);
     isFresh = RefreshItems(items);
   }

@@ -1,8 +1,7 @@
 #include "kt/KTObjectInspector/StringItems.h"
 
 #include "kt/KTItemListEditor/ItemWatch.h"
-#include "kt/KTObjectInspector/ObjectInspector.h"
-#include "kt/KTObjectInspector/UpdateLock.h"
+#include "kt/KTObjectInspector/ItemProperties.h"
 #include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/conversions/TextCompare.h"
@@ -18,49 +17,18 @@ namespace {
 
 constexpr char16_t kLineTypeName[] = u"TStrings Item";
 
-/// The property whose lines these are: items in between are parts of a name that holds the path delimiter.
-TKTItemProperty* OwnerOfLines(const TKTItemProperty& line) {
-  TKTItemProperty* owner = line.GetParent();
-  while (owner && IsStringItem(*owner)) owner = owner->GetParent();
-  return owner;
-}
-
 TStrings* LinesIn(const TObjectRef& list) { return static_cast<TStrings*>(list.Get()); }
-
-/// The lists that an item stands for: that of `instance`, or of all objects where the path to the item names no object.
-/// Getters and handlers of changes may free what they belong to.
-std::vector<TObjectRef> ListsOf(TObject* line, TObject* instance) {
-  if (auto* lines = dynamic_cast<TStrings*>(instance)) return {TObjectRef(lines)};
-  const auto* item = dynamic_cast<TKTItemProperty*>(line);
-  TKTItemProperty* owner = item ? OwnerOfLines(*item) : nullptr;
-  const TKTCustomObjectInspector* inspector = owner ? owner->GetEditor() : nullptr;
-  const TItemWatch watchOfOwner(owner);
-  const TLifeWatch watchOfInspector(inspector);
-  std::vector<TObjectRef> lists;
-  for (int i = 0; watchOfOwner && watchOfInspector.IsAlive() && i < inspector->GetObjects().GetCount(); ++i) {
-    if (auto* lines = dynamic_cast<TStrings*>(owner->GetObjectProperty(i))) lists.emplace_back(lines);
-  }
-  return lists;
-}
-
-/// The first list, or null.
-TStrings* FirstListOf(TObject* line, TObject* instance) {
-  const auto lists = ListsOf(line, instance);
-  return lists.empty() ? nullptr : LinesIn(lists[0]);
-}
 
 /// A whole line, by its number.
 void LetEditLine(TKTItemProperty& item, int index) {
-  item.SetOnGetProperty([index](TObject* sender, TObject* instance, const QString&, QString& value) {
-    TStrings* lines = FirstListOf(sender, instance);
+  item.SetOnGetProperty([index](TObject*, TObject* instance, const QString&, QString& value) {
+    auto* lines = dynamic_cast<TStrings*>(instance);
     value = lines && index < lines->GetCount() ? lines->GetStrings(index) : QString();
   });
-  item.SetOnSetProperty([index](TObject* sender, TObject* instance, const QString&, const QString& value) {
-    for (const TObjectRef& list : ListsOf(sender, instance)) {
-      TStrings* lines = LinesIn(list);
-      // Where there is no such line, there is nothing to write to.
-      if (lines && index < lines->GetCount()) lines->SetStrings(index, value);
-    }
+  item.SetOnSetProperty([index](TObject*, TObject* instance, const QString&, const QString& value) {
+    auto* lines = dynamic_cast<TStrings*>(instance);
+    // Where there is no such line, there is nothing to write to.
+    if (lines && index < lines->GetCount()) lines->SetStrings(index, value);
   });
 }
 
@@ -70,29 +38,30 @@ int LineOf(TStrings& lines, const QString& name, int index) {
   return isHere ? index : lines.IndexOfName(name);
 }
 
+/// A value that is emptied stays a line.
+void SetValueOf(TStrings& lines, const QString& name, int index, const QString& value) {
+  const int line = LineOf(lines, name, index);
+  const QString text = name + lines.GetNameValueSeparator() + value;
+  if (line >= 0) {
+    lines.SetStrings(line, text);
+  } else {
+    lines.Add(text);
+  }
+}
+
 /// The value of a name.
 void LetEditValue(TKTItemProperty& item, const QString& name, int index) {
-  item.SetOnGetProperty([name, index](TObject* sender, TObject* instance, const QString&, QString& value) {
-    TStrings* lines = FirstListOf(sender, instance);
+  item.SetOnGetProperty([name, index](TObject*, TObject* instance, const QString&, QString& value) {
+    auto* lines = dynamic_cast<TStrings*>(instance);
     const int line = lines ? LineOf(*lines, name, index) : -1;
     value = line < 0 ? QString() : lines->GetValueFromIndex(line);
   });
-  item.SetOnSetProperty([name, index](TObject* sender, TObject* instance, const QString&, const QString& value) {
-    for (const TObjectRef& list : ListsOf(sender, instance)) {
-      TStrings* lines = LinesIn(list);
-      if (!lines) continue;
-      // A value that is emptied stays a line.
-      const int line = LineOf(*lines, name, index);
-      const QString text = name + lines->GetNameValueSeparator() + value;
-      if (line >= 0) {
-        lines->SetStrings(line, text);
-      } else {
-        lines->Add(text);
-      }
-    }
+  item.SetOnSetProperty([name, index](TObject*, TObject* instance, const QString&, const QString& value) {
+    if (auto* lines = dynamic_cast<TStrings*>(instance)) SetValueOf(*lines, name, index, value);
   });
 }
 
+/// The item of a line, and those in between where its name holds the path delimiter.
 void MarkAsLine(TKTItemProperty* item, const TKTItemProperty& owner) {
   for (; item && item != &owner && !IsStringItem(*item); item = item->GetParent()) {
     item->SetTypeName(QString::fromUtf16(kLineTypeName));
@@ -121,8 +90,7 @@ void BuildTStringsItemProperties(TKTItemProperty& item, const std::vector<TObjec
   TStrings& lines = *LinesIn(lists[0]);
   TKTItemProperties& items = item.GetItems();
   items.SetSorted(options.Has(isSort));
-  TLevelUpdate level(items);
-  const TUpdateBracket bracket(level);
+  const TUpdateBracket level(items);
   const TLifeWatch watchOfLines(&lines);
   // Lines that are the items of the inspector itself become more meanwhile.
   const int count = lines.GetCount();
@@ -131,7 +99,9 @@ void BuildTStringsItemProperties(TKTItemProperty& item, const std::vector<TObjec
     TKTItemProperty* line = nullptr;
     if (name.isEmpty()) {
       line = items.Add();
-      line->SetName(Format(format, {i}));
+      const TItemWatch watched(line);
+      if (line) line->SetName(Format(format, {i}));
+      if (!watched) return;
       LetEditLine(*line, i);
     } else {
       line = static_cast<TKTItemProperty*>(items.AddFullPath(name, QString(), true));
@@ -139,9 +109,13 @@ void BuildTStringsItemProperties(TKTItemProperty& item, const std::vector<TObjec
     }
     if (!line || !level.IsAlive() || !watchOfLines.IsAlive()) return;
     MarkAsLine(line, item);
+    // Lists may be of classes of the application's, which may do anything when they are read.
+    const TItemWatch watched(line);
     const QString text = name.isEmpty() ? lines.GetStrings(i) : lines.GetValueFromIndex(i);
-    line->SetAllEqual(IsInAll(lists, i, name, text));
-    line->SetValueLine(0, text);
+    const bool isInAll = IsInAll(lists, i, name, text);
+    if (!watched) return;
+    line->SetAllEqual(isInAll);
+    if (watched) line->SetValueLine(0, text);
     if (!level.IsAlive() || !watchOfLines.IsAlive()) return;
   }
 }

@@ -9,9 +9,9 @@ namespace kt {
 
 class TKTItemProperty;
 
-/// Adds an item for each line of the first of `lists` below the property that they belong to. What is written to such
-/// an item goes into the line of that number, or into the value of that name, of the lists of all inspected objects,
-/// which are `lists`.
+/// Adds an item for each line of the first of `lists` (of TStrings, one for each inspected object) below the property
+/// that they belong to. What is written to such an item goes into the line of that number, or into the value of that
+/// name, of each list.
 void BuildTStringsItemProperties(TKTItemProperty& item, const std::vector<TObjectRef>& lists,
                                  TInplaceTStringsOptions options, const QString& format);
 

@@ -12,12 +12,13 @@ namespace {
 class ItemListEditorRowsTest : public TInplaceEditListTest {
  protected:
   bool IsOpen() { return Editor.IsEditorMode() && Editor.InplaceEditor() && Editor.InplaceEditor()->Visible(); }
-  /// The rows that are painted anew because of `change`, each once.
+  /// The lines, rows or columns, that are painted anew because of `change`, each once.
   std::string Painted(const std::function<void()>& change) {
     Settle();
     QStringList rows;
-    Editor.OnDrawCell = [&](TObject*, int, int row, const QRect&, TGridDrawState) {
-      if (const QString text = QString::number(row); !rows.contains(text)) rows += text;
+    Editor.OnDrawCell = [&](TObject*, int col, int row, const QRect&, TGridDrawState) {
+      const QString text = QString::number(Editor.GetOrientation() == goVertical ? row : col);
+      if (!rows.contains(text)) rows += text;
     };
     change();
     Settle();
@@ -103,6 +104,13 @@ TEST_F(ItemListEditorRowsTest, AnItemWhoseFontChangesIsPaintedAnewAlone) {
   Item(2).GetFont();
   Item(1).GetValueFont();
   EXPECT_EQ("3", Painted([&] { Item(2).GetFont().SetColor(clRed); }));
+  EXPECT_EQ("2", Painted([&] { Item(1).GetValueFont().SetColor(clRed); }));
+}
+
+TEST_F(ItemListEditorRowsTest, AcrossTheColumnsAnItemThatIsDisabledOrGetsAnotherFontIsPaintedAnewAlone) {
+  Editor.SetOrientation(goHorizontal);
+  ShowWithoutEditor();
+  EXPECT_EQ("2", Painted([&] { Item(1).SetEnabled(false); }));
   EXPECT_EQ("2", Painted([&] { Item(1).GetValueFont().SetColor(clRed); }));
 }
 

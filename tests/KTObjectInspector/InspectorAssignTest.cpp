@@ -43,6 +43,7 @@ TEST_F(InspectorAssignTest, WhatIsListedAndHowIsTakenOver) {
   EXPECT_EQ("b%d", FInspector->GetStringsItemFormat());
   EXPECT_EQ((TTypeKinds{tkMethod, tkSet}), FInspector->GetDisplayKinds());
   EXPECT_EQ("Tag,Name", FInspector->GetFilters().GetCommaText());
+  EXPECT_EQ(-1, FInspector->GetFilters().IndexOf(u"tag"));
   EXPECT_FALSE(FInspector->GetFiltersEnabled());
   EXPECT_EQ((TILEFilterOptions{foInclusive, foCaseSensitive}), FInspector->GetFilterOptions());
 }

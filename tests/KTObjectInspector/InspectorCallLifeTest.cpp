@@ -85,10 +85,9 @@ class InspectorLinesLifeTest : public TLivelyInspectorTest {};
 
 TEST_F(InspectorLinesLifeTest, AChangeOfOneObjectsLinesMayTakeTheNextObjectAlong) {
   Renew(imPlain);
-  TKTItemProperty& line = Item("Lines.Items[0]");
   static_cast<TStringList*>(FFirst->GetLines())->OnChange = [this](TObject*) { FSecond.reset(); };
-  const TKTItemSetPropertyEvent write = line.GetOnSetProperty();
-  write(&line, nullptr, "Items[0]", "new");
+  Item("Lines.Items[0]").SetValueLine(0, "new");
+  Item("Lines.Items[0]").Validate();
   EXPECT_EQ("new", FFirst->GetLines()->GetStrings(0));
   EXPECT_EQ(nullptr, FSecond);
   CheckAllIsWell();

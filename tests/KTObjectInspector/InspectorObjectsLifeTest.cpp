@@ -79,5 +79,13 @@ TEST_F(InspectorObjectsLifeTest, TheSourceMayGoWhenItsObjectsAreCopied) {
   EXPECT_EQ(0, FFleeting->GetObjects().GetUpdateCount());
 }
 
+TEST_F(InspectorObjectsLifeTest, AnObjectThatDiesWhenItIsAddedIsNotInspected) {
+  FFleeting->OnListUpdating = [this] { FOther.reset(); };
+  EXPECT_EQ("An object was freed while it was in use",
+            MessageOf<EInvalidOperation>([&] { FFleeting->GetObjects().Add(FOther.get()); }));
+  EXPECT_EQ(1, FFleeting->GetObjects().GetCount());
+  EXPECT_EQ(0, FFleeting->GetObjects().GetUpdateCount());
+}
+
 }  // namespace
 }  // namespace kt::tests

@@ -46,5 +46,22 @@ TEST_F(InspectorSharedPartsTest, SeveralColumnsShowTheMembersOfEachObject) {
   EXPECT_FALSE(IsAllEqual("Styles.ssItalic"));
 }
 
+TEST_F(InspectorSharedPartsTest, AnEditedMemberIsTheSameInAllObjectsAtOnce) {
+  FSample->Styles = {ssBold};
+  Inspect({FSample.get(), FOther.get()});
+  EXPECT_FALSE(IsAllEqual("Styles.ssBold"));
+  Edit("Styles.ssBold", "True");
+  EXPECT_EQ(FSample->Styles, FOther->Styles);
+  EXPECT_TRUE(IsAllEqual("Styles"));
+  EXPECT_TRUE(IsAllEqual("Styles.ssBold"));
+}
+
+TEST_F(InspectorSharedPartsTest, MembersOfASetThatIsWrittenAsAWholeAreTheSameToo) {
+  FSample->Styles = {ssBold};
+  Inspect({FSample.get(), FOther.get()});
+  Item("Styles").SetOrdProperty(0, -1);
+  EXPECT_TRUE(IsAllEqual("Styles.ssBold"));
+}
+
 }  // namespace
 }  // namespace kt::tests

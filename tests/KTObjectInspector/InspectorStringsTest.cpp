@@ -134,6 +134,22 @@ TEST_F(InspectorStringsTest, AValueIsTheSameWhereAllObjectsHaveItUnderThatName) 
   EXPECT_FALSE(Item("Lines.c").IsAllEqual());
 }
 
+TEST_F(InspectorStringsTest, ALineWhoseNameHoldsThePathDelimiterIsWrittenOnceToEachObject) {
+  FHolder->GetLines().Add("a.b=1");
+  FOther->GetLines().Add("a.b=1");
+  FInspector->SetInplaceTStringsOptions({isUseNameValue});
+  FInspector->SetInplaceTStrings(true);
+  Inspect({FHolder.get(), FOther.get()});
+  int changes = 0;
+  for (TLinesHolder* holder : {FHolder.get(), FOther.get()}) {
+    static_cast<TStringList&>(holder->GetLines()).OnChange = [&changes](TObject*) { ++changes; };
+  }
+  Edit("Lines.a.b", "2");
+  EXPECT_EQ(2, changes);
+  EXPECT_EQ("a.b=2", Lines());
+  EXPECT_EQ("a.b=2", FOther->GetLines().GetCommaText());
+}
+
 TEST_F(InspectorStringsTest, LinesBelowASecondCategoryAreWrittenAndRefreshedToo) {
   Items().GetCategories().Add("Lines=One");
   Items().GetCategories().Add("Lines=Two");
