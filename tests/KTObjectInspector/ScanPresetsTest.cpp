@@ -79,5 +79,39 @@ TEST_F(ScanPresetsTest, AnAliasBelowACategoryMovesItsItemToTheDefaultCategory) {
   EXPECT_EQ(1, std::count(FAsked.begin(), FAsked.end(), &item));
 }
 
+/// Says what its presets are made of.
+class TOwnPresets : public TKTPropertyPresets {
+ public:
+  using Inherited = TKTPropertyPresets;
+
+ protected:
+  explicit TOwnPresets(TKTCustomObjectInspector* inspector) : TKTPropertyPresets(inspector) {}
+};
+
+class TOwnPresetsInspector : public TKTObjectInspector {
+ protected:
+  TOwnPresetsInspector() = default;
+  std::unique_ptr<TKTPropertyPresets> CreatePresets() override { return Make<TOwnPresets>(this); }
+};
+
+TEST_F(ScanPresetsTest, ADescendantMayMakeItsPresetsItself) {
+  FInspector = Make<TOwnPresetsInspector>();
+  EXPECT_NE(nullptr, dynamic_cast<TOwnPresets*>(&FInspector->GetPresets()));
+  FInspector->GetPresets().Clear();
+  AddPreset("Whole").SetHint("own");
+  Inspect({FSample.get()});
+  EXPECT_EQ("own", Item("Whole").GetHint());
+}
+
+TEST_F(ScanPresetsTest, AnInspectorThatGoesAsksForNothing) {
+  Inspect({FSample.get()});
+  int scans = 0;
+  FInspector->OnBeforeScan = [&scans](TObject*, TKTItemProperty*, bool&) { ++scans; };
+  FInspector.reset();
+  Deliver();
+  EXPECT_EQ(0, scans);
+  FSample.reset();
+}
+
 }  // namespace
 }  // namespace kt::tests
