@@ -160,6 +160,7 @@ class TKTCustomObjectInspector : public TKTCustomItemListEditor {
   /// The end of a scan, for a null item, or of what is listed below an item.
   virtual void AfterScan(TKTItemProperty* item);
   virtual bool BeforeScan(TKTItemProperty* item);
+  /// The collection for the presets, empty; asked once, while the inspector is made.
   virtual std::unique_ptr<TKTPropertyPresets> CreatePresets();
   virtual void ChangingFilters(TObject* sender);
   virtual void ChangeFilters(TObject* sender);

@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <set>
 #include <vector>
 
