@@ -53,7 +53,21 @@ void SwitchObject(benchmark::State& state) {
   }
 }
 
-/// As above, without a window.
+/// The same for many objects: from assigning them all to the painted tree of what they share.
+void SwitchObjects(benchmark::State& state) {
+  TShownInspector shown;
+  const int count = static_cast<int>(state.range(0));
+  const int properties = static_cast<int>(state.range(1));
+  const std::vector<std::unique_ptr<TSubject>> sets[] = {MakeSubjects(count, properties),
+                                                         MakeSubjects(count, properties)};
+  size_t next = 0;
+  for (auto step : state) {
+    Inspect(*shown.Inspector, sets[next++ % 2]);
+    QApplication::processEvents();
+  }
+}
+
+/// One object, without a window.
 void Scan(benchmark::State& state) {
   const auto inspector = Make<TKTObjectInspector>();
   const auto subjects = MakeSubjects(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
@@ -99,6 +113,10 @@ void WriteToAll(benchmark::State& state) {
 }
 
 BENCHMARK(SwitchObject)->ArgName("properties")->Arg(30)->Arg(100)->Arg(1000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(SwitchObjects)
+    ->ArgNames({"objects", "properties"})
+    ->ArgsProduct({{10, 100, 1000}, {60}})
+    ->Unit(benchmark::kMicrosecond);
 BENCHMARK(ReadBare)
     ->ArgNames({"objects", "properties"})
     ->ArgsProduct({{1}, {30, 100, 1000}})

@@ -18,8 +18,9 @@ TStreamOriginalFormat FormatOf(const QString& fileName) {
   return format == sofUnknown ? sofText : format;
 }
 
-/// A value as part of a line: line breaks show as \r and \n.
+/// A value as part of a line: line breaks show as \r and \n, and a backslash as two.
 QString InOneLine(QString value) {
+  value.replace(u'\\', QLatin1StringView("\\\\"));
   return value.replace(u'\r', QLatin1StringView("\\r")).replace(u'\n', QLatin1StringView("\\n"));
 }
 

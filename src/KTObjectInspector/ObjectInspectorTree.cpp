@@ -14,6 +14,8 @@
 #include "kt/rtl/typeinfo/PropLists.h"
 #include "kt/rtl/typeinfo/PropValues.h"
 
+#include <algorithm>
+
 namespace kt {
 
 namespace {
@@ -50,6 +52,7 @@ const QStringList& TruthNames() {
 void FillPickList(TKTItemProperty& item, const QStringList& names) {
   TStringList& list = item.GetPickList();
   const TUpdateBracket bracket(list);
+  list.SetCapacity(std::max(list.GetCount(), static_cast<int>(names.size())));
   for (const QString& name : names) list.Add(name);
 }
 
@@ -185,14 +188,15 @@ void TKTCustomObjectInspector::FillValues(TKTItemProperty& item, TKTInspectorObj
   if (!watched) return;
   const int count = IsMultiColumn() ? objects.GetCount() : 1;
   for (int i = 0; i < count; ++i) {
-    const TObjectRef object(objects.GetItem(i)->GetObjects());
+    TObject* object = objects.GetItem(i)->GetObjects();
     const TPropInfo* own = CounterpartIn(objects, i, property);
     if (!own) return;
-    Variant value = kind != tkInterface ? GetPropValue(object.Get(), own, false) : Variant();
-    if (!object || !watched) return;
+    const TLifeWatch watchOfObject(object);
+    Variant value = kind != tkInterface ? GetPropValue(object, own, false) : Variant();
+    if (!watchOfObject.IsAlive() || !watched) return;
     std::vector<Variant>& values = item.GetRealValues();
     if (static_cast<size_t>(i) < values.size()) values[static_cast<size_t>(i)] = std::move(value);
-    const QString text = GetPropertyValue(object.Get(), &item, own);
+    const QString text = GetPropertyValue(object, &item, own);
     if (!watched) return;
     item.SetValueLine(i, text);
     if (!watched) return;

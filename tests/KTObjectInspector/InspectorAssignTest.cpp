@@ -17,6 +17,13 @@ class TGivingInspector : public TKTObjectInspector {
   void AssignTo(TPersistent*) override { ++Given; }
 };
 
+/// An inspector whose list of objects asks for no scan.
+class TQuietInspector : public TKTObjectInspector {
+ protected:
+  TQuietInspector() = default;
+  void ListUpdate(TKTInspectorObject*) override {}
+};
+
 class InspectorAssignTest : public TInspectorTest {
  protected:
   std::unique_ptr<TGivingInspector> FSource = Make<TGivingInspector>();
@@ -81,6 +88,40 @@ TEST_F(InspectorAssignTest, WhatIsNoMatterOfInspectingStaysAsItWas) {
   EXPECT_TRUE(FInspector->IsSorted());
   EXPECT_EQ(clBtnFace, FInspector->GetColor());
   EXPECT_EQ(".", FInspector->GetPathDelimiter());
+}
+
+TEST_F(InspectorAssignTest, TheFieldsThatAreCopiedAskForNoScan) {
+  FInspector = Make<TQuietInspector>();
+  // Filters that are on do, through their own list.
+  FInspector->SetFiltersEnabled(false);
+  FSource->SetFiltersEnabled(false);
+  Deliver();
+  FSource->SetInplaceCollections(true);
+  FSource->SetInplaceComponents(false);
+  FSource->SetInplaceTStrings(true);
+  FSource->SetInplaceTStringsOptions({isSort});
+  FSource->SetDisplayKinds({tkMethod});
+  FSource->SetCollectionItemFormat("a%d");
+  FSource->SetStringsItemFormat("b%d");
+  FSource->SetFilterOptions({foInclusive});
+  FSource->SetDynamicTitleCaptions(true);
+  int scans = 0;
+  FInspector->OnBeforeScan = [&scans](TObject*, TKTItemProperty*, bool&) { ++scans; };
+  FInspector->Assign(FSource.get());
+  Deliver();
+  EXPECT_EQ(0, scans);
+}
+
+TEST_F(InspectorAssignTest, TheObjectsThatAreCopiedAskForTheirScanAsEver) {
+  FSource->GetObjects().Add(FSample.get());
+  QString scans;
+  FInspector->OnBeforeScan = [&scans](TObject*, TKTItemProperty* item, bool&) {
+    if (!item) scans += "scan ";
+  };
+  FInspector->Assign(FSource.get());
+  EXPECT_EQ("", scans);
+  Deliver();
+  EXPECT_EQ("scan ", scans);
 }
 
 TEST_F(InspectorAssignTest, TheCopyEndsInTheErrorOfOneThatIsNotPossibleDeliberately) {

@@ -167,6 +167,45 @@ class InspectorRandomEditsTest : public TInspectorTest, public testing::WithPara
     for (const char* path : kElements) ExpectSameObjects(path);
     for (const char* path : kLines) ExpectSameObjects(path);
   }
+  /// The texts that an inspector of its own shows which has never shown others, and whether it finds them the same.
+  static QString ShownBy(TKTObjectInspector& inspector, const char* path) {
+    TKTItemProperty* item = inspector.GetItems().FindItemByFullPathName(path);
+    if (!item) return QStringLiteral("no item");
+    QStringList texts;
+    for (int i = 0; i < inspector.GetValueCount(); ++i) texts += item->GetValueLine(i);
+    return texts.join(u'|');
+  }
+  std::unique_ptr<TKTObjectInspector> MakeFreshInspector() {
+    auto fresh = Make<TKTObjectInspector>();
+    fresh->SetInplaceCollections(true);
+    fresh->SetInplaceTStrings(true);
+    fresh->SetDisplayOptions(FInspector->GetDisplayOptions());
+    for (const auto& sample : FInspected.Samples()) fresh->GetObjects().Add(sample.get());
+    fresh->Rescan();
+    return fresh;
+  }
+  /// After a refresh nothing shows what was there before the edits.
+  void ExpectShownIsFresh() {
+    const auto fresh = MakeFreshInspector();
+    for (const char* path : kPlain) ExpectShownAs(*fresh, path);
+    for (const char* path : kMembers) ExpectShownAs(*fresh, path);
+    for (const char* path : kElements) ExpectShownAs(*fresh, path);
+    for (const char* path : kLines) ExpectShownAs(*fresh, path);
+  }
+  void ExpectShownAs(TKTObjectInspector& fresh, const char* path) {
+    EXPECT_EQ(ShownBy(fresh, path), ShownBy(*FInspector, path)) << path;
+  }
+  bool IsSameInModel(const QString& path) const {
+    if (FIsMultiColumn && FPlain.Samples().size() > 1) return false;
+    for (const auto& sample : FPlain.Samples()) {
+      if (TModel::TextAt(*sample, path) != TModel::TextAt(*FPlain.Samples()[0], path)) return false;
+    }
+    return true;
+  }
+  /// As long as no scan has counted anew, an edit of one object leaves the mark as it stood.
+  void ExpectMarksAreThoseOfTheModel() {
+    for (const char* path : kPlain) EXPECT_EQ(IsSameInModel(path), Item(path).IsAllEqual()) << path;
+  }
   void SwitchColumns() {
     FIsMultiColumn = !FIsMultiColumn;
     UseSeveralColumns(FIsMultiColumn);
@@ -191,8 +230,12 @@ TEST_P(InspectorRandomEditsTest, DoWhatReflectionDoes) {
     // A text that was refused is not written again.
     if (Random(8) == 0) Deliver();
     FInspector->RefreshProperties();
-    if (Random(20) == 0) Rescan();
+    const bool isAnew = Random(20) == 0;
+    if (isAnew) Rescan();
     Deliver();
+    if (isAnew || step % 8 == 0) ExpectShownIsFresh();
+    if (isAnew) ExpectMarksAreThoseOfTheModel();
+    if (HasFailure()) FAIL() << what;
   }
 }
 

@@ -130,5 +130,10 @@ TEST_F(InspectDumpTest, AValueOfSeveralLinesTakesOne) {
   EXPECT_THAT(run.Output, HasSubstr("\n    * Hint = one\\r\\ntwo\\nthree\n"));
 }
 
+TEST_F(InspectDumpTest, ABackslashIsNoLineBreak) {
+  Write("object Menu: TPopupMenu\n  object Open: TMenuItem\n    Hint = 'C:\\new'\n  end\nend\n");
+  EXPECT_THAT(Run({FFile}).Output, HasSubstr("\n    * Hint = C:\\\\new\n"));
+}
+
 }  // namespace
 }  // namespace kt::tests
