@@ -178,3 +178,12 @@ void TDemo::ShowOff() {
   FSettings->SetSelected(FSettings->GetItems().FindItemByFullPathName(QStringLiteral("Text.Alignment")));
   FSettings->SetFocus();
 }
+
+void TDemo::SetFontSize(int points) {
+  QFont own = font();
+  own.setPointSize(points);
+  setFont(own);
+  for (TKTItemListEditor* editor : {FSettings.get(), FTable.get()}) editor->GetFont().SetSize(points);
+  // Which has a font of its own, for its colour.
+  FSettings->GetItems().FindItemByFullPathName(QStringLiteral("Input.Color"))->GetValueFont().SetSize(points);
+}

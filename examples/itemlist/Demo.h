@@ -16,6 +16,8 @@ class TDemo : public QMainWindow {
 
   /// As somebody sees it in the middle of working: things are expanded, and a value is selected.
   void ShowOff();
+  /// For the editors and all else in the window, in points.
+  void SetFontSize(int points);
 
  private:
   void FillSettings();

@@ -2,6 +2,9 @@
 #include "kt/KTItemListEditor/ItemListEditor.h"
 #include "kt/KTItemListEditor/ItemWatch.h"
 #include "kt/vcl/graphics/ExpandSign.h"
+#include "kt/vcl/graphics/LegibleColor.h"
+
+#include <QColor>
 
 namespace kt {
 
@@ -36,6 +39,10 @@ void TKTCustomItemListEditor::UseCellFont(const TGridInfo& info, TKTItemProp* it
   } else {
     canvas.SetFont(info.Field == 0 ? &GetFont() : FValueFont.get());
   }
+  // As that of categories, which is purple.
+  const TColor color = canvas.GetFont().GetColor();
+  const TColor legible = LegibleColor(color, canvas.RealColor(canvas.GetBrush().GetColor()));
+  if (legible != color) canvas.GetFont().SetColor(legible);
 }
 
 /// Takes the indentation off `rect` and draws the glyph into it. Names without a glyph start where those with one do.

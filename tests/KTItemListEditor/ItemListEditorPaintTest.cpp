@@ -1,6 +1,7 @@
 #include "kt/rtl/strings/StringList.h"
 #include "kt/vcl/forms/Form.h"
 #include "kt/vcl/graphics/Bitmap.h"
+#include "kt/vcl/graphics/QtColor.h"
 #include "support/Expect.h"
 #include "support/ItemLists.h"
 #include "support/PaintLog.h"
@@ -8,6 +9,7 @@
 
 #include <QLineEdit>
 #include <QPainter>
+#include <QPalette>
 #include <QRegularExpression>
 
 namespace kt::tests {
@@ -58,6 +60,22 @@ class ItemListEditorPaintTest : public TItemListTest {
     return Fills(col, row).contains(QStringLiteral("fill %1,4 9x9").arg(left));
   }
 };
+
+// Colours.
+
+TEST_F(ItemListEditorPaintTest, PurpleCategoriesAreDrawnLighterOnADarkGround) {
+  Items().AddCategory("a", false);
+  EXPECT_EQ(clPurple, ColorAt(0, 1));
+  QPalette dark(QColor(40, 40, 40));
+  dark.setColor(QPalette::Base, QColor(20, 20, 20));
+  FEditor->GetCanvas().SetPalette(dark);
+  FEditor->GetCanvas().GetBrush().SetColor(clWindow);
+  const TColor drawn = ColorAt(0, 1);
+  EXPECT_GT(QtColor(drawn).lightness(), QtColor(clPurple).lightness());
+  EXPECT_EQ(QtColor(clPurple).hslHue(), QtColor(drawn).hslHue());
+  // What is drawn is no matter of what is set.
+  EXPECT_EQ(clPurple, FEditor->GetCategoryFont().GetColor());
+}
 
 // Texts.
 
