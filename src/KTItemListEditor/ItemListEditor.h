@@ -212,6 +212,7 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   void MouseMove(TShiftState shift, int x, int y) override;
   void Resize() override;
   void RowMoved(int fromIndex, int toIndex) override;
+  void ColumnMoved(int fromIndex, int toIndex) override;
   bool SelectCell(int col, int row) override;
 
   // What the items tell.
@@ -367,7 +368,7 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   bool PressItem(TShiftState shift, TGridCoord cell, QPoint point);
   bool PressGlyph(TGridCoord cell, QPoint point);
   void PressName(TGridCoord cell, TShiftState shift);
-  void MoveItem(int fromRow, int toRow);
+  void MoveItem(int from, int to);
   void ValidateBlank();
 
   // Hints.
@@ -397,7 +398,9 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   void PlaceCopy(TKTItemProp& item, TKTItemProp& category);
   void PlaceFurtherCopy(TKTItemProp& item, const QString& categoryName);
   class TKTInplaceEditList* ListEditor() const;
-  void WriteTypedText(int col, int row, const QString& value);
+  void NameCurrent(int col, int row, const QString& value);
+  TKTItemProp* WriteTypedText(int col, int row, const QString& value);
+  void FollowNamed(TKTItemProp& item, int field);
   bool HoldsBackName(const QString& value);
 
   std::unique_ptr<TKTItemProps> FItems;
@@ -433,6 +436,10 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   bool FAdjusting = false;
   /// The cursor is being taken along with what it stands on.
   bool FFollowing = false;
+  /// There was a line for each row when the edit-update lock was taken.
+  bool FWasInStep = false;
+  /// The name of the item under the cursor is being typed.
+  bool FIsNaming = false;
   bool FHideSelection = false;
   bool FIsRowHeightByHand = false;
   bool FHasItemFonts = false;

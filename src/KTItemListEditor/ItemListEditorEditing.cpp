@@ -1,5 +1,4 @@
 // How the cells of TKTCustomItemListEditor are edited.
-#include "kt/KTItemListEditor/EditUpdateLock.h"
 #include "kt/KTItemListEditor/InplaceEditList.h"
 #include "kt/KTItemListEditor/ItemListEditor.h"
 #include "kt/KTItemListEditor/ItemWatch.h"
@@ -99,38 +98,6 @@ bool TKTCustomItemListEditor::GetPickList(TKTItemProp* item, TStrings& values, b
   const bool hasValues = values.GetCount() > 0;
   if (TKTInplaceEditList* editor = ListEditor()) editor->SetPickListLoaded(hasValues);
   return hasValues;
-}
-
-// Writing what is typed.
-
-void TKTCustomItemListEditor::SetEditText(int col, int row, const QString& value) {
-  if (IsEditUpdateLocked()) return;
-  const TLifeWatch self(this);
-  TCustomDrawGrid::SetEditText(col, row, value);
-  if (!self.IsAlive()) return;
-  TEditUpdateLock lock(*this);
-  const TUpdateBracket bracket(lock);
-  // Deliberately the row, even where the columns are the items.
-  if (row - GetFixedRows() >= GetVisibleItemCount() && !value.isEmpty()) {
-    FItems->Add();
-    if (!self.IsAlive()) return;
-    FSavedVisibleCount = GetVisibleItemCount();
-  }
-  WriteTypedText(col, row, value);
-}
-
-void TKTCustomItemListEditor::WriteTypedText(int col, int row, const QString& value) {
-  if (GetCell(col, row) == value) return;
-  if (!IsValueCell(col, row) && HoldsBackName(value)) return;
-  FPendingName.clear();
-  SetCell(col, row, value);
-}
-
-/// A rejected name waits until it comes a second time in a row.
-bool TKTCustomItemListEditor::HoldsBackName(const QString& value) {
-  if (FItems->IsValid(value, false) || value == FPendingName) return false;
-  FPendingName = value;
-  return true;
 }
 
 }  // namespace kt

@@ -9,6 +9,18 @@
 
 namespace kt {
 
+namespace {
+
+/// Where a line was before another one moved.
+int BeforeMove(int index, int from, int to) {
+  if (index == to) return from;
+  if (index >= from && index < to) return index + 1;
+  if (index <= from && index > to) return index - 1;
+  return index;
+}
+
+}  // namespace
+
 // The current cell.
 
 bool TKTCustomItemListEditor::SelectCell(int col, int row) {
@@ -31,8 +43,11 @@ bool TKTCustomItemListEditor::LeaveBlank(int col, int row) {
   DeleteRow(info.CurLine);
   if (!self.IsAlive()) return false;
   if (info.Line < info.CurLine) return true;
-  const bool hasMoved = FOrientation == goVertical && target && target->GetAbsoluteVIndex() >= 0;
-  const int line = hasMoved ? target->GetAbsoluteVIndex() + info.FixedLines : info.Line - 1;
+  const bool isDown = FOrientation == goVertical;
+  const bool hasMoved = isDown && target && target->GetAbsoluteVIndex() >= 0;
+  // Where nothing was deleted, the way to the line before starts from a blank item again, and so on till there is none.
+  const int before = isDown ? info.Line - 1 : info.CurLine;
+  const int line = hasMoved ? target->GetAbsoluteVIndex() + info.FixedLines : before;
   const TGridCoord cell = CellOf(std::min(line, GetGridCount(gcLineCount) - 1) - info.FixedLines, info.Field);
   FocusCell(cell.X, cell.Y, true);
   return false;
@@ -149,18 +164,33 @@ void TKTCustomItemListEditor::PressName(TGridCoord cell, TShiftState shift) {
   FocusCell(value.X, value.Y, !shift.Has(ssShift));
 }
 
-// Moving rows.
+// Moving rows and columns.
 
 void TKTCustomItemListEditor::RowMoved(int fromIndex, int toIndex) {
   const TLifeWatch self(this);
-  if (FOrientation == goVertical) MoveItem(fromIndex - GetFixedRows(), toIndex - GetFixedRows());
+  if (FOrientation == goVertical) {
+    MoveItem(fromIndex - GetFixedRows(), toIndex - GetFixedRows());
+  } else {
+    CarryCurrent({GetCol(), BeforeMove(GetRow(), fromIndex, toIndex)});
+  }
   if (self.IsAlive()) TCustomDrawGrid::RowMoved(fromIndex, toIndex);
 }
 
-/// Items move among their siblings only: to the place of the one at whose row, or below which, the target lies.
-void TKTCustomItemListEditor::MoveItem(int fromRow, int toRow) {
-  TKTItemProp* moved = GetVisibleItem(fromRow);
-  TKTItemProp* target = GetVisibleItem(toRow);
+void TKTCustomItemListEditor::ColumnMoved(int fromIndex, int toIndex) {
+  const TLifeWatch self(this);
+  if (FOrientation == goHorizontal) {
+    MoveItem(fromIndex - GetFixedCols(), toIndex - GetFixedCols());
+  } else {
+    // The widths have moved, but names stay names, and so the cursor stays with the field that it was in.
+    CarryCurrent({BeforeMove(GetCol(), fromIndex, toIndex), GetRow()});
+  }
+  if (self.IsAlive()) TCustomDrawGrid::ColumnMoved(fromIndex, toIndex);
+}
+
+/// Items move among their siblings only: to the place of the one at whose line, or below which, the target lies.
+void TKTCustomItemListEditor::MoveItem(int from, int to) {
+  TKTItemProp* moved = GetVisibleItem(from);
+  TKTItemProp* target = GetVisibleItem(to);
   while (moved && target && target->GetCollection() != moved->GetCollection()) target = target->GetParent();
   if (moved && target && moved != target) moved->SetIndex(target->GetIndex());
 }

@@ -54,7 +54,7 @@ void TKTCustomItemListEditor::VisibleChanged(TKTItemProp*) {
   const TLifeWatch self(this);
   TItemRows::Recount(*FItems);
   Refresh();
-  if (!self.IsAlive() || !selected) return;
+  if (!self.IsAlive() || !selected || FIsNaming) return;
   // The cursor follows its item; it does not leave what is under it meanwhile, an item that is being made perhaps.
   const TLiveFlag following(this, FFollowing);
   GoToRow(selected->GetAbsoluteVIndex());
@@ -136,14 +136,17 @@ void TKTCustomItemListEditor::AdjustGridCount() {
 }
 
 void TKTCustomItemListEditor::DisableEditUpdate() {
-  if (FEditUpdateLock++ == 0) FSavedVisibleCount = GetVisibleItemCount();
+  if (FEditUpdateLock++ > 0) return;
+  FSavedVisibleCount = GetVisibleItemCount();
+  FWasInStep = WantedLineCount() == GetGridCount(gcLineCount);
 }
 
 void TKTCustomItemListEditor::EnableEditUpdate() {
   Q_ASSERT(FEditUpdateLock > 0);
   if (--FEditUpdateLock > 0) return;
-  // The second question is for rows that came and went while handlers ran.
-  if (GetVisibleItemCount() != FSavedVisibleCount || WantedLineCount() != GetGridCount(gcLineCount)) Refresh();
+  // Rows may have come and gone while handlers ran. Lines that an application has set stay till there are other rows.
+  const bool gotOutOfStep = FWasInStep && WantedLineCount() != GetGridCount(gcLineCount);
+  if (GetVisibleItemCount() != FSavedVisibleCount || gotOutOfStep) Refresh();
 }
 
 // Expansion of the whole tree.

@@ -212,6 +212,9 @@ class TCustomGrid : public TCustomControl {
                       int& sizingOfs) const;
   /// The selection's other end moves to `cell`.
   void MoveAnchor(TGridCoord cell);
+  /// What is in the current cell has come to another one: selection and editor follow, and nobody is asked or told.
+  /// Scrolls the cell into view. Raises EInvalidGridOperation for what is no cell.
+  void CarryCurrent(TGridCoord cell);
   /// What the mouse is doing.
   TGridState GetGridState() const { return FGridState; }
   /// Whether the grid is where the keys go: its form's ActiveControl, be the form active or not; without a form,

@@ -49,6 +49,23 @@ void TCustomGrid::MoveCurrent(int col, int row, bool moveAnchor, bool show) {
   if (FCurrent != oldCurrent) GridAccessibility::TellCurrentCell(*this);
 }
 
+void TCustomGrid::CarryCurrent(TGridCoord cell) {
+  CheckIndex(FCols, cell.X);
+  CheckIndex(FRows, cell.Y);
+  if (cell == FCurrent) return;
+  const TLifeWatch self(this);
+  const TGridRect oldSelection = GetSelection();
+  if (FInplaceCell == FCurrent) FInplaceCell = cell;
+  FCurrent = cell;
+  FAnchor = cell;
+  if (FOptions.Has(goRowSelect)) FAnchor.X = FCols.Count - 1;
+  ClampInView(FCurrent);
+  if (!self.IsAlive()) return;
+  MoveEditor();
+  SelectionMoved(oldSelection);
+  GridAccessibility::TellCurrentCell(*this);
+}
+
 void TCustomGrid::SetSelection(const TGridRect& value) {
   CheckIndex(FCols, value.Left);
   CheckIndex(FCols, value.Right);
