@@ -1,0 +1,168 @@
+#pragma once
+
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/Make.h"
+#include "kt/rtl/objects/ObjectRef.h"
+#include "kt/vcl/controls/DragObject.h"
+#include "kt/vcl/controls/Mouse.h"
+#include "kt/vcl/forms/Application.h"
+#include "kt/vcl/forms/Form.h"
+#include "support/ControlProbe.h"
+#include "support/WindowProbe.h"
+
+#include <QWindow>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+
+namespace kt::tests {
+
+/// A control that can be dragged, and says what happens to its capture.
+class TDragProbe : public TControlProbe {
+ public:
+  using TControlProbe::SetMouseCapture;
+  bool WasCanceled = false;
+
+ protected:
+  explicit TDragProbe(TComponent* owner = nullptr) : TControlProbe(owner) {}
+  void DragCanceled() override { WasCanceled = true; }
+};
+
+/// Two forms beside each other: A and B are on the first, C is on the second. What is told of drags is written down as
+/// "B move 5,6", and does besides what a test has put there: At["B move"].
+class TDragWorld : public testing::Test {
+ protected:
+  TDragWorld() {
+    Application().OnException = [this](TObject*, const Exception& error) { Note("error " + error.Message()); };
+    for (TForm* form : {First.get(), Second.get()}) {
+      form->SetBounds(0, 0, 300, 200);
+      form->SetName(form == First.get() ? "First" : "Second");
+      form->Show();
+    }
+    First->GetHandle()->move(0, 0);
+    Second->GetHandle()->move(400, 0);
+    TWindowProbe::Settle();
+    FA = Add(*First, "A", 10);
+    FB = Add(*First, "B", 150);
+    FC = Add(*Second, "C", 10);
+    First->GetHandle()->activateWindow();
+    TWindowProbe::Settle();
+    Log();
+  }
+  ~TDragWorld() override {
+    CancelDrag();
+    Application().OnException = nullptr;
+    Mouse().SetDragImmediate(true);
+    Mouse().SetDragThreshold(5);
+    // No button stays pressed for the next test.
+    if (QGuiApplication::mouseButtons() != Qt::NoButton && First) Button(QEvent::MouseButtonRelease, Qt::LeftButton);
+  }
+
+  TDragProbe* Add(TForm& form, const char* name, int left) {
+    auto* control = New<TDragProbe>(&form);
+    control->SetName(QLatin1String(name));
+    control->SetBounds(left, 10, 100, 50);
+    control->SetParent(&form);
+    Listen(*control);
+    return control;
+  }
+  void Listen(TControl& control) {
+    control.OnStartDrag = [this](TObject* sender, TDragObject*& object) {
+      Note(NameOf(sender) + " start");
+      if (Given) object = *Given;
+    };
+    control.OnDragOver = [this](TObject* sender, TObject* source, int x, int y, TDragState state, bool& accept) {
+      FSource = source;
+      accept = accept && Accepts;
+      static const char* const kStates[] = {" enter", " leave", " move"};
+      Note(NameOf(sender) + kStates[state] + Place(x, y));
+    };
+    control.OnDragDrop = [this](TObject* sender, TObject* source, int x, int y) {
+      FSource = source;
+      Note(NameOf(sender) + " drop" + Place(x, y));
+    };
+    control.OnEndDrag = [this](TObject* sender, TObject* target, int x, int y) {
+      Note(NameOf(sender) + " end " + NameOf(target) + Place(x, y));
+    };
+  }
+  static QString Place(int x, int y) { return QStringLiteral(" %1,%2").arg(x).arg(y); }
+  static QString NameOf(TObject* object) {
+    const auto* component = dynamic_cast<TComponent*>(object);
+    return component ? component->GetName() : object ? object->ClassName() : QStringLiteral("nobody");
+  }
+  /// Writes down, and does what is to be done after it, once.
+  void Note(const QString& what) {
+    FLog += what;
+    const auto found = At.find(what.section(u' ', 0, 1));
+    if (found == At.end()) return;
+    const auto action = std::exchange(found->second, nullptr);
+    if (action) action();
+  }
+  /// What was told since the last call.
+  QString Log() { return std::exchange(FLog, {}).join(QStringLiteral(" | ")); }
+
+  TDragProbe* A() const { return static_cast<TDragProbe*>(FA.Get()); }
+  TDragProbe* B() const { return static_cast<TDragProbe*>(FB.Get()); }
+  TDragProbe* C() const { return static_cast<TDragProbe*>(FC.Get()); }
+
+  /// The mouse as the system has it: events go to the window where the button was pressed, and Qt finds the widget.
+  void Press(TWinControl& control, QPoint point = {5, 5}) {
+    FPlace = control.ClientToScreen(point);
+    FWindow = control.GetHandle()->window()->windowHandle();
+    Button(QEvent::MouseButtonPress, Qt::LeftButton);
+  }
+  void MoveTo(QPoint screenPos) {
+    FPlace = screenPos;
+    if (FWindow) QTest::mouseMove(FWindow, FWindow->mapFromGlobal(FPlace));
+  }
+  void MoveTo(TWinControl* control, QPoint point) {
+    if (control && control->HandleAllocated()) MoveTo(control->ClientToScreen(point));
+  }
+  void Release(Qt::MouseButton button = Qt::LeftButton) { Button(QEvent::MouseButtonRelease, button); }
+  void Button(QEvent::Type type, Qt::MouseButton button) {
+    if (!FWindow) return;
+    const QPoint point = FWindow->mapFromGlobal(FPlace);
+    if (type == QEvent::MouseButtonPress) {
+      QTest::mousePress(FWindow, button, {}, point);
+    } else {
+      QTest::mouseRelease(FWindow, button, {}, point);
+    }
+  }
+
+  /// "" when nothing is left of a drag.
+  static QString Left() {
+    QStringList left;
+    if (Mouse().IsDragging()) left += QStringLiteral("drag");
+    if (QWidget::mouseGrabber()) left += QStringLiteral("grab");
+    if (QGuiApplication::overrideCursor()) left += QStringLiteral("pointer");
+    return left.join(u' ');
+  }
+  static Qt::CursorShape Pointer() {
+    const QCursor* cursor = QGuiApplication::overrideCursor();
+    return cursor ? cursor->shape() : Qt::ArrowCursor;
+  }
+
+  std::unique_ptr<TForm> First = Make<TForm>();
+  std::unique_ptr<TForm> Second = Make<TForm>();
+  std::map<QString, std::function<void()>> At;
+  /// What all controls answer that are dragged over.
+  bool Accepts = true;
+  /// What OnStartDrag sets.
+  std::optional<TDragObject*> Given;
+  /// Who was dragged over or dropped last.
+  TObject* FSource = nullptr;
+
+ private:
+  QStringList FLog;
+  TObjectRef FA;
+  TObjectRef FB;
+  TObjectRef FC;
+  QPointer<QWindow> FWindow;
+  QPoint FPlace;
+};
+
+}  // namespace kt::tests
