@@ -4,6 +4,7 @@
 #include "kt/rtl/objects/Make.h"
 #include "kt/rtl/objects/ObjectRef.h"
 #include "kt/vcl/controls/DragObject.h"
+#include "kt/vcl/controls/Hints.h"
 #include "kt/vcl/controls/Mouse.h"
 #include "kt/vcl/forms/Application.h"
 #include "kt/vcl/forms/Form.h"
@@ -17,7 +18,6 @@
 #include <functional>
 #include <map>
 #include <memory>
-#include <optional>
 
 namespace kt::tests {
 
@@ -59,7 +59,12 @@ class TDragWorld : public testing::Test {
     Mouse().SetDragImmediate(true);
     Mouse().SetDragThreshold(5);
     // No button stays pressed for the next test.
-    if (QGuiApplication::mouseButtons() != Qt::NoButton && First) Button(QEvent::MouseButtonRelease, Qt::LeftButton);
+    for (Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+      if (FButtons.testFlag(button)) Release(button);
+    }
+    // A widget that goes from below the mouse has Qt make one for the desktop.
+    MoveTo({350, 500});
+    HideControlHint();
   }
 
   TDragProbe* Add(TForm& form, const char* name, int left) {
@@ -73,7 +78,7 @@ class TDragWorld : public testing::Test {
   void Listen(TControl& control) {
     control.OnStartDrag = [this](TObject* sender, TDragObject*& object) {
       Note(NameOf(sender) + " start");
-      if (Given) object = *Given;
+      if (Given) object = static_cast<TDragObject*>(Given.Get());
     };
     control.OnDragOver = [this](TObject* sender, TObject* source, int x, int y, TDragState state, bool& accept) {
       FSource = source;
@@ -115,22 +120,34 @@ class TDragWorld : public testing::Test {
     FWindow = control.GetHandle()->window()->windowHandle();
     Button(QEvent::MouseButtonPress, Qt::LeftButton);
   }
+  /// Presses the button on a control whose handler begins to drag it.
+  void Drag(TWinControl* control, bool immediate = true, int threshold = -1) {
+    if (!control) return;
+    const TObjectRef self(control);
+    control->OnMouseDown = [=](TObject*, TMouseButton, TShiftState, int, int) {
+      control->BeginDrag(immediate, threshold);
+    };
+    Press(*control);
+    if (self) control->OnMouseDown = nullptr;
+  }
   void MoveTo(QPoint screenPos) {
     FPlace = screenPos;
-    if (FWindow) QTest::mouseMove(FWindow, FWindow->mapFromGlobal(FPlace));
+    Send(QEvent::MouseMove, Qt::NoButton);
   }
   void MoveTo(TWinControl* control, QPoint point) {
     if (control && control->HandleAllocated()) MoveTo(control->ClientToScreen(point));
   }
   void Release(Qt::MouseButton button = Qt::LeftButton) { Button(QEvent::MouseButtonRelease, button); }
   void Button(QEvent::Type type, Qt::MouseButton button) {
+    FButtons.setFlag(button, type == QEvent::MouseButtonPress);
+    Send(type, button);
+  }
+  void Send(QEvent::Type type, Qt::MouseButton button) {
     if (!FWindow) return;
-    const QPoint point = FWindow->mapFromGlobal(FPlace);
-    if (type == QEvent::MouseButtonPress) {
-      QTest::mousePress(FWindow, button, {}, point);
-    } else {
-      QTest::mouseRelease(FWindow, button, {}, point);
-    }
+    // Slow enough that no two presses are one double click.
+    FTime += 2 * QApplication::doubleClickInterval();
+    qt_handleMouseEvent(FWindow, FWindow->mapFromGlobal(FPlace), FPlace, FButtons, button, type, Qt::NoModifier, FTime);
+    QCoreApplication::processEvents();
   }
 
   /// "" when nothing is left of a drag.
@@ -152,7 +169,7 @@ class TDragWorld : public testing::Test {
   /// What all controls answer that are dragged over.
   bool Accepts = true;
   /// What OnStartDrag sets.
-  std::optional<TDragObject*> Given;
+  TObjectRef Given;
   /// Who was dragged over or dropped last.
   TObject* FSource = nullptr;
 
@@ -163,6 +180,8 @@ class TDragWorld : public testing::Test {
   TObjectRef FC;
   QPointer<QWindow> FWindow;
   QPoint FPlace;
+  Qt::MouseButtons FButtons;
+  static inline int FTime = 0;
 };
 
 }  // namespace kt::tests

@@ -18,7 +18,7 @@ class DragLifeTest : public TDragWorld, public testing::WithParamInterface<TDyin
   DragLifeTest() {
     // The object is the application's, who has not waited for the end when it is to die earlier.
     FParcel = Make<TDragControlObject>(*A()).release();
-    if (Victim() == "object") Given = static_cast<TDragObject*>(FParcel.Get());
+    if (Victim() == "object") Given = FParcel;
     At[QLatin1String(std::get<0>(GetParam()))] = [this] { Kill(Victim()); };
   }
   ~DragLifeTest() override {
@@ -39,8 +39,7 @@ class DragLifeTest : public TDragWorld, public testing::WithParamInterface<TDyin
   /// Stops for a moment where nothing is being told.
   void Pause(const char* name) { Note(QLatin1String(name) + QStringLiteral(" pause")); }
   void DragAll() {
-    Press(*A());
-    if (A()) A()->BeginDrag(true);
+    Drag(A());
     Pause("first");
     MoveTo(B(), {7, 8});
     Pause("second");
@@ -62,7 +61,7 @@ TEST_P(DragLifeTest, LeavesNothingBehind) {
 TEST_P(DragLifeTest, TheNextDragGoesWell) {
   DragAll();
   At.clear();
-  Given.reset();
+  Given = nullptr;
   if (!First) First = Make<TForm>();
   First->SetBounds(0, 0, 300, 200);
   First->Show();
@@ -70,8 +69,7 @@ TEST_P(DragLifeTest, TheNextDragGoesWell) {
   tests::TWindowProbe::Settle();
   tests::TDragProbe* const next = Add(*First, "N", 100);
   Log();
-  Press(*next);
-  next->BeginDrag(true);
+  Drag(next);
   EXPECT_EQ(Log(), "N start | N enter 5,5 | N move 5,5");
   Release();
   EXPECT_EQ(Log(), "N leave 5,5 | N drop 5,5 | N end N 5,5");
@@ -88,8 +86,7 @@ INSTANTIATE_TEST_SUITE_P(WhenAndWho, DragLifeTest,
 class DragDeathTest : public TDragWorld {
  protected:
   DragDeathTest() {
-    Press(*A());
-    A()->BeginDrag(true);
+    Drag(A());
     MoveTo(B(), {7, 8});
     Log();
   }
@@ -103,8 +100,9 @@ TEST_F(DragDeathTest, ASourceThatGoesEndsTheDragWhileItIsStillComplete) {
 }
 
 TEST_F(DragDeathTest, AFormThatGoesEndsTheDragOfItsControls) {
-  At["A end"] = [this] { EXPECT_EQ(A()->GetParent(), First.get()); };
-  delete First.release();
+  TForm* const form = First.release();
+  At["A end"] = [&] { EXPECT_EQ(A()->GetParent(), form); };
+  delete form;
   EXPECT_EQ(Log(), "B leave 7,8 | A end nobody 0,0");
 }
 

@@ -47,8 +47,7 @@ TEST_F(DragOrderTest, WhatNobodyAcceptsIsDroppedNowhere) {
 }
 
 TEST_F(DragOrderTest, TheAnswerAtTheEndDecides) {
-  Press(*A());
-  A()->BeginDrag(true);
+  Drag(A());
   MoveTo(B(), {7, 8});
   Log();
   Accepts = false;
@@ -58,8 +57,7 @@ TEST_F(DragOrderTest, TheAnswerAtTheEndDecides) {
 
 TEST_F(DragOrderTest, WithoutAHandlerNothingIsAccepted) {
   B()->OnDragOver = nullptr;
-  Press(*A());
-  A()->BeginDrag(true);
+  Drag(A());
   MoveTo(B(), {7, 8});
   EXPECT_EQ(Pointer(), Qt::ForbiddenCursor);
   Log();
@@ -68,8 +66,7 @@ TEST_F(DragOrderTest, WithoutAHandlerNothingIsAccepted) {
 }
 
 TEST_F(DragOrderTest, OutsideOfAllWindowsThereIsNoTarget) {
-  Press(*A());
-  A()->BeginDrag(true);
+  Drag(A());
   Log();
   MoveTo({350, 500});
   EXPECT_EQ(Log(), "A leave 5,5");
@@ -79,8 +76,7 @@ TEST_F(DragOrderTest, OutsideOfAllWindowsThereIsNoTarget) {
 }
 
 TEST_F(DragOrderTest, GoesOverToAnotherForm) {
-  Press(*A());
-  A()->BeginDrag(true);
+  Drag(A());
   MoveTo({350, 500});
   Log();
   MoveTo(C(), {3, 4});
@@ -92,8 +88,7 @@ TEST_F(DragOrderTest, GoesOverToAnotherForm) {
 
 TEST_F(DragOrderTest, AFormIsATargetToo) {
   Listen(*Second);
-  Press(*A());
-  A()->BeginDrag(true);
+  Drag(A());
   MoveTo({350, 500});
   Log();
   MoveTo(Second.get(), {200, 100});
@@ -105,8 +100,7 @@ TEST_F(DragOrderTest, AFormIsATargetToo) {
 TEST_F(DragOrderTest, ADisabledControlLeavesItsPlaceToItsParent) {
   Listen(*First);
   B()->SetEnabled(false);
-  Press(*A());
-  A()->BeginDrag(true);
+  Drag(A());
   Log();
   MoveTo(B(), {1, 2});
   EXPECT_EQ(Log(), "A leave 5,5 | First enter 151,12 | First move 151,12");
@@ -118,15 +112,13 @@ TEST_F(DragOrderTest, AControlWithoutAWindowIsATarget) {
   picture->SetBounds(10, 100, 40, 40);
   picture->SetParent(First.get());
   Listen(*picture);
-  Press(*A());
-  A()->BeginDrag(true);
+  Drag(A());
   Log();
   MoveTo(First.get(), {12, 103});
   Release();
   EXPECT_EQ(Log(), "A leave 5,5 | P enter 2,3 | P move 2,3 | P leave 2,3 | P drop 2,3 | A end P 2,3");
   picture->SetEnabled(false);
-  Press(*A());
-  A()->BeginDrag(true);
+  Drag(A());
   Log();
   MoveTo(First.get(), {12, 103});
   EXPECT_EQ(Log(), "A leave 5,5");
@@ -134,9 +126,7 @@ TEST_F(DragOrderTest, AControlWithoutAWindowIsATarget) {
 
 TEST_F(DragOrderTest, ThePointerTellsWhetherItIsAccepted) {
   A()->SetDragCursor(crHandPoint);
-  Press(*A());
-  EXPECT_EQ(Left(), "");
-  A()->BeginDrag(true);
+  Drag(A());
   EXPECT_EQ(Pointer(), Qt::PointingHandCursor);
   MoveTo(C(), {7, 8});
   EXPECT_EQ(Pointer(), Qt::PointingHandCursor);
@@ -149,8 +139,7 @@ TEST_F(DragOrderTest, ThePointerTellsWhetherItIsAccepted) {
 
 TEST_F(DragOrderTest, APointerOfTheProgramComesBack) {
   Screen().SetCursor(crHourGlass);
-  Press(*A());
-  A()->BeginDrag(true);
+  Drag(A());
   EXPECT_EQ(Pointer(), Qt::DragMoveCursor);
   Screen().SetCursor(crCross);
   EXPECT_EQ(Pointer(), Qt::DragMoveCursor);
@@ -165,8 +154,7 @@ TEST_F(DragOrderTest, TheControlIsDraggingUntilTheDrop) {
   const auto note = [&] { states += A()->Dragging() ? u'1' : u'0'; };
   At["A start"] = At["B move"] = At["B leave"] = At["B drop"] = At["A end"] = note;
   EXPECT_FALSE(A()->Dragging());
-  Press(*A());
-  A()->BeginDrag(true);
+  Drag(A());
   EXPECT_TRUE(A()->Dragging());
   EXPECT_TRUE(Mouse().IsDragging());
   EXPECT_FALSE(B()->Dragging());
@@ -183,6 +171,8 @@ TEST_F(DragOrderTest, TheMouseIsNobodyElses) {
   }
   A()->SetDragMode(dmAutomatic);
   Press(*A());
+  // The way there.
+  A()->Log();
   MoveTo(B(), {7, 8});
   Button(QEvent::MouseButtonPress, Qt::MiddleButton);
   Release(Qt::MiddleButton);
@@ -192,8 +182,7 @@ TEST_F(DragOrderTest, TheMouseIsNobodyElses) {
 }
 
 TEST_F(DragOrderTest, TheRightButtonDropsAsWell) {
-  Press(*A());
-  A()->BeginDrag(true);
+  Drag(A());
   MoveTo(B(), {7, 8});
   Log();
   Button(QEvent::MouseButtonPress, Qt::RightButton);
@@ -203,8 +192,7 @@ TEST_F(DragOrderTest, TheRightButtonDropsAsWell) {
 }
 
 TEST_F(DragOrderTest, TheControlKeyAsksAnew) {
-  Press(*A());
-  A()->BeginDrag(true);
+  Drag(A());
   MoveTo(B(), {7, 8});
   Log();
   QTest::keyPress(A()->GetHandle(), Qt::Key_Control);
@@ -216,8 +204,7 @@ TEST_F(DragOrderTest, TheControlKeyAsksAnew) {
 }
 
 TEST_F(DragOrderTest, OneThingIsDraggedAtATime) {
-  Press(*A());
-  A()->BeginDrag(true);
+  Drag(A());
   Log();
   B()->BeginDrag(true);
   B()->EndDrag(false);
@@ -234,8 +221,7 @@ TEST_F(DragOrderTest, ADragNeedsNoButton) {
 }
 
 TEST_F(DragOrderTest, EndDragDropsOnWhatIsBelow) {
-  Press(*A());
-  A()->BeginDrag(true);
+  Drag(A());
   MoveTo(C(), {7, 8});
   Log();
   A()->EndDrag(true);
@@ -264,8 +250,7 @@ class TParcel : public TDragControlObject {
 TEST_F(DragOrderTest, AnObjectOfTheApplicationIsDraggedInItsPlace) {
   const auto parcel = Make<TParcel>(*A());
   Given = parcel.get();
-  Press(*A());
-  A()->BeginDrag(true);
+  Drag(A());
   MoveTo(B(), {7, 8});
   EXPECT_EQ(FSource, parcel.get());
   EXPECT_EQ(parcel->GetDragTarget(), B());
@@ -280,8 +265,7 @@ TEST_F(DragOrderTest, AnObjectOfTheApplicationIsDraggedInItsPlace) {
 TEST_F(DragOrderTest, AnObjectThatStandsForAnotherControlTellsThatOne) {
   const auto parcel = Make<TParcel>(*B());
   Given = parcel.get();
-  Press(*A());
-  A()->BeginDrag(true);
+  Drag(A());
   Log();
   Release();
   EXPECT_EQ(Log(), "A leave 5,5 | A drop 5,5 | B end A 5,5");
@@ -289,10 +273,9 @@ TEST_F(DragOrderTest, AnObjectThatStandsForAnotherControlTellsThatOne) {
 
 TEST_F(DragOrderTest, SomeObjectsGoWithTheirDrag) {
   TObjectRef given(Make<TDragControlObjectEx>(*A()).release());
-  Given = static_cast<TDragObject*>(given.Get());
+  Given = given;
   At["A end"] = [&] { EXPECT_TRUE(given); };
-  Press(*A());
-  A()->BeginDrag(true);
+  Drag(A());
   EXPECT_EQ(FSource, given.Get());
   Release();
   EXPECT_FALSE(given);
@@ -302,8 +285,7 @@ TEST_F(DragOrderTest, AnObjectTakesOverWhereAnotherOneIs) {
   const auto parcel = Make<TParcel>(*A());
   const auto other = Make<TDragControlObject>(*B());
   Given = parcel.get();
-  Press(*A());
-  A()->BeginDrag(true);
+  Drag(A());
   MoveTo(B(), {7, 8});
   other->Assign(parcel.get());
   EXPECT_EQ(other->GetDragTarget(), B());
