@@ -13,9 +13,8 @@
 
 #include <QWindow>
 
-#include <gtest/gtest.h>
-
 #include <functional>
+#include <gtest/gtest.h>
 #include <map>
 #include <memory>
 

@@ -132,13 +132,14 @@ class TControl : public TComponent {
   TPopupMenu* GetPopupMenu() const { return FPopupMenu; }
   void SetPopupMenu(TPopupMenu* value);
 
-  // Dragging: within the windows of the program. The mouse is captured by the window of the control, or of its parent.
-  /// dkDock is there for the forms that say it. Nothing can be docked: such a control is not dragged at all, and presses
-  /// are presses.
+  // Dragging: within the windows of the program. The window of the control, or of its parent, has the mouse meanwhile.
+  // The Escape key and the loss of the mouse cancel. Handlers of a drag may free whatever they like.
+  /// dkDock is there for the forms that say it. Nothing can be docked: such a control is not dragged at all, and
+  /// presses are presses.
   TDragKind GetDragKind() const { return FDragKind; }
   void SetDragKind(TDragKind value) { FDragKind = value; }
-  /// With dmAutomatic a press of the left button drags the control, which hears of no press then. A list box selects the
-  /// line first. Forms are not dragged.
+  /// With dmAutomatic a press of the left button drags the control, which hears of no press then. A list box selects
+  /// the line first. Forms are not dragged.
   TDragMode GetDragMode() const { return FDragMode; }
   void SetDragMode(TDragMode value) { FDragMode = value; }
   /// The pointer while it is over something that accepts the control, in all windows; crNoDrop elsewhere.

@@ -59,7 +59,7 @@ inline constexpr quint32 CM_CONTROLLISTCHANGE = CM_BASE + 44;  ///< WParam: the 
 inline constexpr quint32 CM_CHILDKEY = CM_BASE + 46;           ///< WParam: key code; LParam: the child; Result 1: taken
 /// WParam: TDragMessage; LParam: TDragRec*; Result: whether it is accepted, or the TControl* that is the target
 inline constexpr quint32 CM_DRAG = CM_BASE + 47;
-inline constexpr quint32 CM_HINTSHOW = CM_BASE + 48;           ///< LParam: THintInfo*; Result 1: show none
+inline constexpr quint32 CM_HINTSHOW = CM_BASE + 48;  ///< LParam: THintInfo*; Result 1: show none
 inline constexpr quint32 CM_RECREATEWND = CM_BASE + 51;
 inline constexpr quint32 CM_BIDIMODECHANGED = CM_BASE + 60;
 inline constexpr quint32 CM_PARENTBIDIMODECHANGED = CM_BASE + 61;

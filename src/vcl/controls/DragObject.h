@@ -10,8 +10,8 @@ namespace kt {
 
 class TControl;
 
-/// What is dragged, from OnStartDrag to OnEndDrag. Made by a handler of OnStartDrag, who frees it when the drag is over;
-/// one that goes earlier ends the drag. Handlers of the controls below get it as what is dragged.
+/// What is dragged, from OnStartDrag to OnEndDrag. Made by a handler of OnStartDrag, who frees it when the drag is
+/// over; one that goes earlier ends the drag. Handlers of the controls below get it as what is dragged.
 class TDragObject : public TObject {
  public:
   using Inherited = TObject;

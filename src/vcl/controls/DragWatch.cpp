@@ -61,9 +61,9 @@ bool TDragWatch::eventFilter(QObject* object, QEvent* event) {
   if (!drag) return false;
   const TControlBody::TInEvent running;
   if (object->isWidgetType()) return SeeInWidget(*drag, *static_cast<QWidget*>(object), *event);
-  const bool isProgramLeft = object == qApp && event->type() == QEvent::ApplicationStateChange &&
-                             static_cast<QApplicationStateChangeEvent*>(event)->applicationState() !=
-                                 Qt::ApplicationActive;
+  const bool isProgramLeft =
+      object == qApp && event->type() == QEvent::ApplicationStateChange &&
+      static_cast<QApplicationStateChangeEvent*>(event)->applicationState() != Qt::ApplicationActive;
   if (isProgramLeft) GuardedCall([&] { drag->Finish(false); });
   return false;
 }

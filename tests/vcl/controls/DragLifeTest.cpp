@@ -2,7 +2,7 @@
 #include "support/DragWorld.h"
 
 #include <gtest/gtest.h>
-
+#include <string>
 #include <tuple>
 
 namespace kt {
@@ -76,11 +76,19 @@ TEST_P(DragLifeTest, TheNextDragGoesWell) {
   EXPECT_EQ(Left(), "");
 }
 
+/// "B_drop_A": while B is told of the drop, A dies.
+std::string NameOfDying(const testing::TestParamInfo<TDying>& info) {
+  const QString when = QLatin1String(std::get<0>(info.param));
+  return (when.section(u' ', 0, 0) + u'_' + when.section(u' ', 1) + u'_' + QLatin1String(std::get<1>(info.param)))
+      .toStdString();
+}
+
 INSTANTIATE_TEST_SUITE_P(WhenAndWho, DragLifeTest,
                          testing::Combine(testing::Values("A start", "A enter", "A move", "A leave", "first pause",
                                                           "B enter", "B move", "B leave", "second pause", "C enter",
                                                           "C move", "C leave", "third pause", "C drop", "A end"),
-                                          testing::Values("A", "B", "C", "first", "second", "object", "window")));
+                                          testing::Values("A", "B", "C", "first", "second", "object", "window")),
+                         NameOfDying);
 
 /// A few of these told in words.
 class DragDeathTest : public TDragWorld {

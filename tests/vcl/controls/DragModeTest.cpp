@@ -139,8 +139,9 @@ TEST_F(DragModeTest, AGridIsDraggedByItsCells) {
   Press(grid, {100, 60});
   MoveTo(B(), {7, 8});
   Release();
-  EXPECT_EQ(Log(), "X start | X enter 100,60 | X move 100,60 | X leave 100,60 | B enter 7,8 | B move 7,8 | "
-                   "B leave 7,8 | B drop 7,8 | X end B 7,8");
+  EXPECT_EQ(Log(),
+            "X start | X enter 100,60 | X move 100,60 | X leave 100,60 | B enter 7,8 | B move 7,8 | "
+            "B leave 7,8 | B drop 7,8 | X end B 7,8");
   EXPECT_EQ(grid.GetCol(), before.X);
   EXPECT_EQ(grid.GetRow(), before.Y);
 }

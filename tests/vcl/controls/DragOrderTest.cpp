@@ -93,8 +93,9 @@ TEST_F(DragOrderTest, AFormIsATargetToo) {
   Log();
   MoveTo(Second.get(), {200, 100});
   Release();
-  EXPECT_EQ(Log(), "Second enter 200,100 | Second move 200,100 | Second leave 200,100 | Second drop 200,100 | "
-                   "A end Second 200,100");
+  EXPECT_EQ(Log(),
+            "Second enter 200,100 | Second move 200,100 | Second leave 200,100 | Second drop 200,100 | "
+            "A end Second 200,100");
 }
 
 TEST_F(DragOrderTest, ADisabledControlLeavesItsPlaceToItsParent) {
