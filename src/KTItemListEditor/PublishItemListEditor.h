@@ -52,6 +52,7 @@ void GridOfItems(TClassBuilder<T>& builder) {
   TabStop(builder, true);
   Visible(builder);
   MouseEvents(builder);
+  DragEvents(builder);
   WheelEvents(builder);
   FocusEvents(builder);
   KeyEvents(builder);

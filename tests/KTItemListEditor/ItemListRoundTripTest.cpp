@@ -27,6 +27,9 @@ class THandlingEditor : public TKTItemListEditor {
   void Notify(TObject*) {}
   void Mouse(TObject*, TMouseButton, TShiftState, int, int) {}
   void MouseMoved(TObject*, TShiftState, int, int) {}
+  void StartsDrag(TObject*, TDragObject*&) {}
+  void DragsOver(TObject*, TObject*, int, int, TDragState, bool&) {}
+  void Dropped(TObject*, TObject*, int, int) {}
   void Key(TObject*, quint16&, TShiftState) {}
   void Character(TObject*, QChar&) {}
   void DrawsCell(TObject*, int, int, const QRect&, TGridDrawState) {}
@@ -47,6 +50,9 @@ const TClassInfo* THandlingEditor::Class() {
                                      .Method("Notify", &T::Notify)
                                      .Method("Mouse", &T::Mouse)
                                      .Method("MouseMoved", &T::MouseMoved)
+                                     .Method("StartsDrag", &T::StartsDrag)
+                                     .Method("DragsOver", &T::DragsOver)
+                                     .Method("Dropped", &T::Dropped)
                                      .Method("Key", &T::Key)
                                      .Method("Character", &T::Character)
                                      .Method("DrawsCell", &T::DrawsCell)
@@ -163,6 +169,10 @@ constexpr const char* EditorLines[] = {"Tag = 7",
                                        "OnMouseLeave = Notify",
                                        "OnMouseMove = MouseMoved",
                                        "OnMouseUp = Mouse",
+                                       "OnDragDrop = Dropped",
+                                       "OnDragOver = DragsOver",
+                                       "OnEndDrag = Dropped",
+                                       "OnStartDrag = StartsDrag",
                                        "OnEnter = Notify",
                                        "OnExit = Notify",
                                        "OnKeyDown = Key",

@@ -2,6 +2,7 @@
 
 #include "kt/vcl/actions/ActionTypes.h"
 #include "kt/vcl/controls/ControlTypes.h"
+#include "kt/vcl/controls/DragTypes.h"
 #include "kt/vcl/forms/FormTypes.h"
 #include "kt/vcl/grids/GridTypes.h"
 #include "support/PropertyWalk.h"
@@ -26,7 +27,11 @@ inline std::vector<TClassInfo::TPublishedMethod> VisualHandlers() {
           HandlerOf<TActionEvent>(),
           HandlerOf<THintEvent>(),
           HandlerOf<TMouseWheelEvent>(),
-          HandlerOf<TMouseWheelUpDownEvent>()};
+          HandlerOf<TMouseWheelUpDownEvent>(),
+          HandlerOf<TDragDropEvent>(),
+          HandlerOf<TDragOverEvent>(),
+          HandlerOf<TEndDragEvent>(),
+          HandlerOf<TStartDragEvent>()};
 }
 
 }  // namespace kt::tests

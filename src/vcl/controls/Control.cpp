@@ -2,6 +2,7 @@
 
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/actions/ControlActionLink.h"
+#include "kt/vcl/controls/DragSession.h"
 #include "kt/vcl/controls/MessageAddress.h"
 #include "kt/vcl/controls/WinControl.h"
 #include "kt/vcl/menus/PopupMenu.h"
@@ -48,6 +49,7 @@ void TControl::Construct() {
 }
 
 void TControl::Destruct() {
+  TDragSession::Forget(*this);
   FAddress.reset();
   FActionLink.reset();
   if (FParent) SetParent(nullptr);

@@ -4,6 +4,7 @@
 #include "kt/rtl/objects/Message.h"
 #include "kt/vcl/controls/ControlMessages.h"
 #include "kt/vcl/controls/ControlTypes.h"
+#include "kt/vcl/controls/DragTypes.h"
 #include "kt/vcl/controls/SizeConstraints.h"
 #include "kt/vcl/graphics/Color.h"
 #include "kt/vcl/graphics/Cursor.h"
@@ -131,13 +132,31 @@ class TControl : public TComponent {
   TPopupMenu* GetPopupMenu() const { return FPopupMenu; }
   void SetPopupMenu(TPopupMenu* value);
 
-  // Dragging.
+  // Dragging: within the windows of the program. The window of the control, or of its parent, has the mouse meanwhile.
+  // The Escape key and the loss of the mouse cancel. Handlers of a drag may free whatever they like.
+  /// dkDock is there for the forms that say it. Nothing can be docked: such a control is not dragged at all, and
+  /// presses are presses.
   TDragKind GetDragKind() const { return FDragKind; }
   void SetDragKind(TDragKind value) { FDragKind = value; }
+  /// With dmAutomatic a press of the left button drags the control, which hears of no press then. A list box selects
+  /// the line first. Forms are not dragged.
   TDragMode GetDragMode() const { return FDragMode; }
   void SetDragMode(TDragMode value) { FDragMode = value; }
+  /// The pointer while it is over something that accepts the control, in all windows; crNoDrop elsewhere.
   TCursor GetDragCursor() const { return FDragCursor; }
   void SetDragCursor(TCursor value) { FDragCursor = value; }
+  /// The control is dragged from now on, until a button is released: at once, or when the mouse has moved by so many
+  /// pixels (Mouse().GetDragThreshold() if negative). OnStartDrag comes at once. When the button was pressed on the
+  /// control, its release and so the click come first. Nothing happens while something is dragged already, or without a
+  /// QApplication. Raises EInvalidOperation for forms.
+  void BeginDrag(bool immediate, int threshold = -1);
+  /// Ends the drag of this control; in OnStartDrag, and in the OnMouseUp and OnClick that come before it, keeps it from
+  /// beginning. `drop`: on the control below the mouse, if that accepts it.
+  void EndDrag(bool drop);
+  /// Whether it is being dragged. No longer so in OnDragDrop and OnEndDrag, where another drag may begin.
+  bool Dragging() const;
+  /// Something was dropped here.
+  virtual void DragDrop(TObject* source, int x, int y) { OnDragDrop(this, source, x, y); }
 
   TControlStyle GetControlStyle() const { return FControlStyle; }
   TControlState GetControlState() const { return FControlState; }
@@ -168,30 +187,37 @@ class TControl : public TComponent {
   TNotifyEvent OnClick;
   TContextPopupEvent OnContextPopup;
   TNotifyEvent OnDblClick;
+  TDragDropEvent OnDragDrop;
+  TDragOverEvent OnDragOver;
+  TEndDragEvent OnEndDrag;
   TMouseEvent OnMouseDown;
   TMouseMoveEvent OnMouseMove;
   TMouseEvent OnMouseUp;
   TNotifyEvent OnMouseEnter;
   TNotifyEvent OnMouseLeave;
   TNotifyEvent OnResize;
+  TStartDragEvent OnStartDrag;
 
  protected:
   friend class TSizeConstraints;
   friend class TWinControl;
   friend class TMessageAddress;
   friend class TControlActionLink;
+  friend class TBaseDragControlObject;
+  friend class TDragSession;
 
   explicit TControl(TComponent* owner = nullptr);
   ~TControl() override;
 
   void Construct() override;
+  void BeforeDestruction() override;
   void Destruct() override;
   void Loaded() override;
   void Notification(TComponent* component, TOperation operation) override;
   void SetParentComponent(TComponent* value) override;
 
   /// The one way that every message takes; overrides see them first.
-  virtual void WndProc(TMessage& message) { Dispatch(message); }
+  virtual void WndProc(TMessage& message);
 
   /// The widths of what surrounds the client area: a border, scroll bars.
   virtual QMargins GetClientMargins() const { return {}; }
@@ -223,6 +249,16 @@ class TControl : public TComponent {
   virtual void MouseMove(TShiftState shift, int x, int y) { OnMouseMove(this, shift, x, y); }
   virtual void MouseUp(TMouseButton button, TShiftState shift, int x, int y) { OnMouseUp(this, button, shift, x, y); }
 
+  /// A press drags the control.
+  virtual void BeginAutoDrag();
+  /// May make the object that is dragged in place of the control.
+  virtual void DoStartDrag(TDragObject*& dragObject) { OnStartDrag(this, dragObject); }
+  /// Whether something could be dropped here; the inherited one asks the handler, and accepts nothing without one.
+  virtual void DragOver(TObject* source, int x, int y, TDragState state, bool& accept);
+  /// Nobody took the control; comes before DoEndDrag().
+  virtual void DragCanceled() {}
+  virtual void DoEndDrag(TObject* target, int x, int y) { OnEndDrag(this, target, x, y); }
+
   virtual void CMParentFontChanged(TMessage& message);
   virtual void CMParentColorChanged(TMessage& message);
   virtual void CMParentBiDiModeChanged(TMessage& message);
@@ -247,6 +283,12 @@ class TControl : public TComponent {
   void DoActionChange(TObject* sender);
   void ConstraintsChanged();
   bool DispatchMouse(TMessage& message);
+  bool IsDraggedByPress() const;
+  void PressToDrag();
+  /// The target's answer.
+  bool DoDragMsg(TDragMessage what, const TDragRec& about);
+  /// A place of the screen in the client area; in that of the nearest parent with a window, when there is none here.
+  QPoint PlaceInClient(QPoint screenPos);
   void ButtonDown(const TMessage& message, TMouseButton button, bool isDouble);
   void ButtonUp(const TMessage& message, TMouseButton button);
   /// Remembers where the control stands relative to its parent, which anchors keep.

@@ -13,14 +13,6 @@ namespace kt {
 
 namespace {
 
-/// How many events of ours are being handled: while there are any, widgets may be on the stack.
-int Running = 0;
-
-struct TRunning {
-  TRunning() { ++Running; }
-  ~TRunning() { --Running; }
-};
-
 bool TakesTab(const QWidget* widget) {
   return (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && !widget->focusProxy() && !widget->isWindow() &&
          widget->isVisible() && widget->isEnabled();
@@ -29,6 +21,7 @@ bool TakesTab(const QWidget* widget) {
 }  // namespace
 
 TControlBody::~TControlBody() {
+  if (Pressed == this) Pressed = nullptr;
   if (FControl) FControl->WindowDestroyed();
 }
 
@@ -43,7 +36,7 @@ TWinControl* TControlBody::ControlOf(const QObject* widget) {
 
 void TControlBody::Retire() {
   FControl = nullptr;
-  if (Running == 0) {
+  if (TInEvent::Running == 0) {
     delete FWidget;
     return;
   }
@@ -60,7 +53,7 @@ void TControlBody::RunInherited() {
 
 bool TControlBody::HandleEvent(QEvent* event, const TInherited& inherited) {
   if (!FControl) return inherited(event);
-  const TRunning running;
+  const TInEvent running;
   // Handlers may have the event loop run, and so this again.
   QEvent* const outerEvent = std::exchange(FEvent, event);
   const TInherited* const outerInherited = std::exchange(FInherited, &inherited);

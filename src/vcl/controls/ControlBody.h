@@ -30,6 +30,21 @@ class TControlBody {
   TControlBody& operator=(const TControlBody&) = delete;
   virtual ~TControlBody();
 
+  /// An event of Qt's is being handled, for the time of a block: widgets that retire meanwhile may be on the stack, and
+  /// go later.
+  class TInEvent {
+   public:
+    TInEvent() { ++Running; }
+    ~TInEvent() { --Running; }
+    TInEvent(const TInEvent&) = delete;
+    TInEvent& operator=(const TInEvent&) = delete;
+
+   private:
+    friend class TControlBody;
+
+    static inline int Running = 0;
+  };
+
   /// The body of a widget, or null when the widget is none of ours.
   static TControlBody* Of(const QObject* widget);
   /// The control of a widget of ours, or null.
@@ -52,7 +67,9 @@ class TControlBody {
   /// The event that is being handled, or null.
   QEvent* CurrentEvent() const { return FEvent; }
   /// Whether the widget got the press of the mouse button that is held.
-  bool IsPressed() const { return FIsPressed; }
+  bool IsPressed() const { return Pressed == this; }
+  /// The last button was released, wherever.
+  static void ButtonsReleased() { Pressed = nullptr; }
 
  protected:
   /// What QObject::event() of the widget does. `inherited` is the event() of the widget's base class.
@@ -75,13 +92,15 @@ class TControlBody {
   void Geometry();
   bool SendMouse(quint32 msg, QMouseEvent* event);
 
+  /// Whose widget got the press of the button that is held, or null.
+  static inline TControlBody* Pressed = nullptr;
+
   TWinControl* FControl;
   QWidget* FWidget;
   QEvent* FEvent = nullptr;
   const TInherited* FInherited = nullptr;
   bool FInheritedResult = true;
   bool FInheritedDone = false;
-  bool FIsPressed = false;
 };
 
 /// A widget of class W that is a control's window.

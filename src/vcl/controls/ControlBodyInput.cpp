@@ -3,6 +3,7 @@
 #include "kt/vcl/controls/Focus.h"
 #include "kt/vcl/controls/Hints.h"
 #include "kt/vcl/controls/KeyCodes.h"
+#include "kt/vcl/controls/Mouse.h"
 #include "kt/vcl/controls/VirtualKeys.h"
 #include "kt/vcl/controls/WinControl.h"
 
@@ -66,13 +67,14 @@ TButtonMessages MessagesOf(Qt::MouseButton button) {
 bool TControlBody::SendMouse(quint32 msg, QMouseEvent* event) {
   if (msg == 0 || !FControl) return false;
   const QPoint point = event->position().toPoint() - FControl->GetClientOrigin();
+  const TMousePlace place(event->globalPosition().toPoint());
   FControl->Perform(msg, ShiftStateOf(event->modifiers(), event->buttons()).Bits(), MessagePoint(point.x(), point.y()));
   return true;
 }
 
 void TControlBody::Press(QMouseEvent* event) {
   const TButtonMessages messages = MessagesOf(event->button());
-  FIsPressed = true;
+  Pressed = this;
   event->accept();
   const bool isDouble = event->type() == QEvent::MouseButtonDblClick;
   SendMouse(isDouble ? messages.DoubleClick : messages.Down, event);
@@ -81,7 +83,7 @@ void TControlBody::Press(QMouseEvent* event) {
 }
 
 void TControlBody::Release(QMouseEvent* event) {
-  if (event->buttons() == Qt::NoButton) FIsPressed = false;
+  if (event->buttons() == Qt::NoButton) ButtonsReleased();
   SendMouse(MessagesOf(event->button()).Up, event);
   event->accept();
 }

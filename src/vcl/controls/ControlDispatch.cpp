@@ -12,6 +12,22 @@ qintptr MessagePoint(int x, int y) {
 
 QPoint PointOfMessage(qintptr lParam) { return {qint16(lParam & 0xFFFF), qint16((lParam >> 16) & 0xFFFF)}; }
 
+void TControl::WndProc(TMessage& message) {
+  switch (message.Msg) {
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+      if (IsDraggedByPress()) return PressToDrag();
+      FControlState.Include(csLButtonDown);
+      break;
+    case WM_LBUTTONUP:
+      FControlState.Exclude(csLButtonDown);
+      break;
+    default:
+      break;
+  }
+  Dispatch(message);
+}
+
 void TControl::Dispatch(TMessage& message) {
   switch (message.Msg) {
     case CM_PARENTFONTCHANGED:

@@ -57,7 +57,9 @@ inline constexpr quint32 CM_PARENTSHOWHINTCHANGED = CM_BASE + 35;
 inline constexpr quint32 CM_TABSTOPCHANGED = CM_BASE + 40;
 inline constexpr quint32 CM_CONTROLLISTCHANGE = CM_BASE + 44;  ///< WParam: the TControl*; LParam: 1 added, 0 removed
 inline constexpr quint32 CM_CHILDKEY = CM_BASE + 46;           ///< WParam: key code; LParam: the child; Result 1: taken
-inline constexpr quint32 CM_HINTSHOW = CM_BASE + 48;           ///< LParam: THintInfo*; Result 1: show none
+/// WParam: TDragMessage; LParam: TDragRec*; Result: whether it is accepted, or the TControl* that is the target
+inline constexpr quint32 CM_DRAG = CM_BASE + 47;
+inline constexpr quint32 CM_HINTSHOW = CM_BASE + 48;  ///< LParam: THintInfo*; Result 1: show none
 inline constexpr quint32 CM_RECREATEWND = CM_BASE + 51;
 inline constexpr quint32 CM_BIDIMODECHANGED = CM_BASE + 60;
 inline constexpr quint32 CM_PARENTBIDIMODECHANGED = CM_BASE + 61;

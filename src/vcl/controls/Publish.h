@@ -101,6 +101,19 @@ void Visible(TClassBuilder<T>& builder) {
       &TControl::IsVisibleStored);
 }
 
+/// What comes from elsewhere.
+template <class T>
+void DropEvents(TClassBuilder<T>& builder) {
+  builder.template Property<&TControl::OnDragDrop>("OnDragDrop");
+  builder.template Property<&TControl::OnDragOver>("OnDragOver");
+}
+/// For what can be dragged itself.
+template <class T>
+void DragEvents(TClassBuilder<T>& builder) {
+  DropEvents(builder);
+  builder.template Property<&TControl::OnEndDrag>("OnEndDrag");
+  builder.template Property<&TControl::OnStartDrag>("OnStartDrag");
+}
 template <class T>
 void MouseEvents(TClassBuilder<T>& builder) {
   builder.template Property<&TControl::OnClick>("OnClick").Stored(&TControl::IsOnClickStored);

@@ -177,6 +177,9 @@ class TWinControl : public TControl {
   void CMCursorChanged(TMessage& message) override;
 
  private:
+  void CMDrag(TMessage& message);
+  /// The child without a window at a place of the client area, or this one.
+  TControl* ControlAt(QPoint point);
   void AlignControl(TControl* control);
   void AlignAnchored(const QRect& rect);
   void AlignSide(TAlign align, QRect& rect);

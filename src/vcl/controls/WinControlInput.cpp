@@ -52,6 +52,8 @@ void TWinControl::Dispatch(TMessage& message) {
     case CM_DIALOGKEY:
       for (int i = 0; i < GetControlCount() && message.Result == 0; ++i) GetControls(i)->WndProc(message);
       return;
+    case CM_DRAG:
+      return CMDrag(message);
     case CM_TABSTOPCHANGED:
       return CMTabStopChanged(message);
     case CM_ORDERTABS:

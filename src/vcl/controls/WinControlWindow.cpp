@@ -1,6 +1,7 @@
 // The window of TWinControl.
 #include "kt/vcl/actions/IdleActions.h"
 #include "kt/vcl/controls/ControlBody.h"
+#include "kt/vcl/controls/DragSession.h"
 #include "kt/vcl/controls/Focus.h"
 #include "kt/vcl/controls/WinControl.h"
 #include "kt/vcl/forms/Application.h"
@@ -9,6 +10,7 @@
 #include <QLayout>
 
 #include <memory>
+#include <utility>
 
 namespace kt {
 
@@ -78,6 +80,7 @@ void TWinControl::InitializeWindow() {
 void TWinControl::DestroyWnd() {
   TFocus::Forget(this);
   if (Captured == this) Captured = nullptr;
+  TDragSession::WindowLost(*this);
   FShowing = false;
   FWindow = nullptr;
   if (TControlBody* body = std::exchange(FBody, nullptr)) body->Retire();
@@ -95,6 +98,7 @@ void TWinControl::DestroyHandle() {
 void TWinControl::WindowDestroyed() {
   TFocus::Forget(this);
   if (Captured == this) Captured = nullptr;
+  TDragSession::WindowLost(*this);
   FWindow = nullptr;
   FBody = nullptr;
   if (!std::exchange(FShowing, false) || HasState(csDestroying)) return;
@@ -233,10 +237,11 @@ void TWinControl::PaintWindow(const QRect&) { FBody->RunInherited(); }
 void TWinControl::SetMouseCapture(bool value) {
   if (value == HasMouseCapture()) return;
   if (value) HandleNeeded();
-  if (Captured && Captured->FWindow) Captured->FWindow->releaseMouse();
-  Captured = value ? this : nullptr;
+  TWinControl* const previous = std::exchange(Captured, value ? this : nullptr);
+  if (previous && previous->FWindow) previous->FWindow->releaseMouse();
   // A press already brings all events here until the button is released.
   if (value && !FBody->IsPressed()) GetHandle()->grabMouse();
+  if (previous) TDragSession::CaptureLost(*previous);
 }
 
 bool TWinControl::HasMouseCapture() const { return Captured == this; }

@@ -43,6 +43,7 @@ const TClassInfo* TForm::Class() {
     builder.Property<&TForm::GetWindowState, &TForm::SetWindowState>("WindowState").Default(wsNormal);
     builder.Property<&TForm::OnActivate>("OnActivate");
     Publish::MouseEvents(builder);
+    Publish::DropEvents(builder);
     Publish::WheelEvents(builder);
     builder.Property<&TForm::OnClose>("OnClose");
     builder.Property<&TForm::OnCloseQuery>("OnCloseQuery");

@@ -12,6 +12,8 @@
 #include <QFontDatabase>
 #include <QScreen>
 
+#include <utility>
+
 namespace kt {
 
 const TClassInfo* TScreen::Class() {
@@ -39,9 +41,26 @@ void TScreen::RemoveForm(TCustomForm* form) {
 
 void TScreen::SetCursor(TCursor value) {
   if (FCursor == value) return;
-  if (FCursor != crDefault) QGuiApplication::restoreOverrideCursor();
   FCursor = value;
-  if (FCursor != crDefault) QGuiApplication::setOverrideCursor(QtCursorShape(value));
+  UpdateCursor();
+}
+
+void TScreen::ShowDragCursor(TCursor value) {
+  if (FDragCursor == value) return;
+  FDragCursor = value;
+  UpdateCursor();
+}
+
+void TScreen::HideDragCursor() {
+  if (!FDragCursor) return;
+  FDragCursor.reset();
+  UpdateCursor();
+}
+
+void TScreen::UpdateCursor() {
+  const bool wasSet = std::exchange(FIsCursorSet, FDragCursor || FCursor != crDefault);
+  if (wasSet) QGuiApplication::restoreOverrideCursor();
+  if (FIsCursorSet) QGuiApplication::setOverrideCursor(QtCursorShape(FDragCursor.value_or(FCursor)));
 }
 
 QStringList TScreen::GetFonts() const {

@@ -5,6 +5,7 @@
 
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
 namespace kt {
@@ -38,6 +39,7 @@ class TScreen : public TComponent {
 
  protected:
   friend class TCustomForm;
+  friend class TDragSession;
   friend TScreen& Screen();
 
   TScreen() = default;
@@ -46,10 +48,17 @@ class TScreen : public TComponent {
   void AddForm(TCustomForm* form) { FForms.push_back(form); }
   void RemoveForm(TCustomForm* form);
   void SetActiveForm(TCustomForm* form) { FActiveForm = form; }
+  /// While something is dragged there is one pointer everywhere.
+  void ShowDragCursor(TCursor value);
+  void HideDragCursor();
+  void UpdateCursor();
 
   std::vector<TCustomForm*> FForms;
   TCustomForm* FActiveForm = nullptr;
   TCursor FCursor = crDefault;
+  std::optional<TCursor> FDragCursor;
+  /// Qt has one from here.
+  bool FIsCursorSet = false;
 };
 
 /// The program's one.

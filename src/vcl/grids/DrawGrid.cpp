@@ -46,6 +46,7 @@ const TClassInfo* TDrawGrid::Class() {
     Publish::TabStop(builder, true);
     Publish::Visible(builder);
     Publish::MouseEvents(builder);
+    Publish::DragEvents(builder);
     Publish::WheelEvents(builder);
     Publish::FocusEvents(builder);
     Publish::KeyEvents(builder);

@@ -46,6 +46,7 @@ const TClassInfo* TMaskEdit::Class() {
     Publish::Visible(builder);
     builder.Property<&TCustomEdit::OnChange>("OnChange");
     Publish::MouseEvents(builder);
+    Publish::DragEvents(builder);
     Publish::FocusEvents(builder);
     Publish::KeyEvents(builder);
     return builder.Creatable().Done();

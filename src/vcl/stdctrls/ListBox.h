@@ -65,6 +65,7 @@ class TCustomListBox : public TWinControl {
   explicit TCustomListBox(TComponent* owner = nullptr);
 
   void Construct() override;
+  void WndProc(TMessage& message) override;
   QWidget* CreateBody(QWidget* parent) override;
   void CreateWnd() override;
   void DestroyWnd() override;

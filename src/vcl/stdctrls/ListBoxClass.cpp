@@ -40,6 +40,7 @@ const TClassInfo* TListBox::Class() {
     Publish::TabStop(builder, true);
     Publish::Visible(builder);
     Publish::MouseEvents(builder);
+    Publish::DragEvents(builder);
     Publish::FocusEvents(builder);
     Publish::KeyEvents(builder);
     return builder.Creatable().Done();

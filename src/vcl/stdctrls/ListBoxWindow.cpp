@@ -1,4 +1,5 @@
 // The window of TCustomListBox, and what the user does with it.
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/controls/VirtualKeys.h"
 #include "kt/vcl/graphics/RealFont.h"
 #include "kt/vcl/stdctrls/ListBoxView.h"
@@ -143,6 +144,16 @@ void TCustomListBox::DefaultHandler(TMessage& message) {
 }
 
 // The mouse.
+
+/// A press selects a line, which is dragged when the mouse moves.
+void TCustomListBox::WndProc(TMessage& message) {
+  const bool isPress = message.Msg == WM_LBUTTONDOWN || message.Msg == WM_LBUTTONDBLCLK;
+  if (!isPress || GetDragMode() != dmAutomatic || HasState(csDesigning)) return TWinControl::WndProc(message);
+  FControlState.Include(csLButtonDown);
+  const TLifeWatch self(this);
+  Dispatch(message);
+  if (self.IsAlive() && message.Msg == WM_LBUTTONDOWN && GetDragMode() == dmAutomatic) BeginDrag(false);
+}
 
 void TCustomListBox::HandleMouse(const TMessage& message) {
   const QPoint point = PointOfMessage(message.LParam);

@@ -40,7 +40,7 @@ TEST_P(PublishTest, PlaceAndLook) {
 
 TEST_P(PublishTest, HelpMenuAndDragging) {
   EXPECT_EQ(MissingOf({"Action", "Hint", "ShowHint", "HelpType", "HelpKeyword", "HelpContext", "PopupMenu", "DragKind",
-                       "DragMode"}),
+                       "DragMode", "OnDragDrop", "OnDragOver"}),
             "");
 }
 
@@ -57,7 +57,9 @@ INSTANTIATE_TEST_SUITE_P(Classes, PublishTest,
 class PublishInParentTest : public PublishTest {};
 
 TEST_P(PublishInParentTest, WhatControlsOnAFormHaveBesides) {
-  EXPECT_EQ(MissingOf({"ParentColor", "ParentShowHint", "TabOrder", "TabStop", "DragCursor", "OnEnter", "OnExit"}), "");
+  EXPECT_EQ(MissingOf({"ParentColor", "ParentShowHint", "TabOrder", "TabStop", "DragCursor", "OnStartDrag", "OnEndDrag",
+                       "OnEnter", "OnExit"}),
+            "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Classes, PublishInParentTest,
