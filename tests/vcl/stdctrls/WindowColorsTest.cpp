@@ -57,6 +57,18 @@ class WindowColorsTest : public testing::Test {
   std::unique_ptr<TWindowProbe> FWindow;
 };
 
+TEST_F(WindowColorsTest, ATextThatWouldHardlyShowOnDarkGroundIsLighter) {
+  Edit.GetFont().SetColor(clNavy);
+  List.GetFont().SetColor(clNavy);
+  TWindowProbe::Settle();
+  EXPECT_EQ("#000080", Edit.GetHandle()->palette().color(QPalette::Text).name());
+  Darken();
+  TWindowProbe::Settle();
+  EXPECT_GT(Edit.GetHandle()->palette().color(QPalette::Text).lightness(), 100);
+  EXPECT_GT(List.GetHandle()->palette().color(QPalette::Text).lightness(), 100);
+  EXPECT_EQ(clNavy, Edit.GetFont().GetColor());
+}
+
 TEST_F(WindowColorsTest, AnEditFollowsItsSurroundings) {
   Darken();
   EXPECT_EQ(Colors(Edit), "#202020 #e0e0e0");
