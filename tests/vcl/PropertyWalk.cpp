@@ -11,8 +11,13 @@ namespace {
 const TWalkRules& Rules() {
   static const TWalkRules rules{
       .Handlers = VisualHandlers(),
-      .Untouched = {{"TForm.ActiveControl", "takes only a control that shows in the form itself"}},
+      .Untouched = {{"TCheckBox.Action", "is done when Checked changes, and is disabled then for want of a handler"},
+                    {"TRadioButton.Action", "is done when Checked changes, and is disabled then for want of a handler"},
+                    {"TForm.ActiveControl", "takes only a control that shows in the form itself"}},
       .Choosy = {{"TDrawGrid.TabOrder", "is the place among the parent's controls, and there is no parent"},
+                 {"TButton.TabOrder", "is the place among the parent's controls, and there is no parent"},
+                 {"TCheckBox.TabOrder", "is the place among the parent's controls, and there is no parent"},
+                 {"TRadioButton.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TListBox.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TMaskEdit.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TMaskEdit.MaxLength", "is the length of the mask, which the walk has set by then"},

@@ -37,6 +37,8 @@ inline constexpr quint32 WM_USER = 0x0400;  ///< the first number for a class's 
 inline constexpr quint32 CM_BASE = 0xB000;
 inline constexpr quint32 CM_CANCELMODE = CM_BASE + 4;  ///< LParam: the TControl* that wants the others to let go
 inline constexpr quint32 CM_DIALOGKEY = CM_BASE + 5;   ///< WParam: virtual key code; Result 1: taken
+/// To all of a form; LParam: the TWinControl* that has the keyboard now, or 0
+inline constexpr quint32 CM_FOCUSCHANGED = CM_BASE + 7;
 inline constexpr quint32 CM_PARENTFONTCHANGED = CM_BASE + 8;
 inline constexpr quint32 CM_PARENTCOLORCHANGED = CM_BASE + 9;
 inline constexpr quint32 CM_VISIBLECHANGED = CM_BASE + 11;  ///< WParam: 1 when it becomes visible

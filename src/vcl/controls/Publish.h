@@ -26,6 +26,11 @@ void BiDiMode(TClassBuilder<T>& builder) {
   builder.template Property<&TControl::GetBiDiMode, &TControl::SetBiDiMode>("BiDiMode")
       .Stored(&TControl::IsBiDiModeStored);
 }
+/// For classes that make their text public under this name.
+template <class T>
+void Caption(TClassBuilder<T>& builder) {
+  builder.template Property<&T::GetCaption, &T::SetCaption>("Caption").Stored(&TControl::IsCaptionStored);
+}
 template <class T>
 void Color(TClassBuilder<T>& builder) {
   builder.template Property<&TControl::GetColor, &TControl::SetColor>("Color").Stored(&TControl::IsColorStored);
@@ -114,16 +119,21 @@ void DragEvents(TClassBuilder<T>& builder) {
   builder.template Property<&TControl::OnEndDrag>("OnEndDrag");
   builder.template Property<&TControl::OnStartDrag>("OnStartDrag");
 }
+/// The mouse's own, without what they add up to.
 template <class T>
-void MouseEvents(TClassBuilder<T>& builder) {
-  builder.template Property<&TControl::OnClick>("OnClick").Stored(&TControl::IsOnClickStored);
-  builder.template Property<&TControl::OnContextPopup>("OnContextPopup");
-  builder.template Property<&TControl::OnDblClick>("OnDblClick");
+void ButtonEvents(TClassBuilder<T>& builder) {
   builder.template Property<&TControl::OnMouseDown>("OnMouseDown");
   builder.template Property<&TControl::OnMouseEnter>("OnMouseEnter");
   builder.template Property<&TControl::OnMouseLeave>("OnMouseLeave");
   builder.template Property<&TControl::OnMouseMove>("OnMouseMove");
   builder.template Property<&TControl::OnMouseUp>("OnMouseUp");
+}
+template <class T>
+void MouseEvents(TClassBuilder<T>& builder) {
+  builder.template Property<&TControl::OnClick>("OnClick").Stored(&TControl::IsOnClickStored);
+  builder.template Property<&TControl::OnContextPopup>("OnContextPopup");
+  builder.template Property<&TControl::OnDblClick>("OnDblClick");
+  ButtonEvents(builder);
 }
 template <class T>
 void WheelEvents(TClassBuilder<T>& builder) {

@@ -205,6 +205,7 @@ class TWinControl : public TControl {
   /// True when somebody took it.
   bool SendKey(quint32 msg, quint16 key, qintptr shift);
   void DispatchKey(TMessage& message);
+  void DispatchDown(TMessage& message);
 
   std::vector<TControl*> FControls;
   std::vector<TWinControl*> FTabList;

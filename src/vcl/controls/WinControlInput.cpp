@@ -50,8 +50,8 @@ void TWinControl::Dispatch(TMessage& message) {
       if (GetParent()) GetParent()->WndProc(message);
       return;
     case CM_DIALOGKEY:
-      for (int i = 0; i < GetControlCount() && message.Result == 0; ++i) GetControls(i)->WndProc(message);
-      return;
+    case CM_FOCUSCHANGED:
+      return DispatchDown(message);
     case CM_DRAG:
       return CMDrag(message);
     case CM_TABSTOPCHANGED:
@@ -63,6 +63,12 @@ void TWinControl::Dispatch(TMessage& message) {
     default:
       TControl::Dispatch(message);
   }
+}
+
+/// To all controls in here, till one has taken it.
+void TWinControl::DispatchDown(TMessage& message) {
+  const TLifeWatch self(this);
+  for (int i = 0; self.IsAlive() && i < GetControlCount() && message.Result == 0; ++i) GetControls(i)->WndProc(message);
 }
 
 void TWinControl::DispatchKey(TMessage& message) {

@@ -98,6 +98,7 @@ void TCustomForm::ControlFocused(TWinControl* control) {
   if (control == this) return;
   FActiveControl = control;
   control->FreeNotification(this);
+  Perform(CM_FOCUSCHANGED, 0, PointerMessage(control));
 }
 
 bool TCustomForm::PreviewKey(TMessage& message) {

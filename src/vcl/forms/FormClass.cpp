@@ -2,7 +2,15 @@
 #include "kt/vcl/controls/Publish.h"
 #include "kt/vcl/forms/Form.h"
 
+#include <limits>
+
 namespace kt {
+
+const TTypeInfo* ModalResultTypeInfo() {
+  static const TOrdTypeInfo info(tkInteger, QStringLiteral("TModalResult"), otSLong, std::numeric_limits<qint32>::min(),
+                                 std::numeric_limits<qint32>::max());
+  return &info;
+}
 
 const TClassInfo* TCustomForm::Class() {
   static const TClassInfo info = TClassBuilder<TCustomForm>("TCustomForm").Done();
@@ -20,7 +28,7 @@ const TClassInfo* TForm::Class() {
     builder.Property<&TForm::GetBorderIcons, &TForm::SetBorderIcons>("BorderIcons")
         .Default(TBorderIcons{biSystemMenu, biMinimize, biMaximize});
     builder.Property<&TForm::GetBorderStyle, &TForm::SetBorderStyle>("BorderStyle").Default(bsSizeable);
-    builder.Property<&TForm::GetCaption, &TForm::SetCaption>("Caption").Stored(&TControl::IsCaptionStored);
+    Publish::Caption(builder);
     builder.Property<&TControl::GetClientHeight, &TControl::SetClientHeight>("ClientHeight");
     builder.Property<&TControl::GetClientWidth, &TControl::SetClientWidth>("ClientWidth");
     Publish::Color(builder);

@@ -36,6 +36,9 @@ inline constexpr TModalResult mrAll = 8;
 inline constexpr TModalResult mrNoToAll = 9;
 inline constexpr TModalResult mrYesToAll = 10;
 
+/// A number that inspectors can show by its name.
+const TTypeInfo* ModalResultTypeInfo();
+
 struct TCloseEvent : TEvent<TObject*, TCloseAction&> {
   using TEvent::TEvent;
   static constexpr char TypeName[] = "TCloseEvent";

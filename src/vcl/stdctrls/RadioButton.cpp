@@ -1,0 +1,113 @@
+#include "kt/vcl/stdctrls/RadioButton.h"
+
+#include "kt/rtl/objects/LifeWatch.h"
+#include "kt/vcl/controls/Publish.h"
+#include "kt/vcl/stdctrls/ButtonBody.h"
+
+#include <QRadioButton>
+
+namespace kt {
+
+const TClassInfo* TRadioButton::Class() {
+  static const TClassInfo info = [] {
+    TClassBuilder<TRadioButton> builder("TRadioButton");
+    Publish::Action(builder);
+    builder.Property<&TRadioButton::GetAlignment, &TRadioButton::SetAlignment>("Alignment").Default(taRightJustify);
+    Publish::Anchors(builder);
+    Publish::BiDiMode(builder);
+    Publish::Caption(builder);
+    builder.Property<&TRadioButton::IsChecked, &TRadioButton::SetChecked>("Checked").Default(false);
+    Publish::Color(builder);
+    Publish::Constraints(builder);
+    Publish::DragCursor(builder);
+    Publish::DragKind(builder);
+    Publish::DragMode(builder);
+    Publish::Enabled(builder);
+    Publish::Font(builder);
+    Publish::ParentBiDiMode(builder);
+    Publish::ParentColor(builder);
+    Publish::ParentFont(builder);
+    Publish::ParentShowHint(builder);
+    Publish::PopupMenu(builder);
+    Publish::ShowHint(builder);
+    Publish::TabOrder(builder);
+    // It goes along with Checked, so there is no usual value.
+    builder.Property<&TWinControl::IsTabStop, &TWinControl::SetTabStop>("TabStop");
+    Publish::Visible(builder);
+    builder.Property<&TControl::OnClick>("OnClick").Stored(&TControl::IsOnClickStored);
+    builder.Property<&TControl::OnDblClick>("OnDblClick");
+    builder.Property<&TControl::OnContextPopup>("OnContextPopup");
+    Publish::ButtonEvents(builder);
+    Publish::DragEvents(builder);
+    Publish::FocusEvents(builder);
+    Publish::KeyEvents(builder);
+    return builder.Creatable().Done();
+  }();
+  return &info;
+}
+
+void TRadioButton::Construct() {
+  TButtonControl::Construct();
+  SetTabStop(false);
+  SetBounds(0, 0, 113, 17);
+}
+
+QWidget* TRadioButton::CreateBody(QWidget* parent) { return MakeButton<QRadioButton>(parent); }
+
+void TRadioButton::CreateWnd() {
+  TButtonControl::CreateWnd();
+  // The siblings of a control need not be those of its window.
+  Button()->setAutoExclusive(false);
+  ShowState();
+  UpdateSides();
+}
+
+void TRadioButton::ShowState() {
+  if (Button()) Button()->setChecked(FChecked);
+}
+
+void TRadioButton::UpdateSides() {
+  if (!Button()) return;
+  const bool isLeft = (FAlignment == taLeftJustify) != UseRightToLeftAlignment();
+  Button()->setLayoutDirection(isLeft ? Qt::RightToLeft : Qt::LeftToRight);
+}
+
+void TRadioButton::CMBiDiModeChanged(TMessage& message) {
+  TButtonControl::CMBiDiModeChanged(message);
+  UpdateSides();
+}
+
+void TRadioButton::SetAlignment(TLeftRight value) {
+  if (FAlignment == value) return;
+  FAlignment = value;
+  UpdateSides();
+}
+
+void TRadioButton::SetChecked(bool value) {
+  if (FChecked == value) return;
+  FChecked = value;
+  const TLifeWatch self(this);
+  SetTabStop(value);
+  ShowState();
+  if (!value) return;
+  TurnSiblingsOff();
+  // What a form file says is no click.
+  if (self.IsAlive() && !HasState(csLoading)) Click();
+}
+
+void TRadioButton::TurnSiblingsOff() {
+  TWinControl* parent = GetParent();
+  for (int i = 0; parent && i < parent->GetControlCount(); ++i) {
+    auto* sibling = dynamic_cast<TRadioButton*>(parent->GetControls(i));
+    if (sibling && sibling != this) sibling->SetChecked(false);
+  }
+}
+
+void TRadioButton::Clicked() {
+  const TLifeWatch self(this);
+  SetChecked(true);
+  // Qt has taken the sign away when it was there.
+  if (self.IsAlive()) ShowState();
+}
+
+}  // namespace kt

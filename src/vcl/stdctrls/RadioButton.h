@@ -1,0 +1,39 @@
+#pragma once
+
+#include "kt/vcl/stdctrls/CheckBox.h"
+
+namespace kt {
+
+/// A caption with a sign that is set at one at most of the radio buttons of a parent.
+class TRadioButton : public TButtonControl {
+ public:
+  using Inherited = TButtonControl;
+
+  static const TClassInfo* Class();
+  const TClassInfo* ClassType() const override { return Class(); }
+
+  TLeftRight GetAlignment() const { return FAlignment; }
+  void SetAlignment(TLeftRight value);
+  bool IsChecked() const { return FChecked; }
+  /// Takes the sign from the others. Getting it is a click, whoever does it; TabStop goes along.
+  void SetChecked(bool value);
+
+ protected:
+  explicit TRadioButton(TComponent* owner = nullptr) : TButtonControl(owner) {}
+
+  void Construct() override;
+  QWidget* CreateBody(QWidget* parent) override;
+  void CreateWnd() override;
+  void Clicked() override;
+  void CMBiDiModeChanged(TMessage& message) override;
+
+ private:
+  void ShowState();
+  void UpdateSides();
+  void TurnSiblingsOff();
+
+  TLeftRight FAlignment = taRightJustify;
+  bool FChecked = false;
+};
+
+}  // namespace kt

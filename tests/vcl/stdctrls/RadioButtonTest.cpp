@@ -1,0 +1,83 @@
+#include "kt/vcl/stdctrls/RadioButton.h"
+#include "vcl/stdctrls/ButtonFixture.h"
+
+namespace kt::tests {
+namespace {
+
+class RadioButtonTest : public TButtonTest {
+ protected:
+  /// Three on the form: "-x-" for the second one checked, as the controls and their windows say.
+  void AddThree() {
+    for (int i = 0; i < 3; ++i) FRadios.push_back(&Add<TRadioButton>(QString(QChar(u'a' + i)), 20 * i));
+  }
+  std::string Checked() {
+    std::string text;
+    for (TRadioButton* radio : FRadios) {
+      EXPECT_TRUE(!radio->HandleAllocated() || ButtonOf(*radio)->isChecked() == radio->IsChecked());
+      text += radio->IsChecked() ? 'x' : '-';
+    }
+    return text;
+  }
+
+  std::vector<TRadioButton*> FRadios;
+};
+
+TEST_F(RadioButtonTest, AClickTakesTheSignFromTheOthers) {
+  AddThree();
+  Show();
+  Click(*FRadios[1]);
+  EXPECT_EQ("-x-", Checked());
+  Click(*FRadios[2]);
+  EXPECT_EQ("--x", Checked());
+  EXPECT_EQ("b c", TakeLog());
+}
+
+TEST_F(RadioButtonTest, AClickOnTheCheckedOneChangesNothing) {
+  AddThree();
+  Show();
+  Click(*FRadios[1]);
+  TakeLog();
+  Click(*FRadios[1]);
+  EXPECT_EQ("-x-", Checked());
+  EXPECT_EQ("", TakeLog());
+}
+
+TEST_F(RadioButtonTest, WithoutWindowsItIsTheSame) {
+  AddThree();
+  FRadios[0]->SetChecked(true);
+  FRadios[2]->SetChecked(true);
+  EXPECT_EQ("--x", Checked());
+  EXPECT_EQ("a c", TakeLog());
+}
+
+TEST_F(RadioButtonTest, OnlyTheCheckedOneIsAStopOfTheTabKey) {
+  AddThree();
+  FRadios[1]->SetChecked(true);
+  EXPECT_FALSE(FRadios[0]->IsTabStop());
+  EXPECT_TRUE(FRadios[1]->IsTabStop());
+}
+
+TEST_F(RadioButtonTest, ThoseOfAnotherParentKeepTheirSign) {
+  AddThree();
+  auto& other = *New<TForm>(FForm.get());
+  auto& radio = *New<TRadioButton>(&other);
+  radio.SetParent(&other);
+  radio.SetChecked(true);
+  FRadios[0]->SetChecked(true);
+  EXPECT_TRUE(radio.IsChecked());
+}
+
+TEST_F(RadioButtonTest, AHandlerThatFreesTheSiblingsIsSurvived) {
+  AddThree();
+  Show();
+  Click(*FRadios[0]);
+  FRadios[1]->OnClick = [this](TObject*) {
+    delete std::exchange(FRadios[0], nullptr);
+    delete std::exchange(FRadios[2], nullptr);
+  };
+  Click(*FRadios[1]);
+  EXPECT_TRUE(FRadios[1]->IsChecked());
+}
+
+}  // namespace
+}  // namespace kt::tests
