@@ -82,6 +82,8 @@ class TControlBody {
   bool FInheritedResult = true;
   bool FInheritedDone = false;
   bool FIsPressed = false;
+  /// The pointer went to a window that the control takes for a part of itself.
+  bool FHasKeptPointer = false;
 };
 
 /// A widget of class W that is a control's window.
