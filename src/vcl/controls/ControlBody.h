@@ -77,13 +77,13 @@ class TControlBody {
 
   TWinControl* FControl;
   QWidget* FWidget;
+  /// The pointer went to a window that the control takes for a part of itself.
+  bool FHasKeptPointer = false;
   QEvent* FEvent = nullptr;
   const TInherited* FInherited = nullptr;
   bool FInheritedResult = true;
   bool FInheritedDone = false;
   bool FIsPressed = false;
-  /// The pointer went to a window that the control takes for a part of itself.
-  bool FHasKeptPointer = false;
 };
 
 /// A widget of class W that is a control's window.
