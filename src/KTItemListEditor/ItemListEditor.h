@@ -207,6 +207,7 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   void CreateWnd() override;
   void DoExit() override;
   void DrawCell(int col, int row, const QRect& rect, TGridDrawState state) override;
+  bool KeepsPointer() const override;
   void KeyDown(quint16& key, TShiftState shift) override;
   void MouseDown(TMouseButton button, TShiftState shift, int x, int y) override;
   void MouseMove(TShiftState shift, int x, int y) override;

@@ -75,6 +75,10 @@ void TKTCustomItemListEditor::ShowHintOf(TKTItemProp& item, TGridCoord cell, con
   FHintWindow->ActivateHint(ClientToScreen({x, rect.top()}), text);
 }
 
+bool TKTCustomItemListEditor::KeepsPointer() const {
+  return FHintWindow->IsUnderPointer() || TCustomDrawGrid::KeepsPointer();
+}
+
 void TKTCustomItemListEditor::CMMouseLeave(TMessage& message) {
   FHintWindow->HideHint();
   TCustomDrawGrid::CMMouseLeave(message);

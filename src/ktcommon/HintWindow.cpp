@@ -1,13 +1,14 @@
 #include "kt/ktcommon/HintWindow.h"
 
+#include "kt/ktcommon/HintLabel.h"
 #include "kt/rtl/objects/Make.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/controls/WinControl.h"
 #include "kt/vcl/graphics/RealFont.h"
 
+#include <QCursor>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QScreen>
 #include <QTimer>
 #include <QToolTip>
@@ -39,15 +40,17 @@ void TKTHintWindow::Construct() {
 
 void TKTHintWindow::Destruct() {
   FTimer.reset();
-  delete FLabel;
+  if (FLabel) FLabel->Retire();
   TComponent::Destruct();
 }
 
-bool TKTHintWindow::IsShown() const { return FLabel && FLabel->isVisible(); }
+bool TKTHintWindow::IsShown() const { return FLabel && FLabel->IsShown(); }
+
+bool TKTHintWindow::IsUnderPointer() const { return FLabel && FLabel->IsBetween(QCursor::pos()); }
 
 void TKTHintWindow::HideHint() {
   FTimer.reset();
-  if (FLabel) FLabel->hide();
+  if (FLabel) FLabel->Hide();
 }
 
 void TKTHintWindow::ActivateHint(QPoint screenPoint, const QString& text) {
@@ -60,26 +63,16 @@ void TKTHintWindow::ActivateHint(QPoint screenPoint, const QString& text) {
   FTimer->start(FInterval);
 }
 
-QLabel& TKTHintWindow::Label() {
+THintLabel& TKTHintWindow::Label() {
   if (!FLabel) {
     auto* owner = dynamic_cast<TWinControl*>(GetOwner());
-    FLabel = new QLabel(owner && owner->HandleAllocated() ? owner->GetHandle() : nullptr,
-                        Qt::ToolTip | Qt::BypassGraphicsProxyWidget);
-    FLabel->setAttribute(Qt::WA_ShowWithoutActivating);
-    FLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
-    FLabel->setFocusPolicy(Qt::NoFocus);
-    FLabel->setTextFormat(Qt::PlainText);
-    FLabel->setAlignment(Qt::AlignLeading | Qt::AlignTop);
-    FLabel->setFrameStyle(QFrame::Box | QFrame::Plain);
-    FLabel->setBackgroundRole(QPalette::ToolTipBase);
-    FLabel->setForegroundRole(QPalette::ToolTipText);
-    FLabel->setAutoFillBackground(true);
+    FLabel = new THintLabel(owner && owner->HandleAllocated() ? owner->GetHandle() : nullptr);
   }
   return *FLabel;
 }
 
 void TKTHintWindow::ShowText() {
-  QLabel& label = Label();
+  THintLabel& label = Label();
   const QScreen* screen = QGuiApplication::screenAt(FPoint);
   const QRect area = (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
   label.setPalette(QToolTip::palette());
@@ -95,8 +88,7 @@ void TKTHintWindow::ShowText() {
   const int x = std::max(std::min(FPoint.x(), area.left() + area.width() - size.width()), area.left());
   const int y = std::max(std::min(FPoint.y(), area.top() + area.height() - size.height()), area.top());
   label.setGeometry(QRect(QPoint(x, y), size));
-  label.show();
-  label.raise();
+  label.Show();
 }
 
 }  // namespace kt

@@ -9,12 +9,14 @@
 
 #include <memory>
 
-class QLabel;
 class QTimer;
 
 namespace kt {
 
-/// A small window above all others that shows a text, and takes neither the keyboard nor the mouse.
+class THintLabel;
+
+/// A small window above all others that shows a text, and takes neither the keyboard nor the mouse: a press on it is
+/// one on the control that owns it, at the place beneath.
 ///
 /// Its size follows the text; lines end at the breaks of the text and where the screen would. A control that owns it
 /// should hide it when what it tells of is gone. Needs a QApplication while it shows.
@@ -38,6 +40,9 @@ class TKTHintWindow : public TComponent {
   /// Nothing happens when the window does not show.
   void HideHint();
   bool IsShown() const;
+  /// Whether the pointer is over it while beneath is the control that owns it: then it has not left that control,
+  /// whatever the platform thinks.
+  bool IsUnderPointer() const;
   /// What it shows, or has shown last.
   const QString& GetText() const { return FText; }
 
@@ -49,13 +54,13 @@ class TKTHintWindow : public TComponent {
 
  private:
   void ShowText();
-  QLabel& Label();
+  THintLabel& Label();
 
   QString FText;
   QPoint FPoint;
   std::unique_ptr<TFont> FFont;
   /// Belongs to the owner's window, if that has one, and goes with it.
-  QPointer<QLabel> FLabel;
+  QPointer<THintLabel> FLabel;
   std::unique_ptr<QTimer> FTimer;
   int FInterval = 0;
 };

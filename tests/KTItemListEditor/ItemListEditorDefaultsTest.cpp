@@ -39,6 +39,13 @@ TEST_F(ItemListEditorDefaultsTest, TheDisplayOptionsAreThoseOfTheNumberInForms) 
   EXPECT_EQ(16U, TILEDisplayOptions{doMultiColValues}.Bits());
 }
 
+TEST_F(ItemListEditorDefaultsTest, ThePropertyOptionsAreThoseOfTheNumbersInForms) {
+  EXPECT_EQ(1U, TILEPropOptions{propEdit}.Bits());
+  EXPECT_EQ(2U, TILEPropOptions{propAdd}.Bits());
+  EXPECT_EQ(4U, TILEPropOptions{propDelete}.Bits());
+  EXPECT_EQ(8U, TILEPropOptions{propUnique}.Bits());
+}
+
 TEST_F(ItemListEditorDefaultsTest, TheSizesAreThoseOfASmallWindow) {
   EXPECT_EQ(QSize(306, 300), QSize(FEditor->GetWidth(), FEditor->GetHeight()));
   EXPECT_EQ(150, FEditor->GetDefaultColWidth());

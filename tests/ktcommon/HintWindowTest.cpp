@@ -115,7 +115,7 @@ TEST_F(HintWindowTest, ALargerFontMakesALargerWindow) {
   EXPECT_GT(SizeOf(QStringLiteral("text")).height(), usual.height());
 }
 
-TEST_F(HintWindowTest, TakesNeitherTheKeyboardNorTheMouse) {
+TEST_F(HintWindowTest, DoesNotTakeTheKeyboardAndAsksForNoMouse) {
   QLineEdit edit;
   edit.show();
   QApplication::setActiveWindow(&edit);
@@ -124,7 +124,7 @@ TEST_F(HintWindowTest, TakesNeitherTheKeyboardNorTheMouse) {
   QCoreApplication::processEvents();
   EXPECT_EQ(QApplication::activeWindow(), &edit);
   EXPECT_TRUE(edit.hasFocus());
-  EXPECT_TRUE(Label()->testAttribute(Qt::WA_TransparentForMouseEvents));
+  EXPECT_TRUE(Label()->windowFlags().testFlag(Qt::WindowTransparentForInput));
 }
 
 TEST_F(HintWindowTest, GoesWithItsWindow) {

@@ -109,10 +109,14 @@ bool TControlBody::Translate(QEvent* event) {
       return true;
     case QEvent::Enter:
       HintControlChanged(FControl);
+      // It was never away.
+      if (std::exchange(FHasKeptPointer, false)) return false;
       PointerCameTo(*FWidget);
       if (FControl) FControl->Perform(CM_MOUSEENTER);
       return false;
     case QEvent::Leave:
+      FHasKeptPointer = FControl->KeepsPointer();
+      if (FHasKeptPointer) return false;
       HideControlHint();
       HintControlChanged(FControl->GetParent());
       if (FControl) FControl->Perform(CM_MOUSELEAVE);

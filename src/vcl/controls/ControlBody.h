@@ -97,6 +97,8 @@ class TControlBody {
 
   TWinControl* FControl;
   QWidget* FWidget;
+  /// The pointer went to a window that the control takes for a part of itself.
+  bool FHasKeptPointer = false;
   QEvent* FEvent = nullptr;
   const TInherited* FInherited = nullptr;
   bool FInheritedResult = true;

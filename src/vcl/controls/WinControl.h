@@ -2,6 +2,7 @@
 
 #include "kt/vcl/controls/Control.h"
 
+#include <QRect>
 #include <QWidget>
 
 #include <span>
@@ -126,9 +127,15 @@ class TWinControl : public TControl {
   void InvalidateRect(const QRect& clientRect);
   /// The top left of the client area in the window.
   QPoint GetClientOrigin() const;
+  /// Brings the children's windows to where the client area is now; to be called when its margins have changed.
+  void PlaceChildWindows();
   QWidget* Window() const { return FWindow; }
   /// Shows a pointer other than Cursor for the time being.
   void ShowCursor(TCursor cursor);
+
+  /// Whether the pointer, which the platform says has left the window, is over something that lies before it and lets
+  /// the mouse through, as a hint does; the inherited one asks the children.
+  virtual bool KeepsPointer() const;
 
   // Keys and focus.
   virtual void KeyDown(quint16& key, TShiftState shift) { OnKeyDown(this, key, shift); }
@@ -196,6 +203,7 @@ class TWinControl : public TControl {
   void TakeWindowAlong();
   void RecreateEmbedded();
   void UpdateWindowBounds();
+  QRect ClientInWindow() const;
   void UpdateWindowVisible();
   void WindowDestroyed();
   void WindowShown(bool isShown);
@@ -221,6 +229,8 @@ class TWinControl : public TControl {
   bool FShowing = false;
   /// BringTabsUpToDate() has something to do; kept by the topmost control.
   bool FAreTabsOld = false;
+  /// The client area, in the window, that the children's windows were placed in.
+  QRect FPlacedClient;
   /// The window is being told its place, or tells it.
   bool FIsMovingWindow = false;
   /// A key message came to DefaultHandler().

@@ -10,6 +10,7 @@
 
 #include <QLatin1StringView>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace kt {
@@ -160,6 +161,13 @@ bool TWinControl::DoMouseWheel(TShiftState shift, int delta, bool isHorizontal, 
     if (!self.IsAlive()) return true;
   }
   return isUsed;
+}
+
+bool TWinControl::KeepsPointer() const {
+  return std::any_of(FControls.begin(), FControls.end(), [](const TControl* control) {
+    const auto* child = dynamic_cast<const TWinControl*>(control);
+    return child && child->KeepsPointer();
+  });
 }
 
 bool TWinControl::Focused() const { return HandleAllocated() && FWindow->hasFocus(); }

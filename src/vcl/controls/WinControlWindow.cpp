@@ -48,6 +48,7 @@ void TWinControl::CreateWnd() {
   FBody = TControlBody::Of(FWindow);
   Q_ASSERT(FBody);
   InitializeWindow();
+  FPlacedClient = ClientInWindow();
   for (int i = 0; i < GetControlCount(); ++i) {
     if (auto* child = dynamic_cast<TWinControl*>(FControls[i])) child->HandleNeeded();
   }
@@ -167,8 +168,20 @@ void TWinControl::WindowShown(bool isShown) {
 }
 
 void TWinControl::BoundsUpdated() {
-  if (HandleAllocated()) UpdateWindowBounds();
+  if (!HandleAllocated()) return;
+  UpdateWindowBounds();
+  PlaceChildWindows();
 }
+
+void TWinControl::PlaceChildWindows() {
+  if (!HandleAllocated() || std::exchange(FPlacedClient, ClientInWindow()) == ClientInWindow()) return;
+  for (TControl* control : FControls) {
+    auto* const child = dynamic_cast<TWinControl*>(control);
+    if (child && child->HandleAllocated()) child->UpdateWindowBounds();
+  }
+}
+
+QRect TWinControl::ClientInWindow() const { return {GetClientOrigin(), GetClientRect().size()}; }
 
 void TWinControl::UpdateWindowBounds() {
   if (FIsMovingWindow) return;
@@ -177,7 +190,7 @@ void TWinControl::UpdateWindowBounds() {
   if (TWinControl* parent = GetParent()) {
     geometry.translate(parent->GetClientOrigin());
     // What lies outside the parent's client area is cut off.
-    const QRect inside(parent->GetClientOrigin(), parent->GetClientRect().size());
+    const QRect inside = parent->ClientInWindow();
     if (inside.contains(geometry) || inside.isEmpty()) {
       FWindow->clearMask();
     } else {

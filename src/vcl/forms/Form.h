@@ -98,6 +98,7 @@ class TCustomForm : public TCustomControl {
  private:
   Qt::WindowFlags WindowFlags() const;
   void PlaceWindow();
+  void BecomeActive();
   void FocusActiveControl();
 
   TFormBorderStyle FBorderStyle = bsSizeable;

@@ -1,5 +1,6 @@
 // The window of TCustomForm.
 #include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/controls/ControlBody.h"
 #include "kt/vcl/forms/Application.h"
 #include "kt/vcl/forms/Form.h"
@@ -88,8 +89,8 @@ void TCustomForm::PlaceWindow() {
   QRect around = Window()->screen()->availableGeometry();
   auto* const owner = FPosition == poOwnerFormCenter ? dynamic_cast<TCustomForm*>(GetOwnerComponent()) : nullptr;
   TCustomForm* const other = FPosition == poMainFormCenter ? Application().GetMainForm() : owner;
-  if (other && other != this && other->IsShowing()) around = other->Window()->geometry();
-  QRect place = Window()->geometry();
+  if (other && other != this && other->IsShowing()) around = other->Window()->frameGeometry();
+  QRect place = Window()->frameGeometry();
   place.moveCenter(around.center());
   Window()->move(place.topLeft());
 }
@@ -107,17 +108,31 @@ bool TCustomForm::WindowEvent(QEvent& event) {
       event.ignore();
       Close();
       return true;
+    case QEvent::WindowStateChange:
+      // The user has buttons for it.
+      FWindowState = Window()->isMinimized() ? wsMinimized : Window()->isMaximized() ? wsMaximized : wsNormal;
+      return false;
     case QEvent::WindowActivate:
-      Screen().SetActiveForm(this);
-      OnActivate(this);
+      BecomeActive();
       return false;
     case QEvent::WindowDeactivate:
-      if (Screen().GetActiveForm() == this) Screen().SetActiveForm(nullptr);
+      // The form that becomes active has told this one already.
+      if (!IsActive()) return false;
+      Screen().SetActiveForm(nullptr);
       OnDeactivate(this);
       return false;
     default:
       return TCustomControl::WindowEvent(event);
   }
+}
+
+void TCustomForm::BecomeActive() {
+  if (IsActive()) return;
+  TCustomForm* const former = Screen().GetActiveForm();
+  Screen().SetActiveForm(this);
+  const TLifeWatch self(this);
+  if (former) former->OnDeactivate(former);
+  if (self.IsAlive() && IsActive()) OnActivate(this);
 }
 
 bool TCustomForm::IsActive() const { return Screen().GetActiveForm() == this; }

@@ -102,8 +102,9 @@ void TCustomGrid::ScrollBarsNeedUpdate() {
   ShowScrollBars();
   PlaceScrollBars();
   FIsUpdatingBars = false;
+  // A bar on the left moves the client area, and so do borders and another direction of reading.
+  PlaceChildWindows();
   if (GetClientRect().size() == before) return;
-  // Children stand in the client area, which has become another one.
   InvalidateGrid();
   MoveEditor();
   Resize();

@@ -5,6 +5,9 @@
 #include "kt/vcl/controls/VirtualKeys.h"
 #include "kt/vcl/grids/CustomGrid.h"
 
+#include <QCoreApplication>
+#include <QInputMethodEvent>
+
 namespace kt {
 
 const TClassInfo* TInplaceEdit::Class() {
@@ -186,6 +189,22 @@ void TInplaceEdit::KeyPress(QChar& key) {
   const bool isChange = key == u'\b' || key == u'\x16' || key == u'\x18' || key.unicode() >= 32;
   if (isChange && !EditCanModify()) key = u'\0';
   if (!key.isNull()) TCustomMaskEdit::KeyPress(key);
+}
+
+/// What an input method has composed is typed as much as what comes from keys.
+bool TInplaceEdit::InputText(const QString& text) {
+  const TLifeWatch self(this);
+  QString accepted;
+  for (QChar character : text) {
+    const bool isAccepted = FGrid->CanEditAcceptKey(character);
+    if (!self.IsAlive()) return true;
+    if (isAccepted) accepted += character;
+  }
+  if (accepted == text || !HandleAllocated()) return TCustomMaskEdit::InputText(text);
+  QInputMethodEvent rest;
+  rest.setCommitString(accepted);
+  QCoreApplication::sendEvent(Window(), &rest);
+  return true;
 }
 
 void TInplaceEdit::KeyUp(quint16& key, TShiftState shift) { FGrid->KeyUp(key, shift); }

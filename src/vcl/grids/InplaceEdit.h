@@ -47,6 +47,7 @@ class TInplaceEdit : public TCustomMaskEdit {
   void KeyDown(quint16& key, TShiftState shift) override;
   void KeyPress(QChar& key) override;
   void KeyUp(quint16& key, TShiftState shift) override;
+  bool InputText(const QString& text) override;
   bool DoMouseWheel(TShiftState shift, int delta, bool isHorizontal, QPoint position) override;
   bool WantsKey(quint16 key) override;
   void SetGrid(TCustomGrid* value) { FGrid = value; }

@@ -14,6 +14,14 @@ using tests::TGridProbe;
 
 class CustomGridTest : public testing::Test {
  protected:
+  /// "col,row" of the cell at a position, as handlers of the mouse ask for it.
+  QString CellUnder(int x, int y) {
+    int col = 77;
+    int row = 77;
+    Grid.MouseToCell(x, y, col, row);
+    return QStringLiteral("%1,%2").arg(col).arg(row);
+  }
+
   std::unique_ptr<TGridProbe> FGrid = Make<TGridProbe>();
   TGridProbe& Grid = *FGrid;
 };
@@ -34,10 +42,21 @@ TEST_F(CustomGridTest, StartsAsLargeAsItsCells) {
 TEST_F(CustomGridTest, StartsWithTheFrameworksOptions) { EXPECT_EQ(Grid.GetOptions().Bits(), 31U); }
 
 TEST_F(CustomGridTest, TheBitsOfAllOptionsAreThoseOfFormFiles) {
-  EXPECT_EQ((TGridOptions{goFixedVertLine, goFixedHorzLine, goVertLine, goHorzLine, goColSizing, goEditing,
-                          goAlwaysShowEditor, goThumbTracking})
-                .Bits(),
-            25743U);
+  EXPECT_EQ(TGridOptions{goFixedVertLine}.Bits(), 1U);
+  EXPECT_EQ(TGridOptions{goFixedHorzLine}.Bits(), 2U);
+  EXPECT_EQ(TGridOptions{goVertLine}.Bits(), 4U);
+  EXPECT_EQ(TGridOptions{goHorzLine}.Bits(), 8U);
+  EXPECT_EQ(TGridOptions{goRangeSelect}.Bits(), 16U);
+  EXPECT_EQ(TGridOptions{goDrawFocusSelected}.Bits(), 32U);
+  EXPECT_EQ(TGridOptions{goRowSizing}.Bits(), 64U);
+  EXPECT_EQ(TGridOptions{goColSizing}.Bits(), 128U);
+  EXPECT_EQ(TGridOptions{goRowMoving}.Bits(), 256U);
+  EXPECT_EQ(TGridOptions{goColMoving}.Bits(), 512U);
+  EXPECT_EQ(TGridOptions{goEditing}.Bits(), 1024U);
+  EXPECT_EQ(TGridOptions{goTabs}.Bits(), 2048U);
+  EXPECT_EQ(TGridOptions{goRowSelect}.Bits(), 4096U);
+  EXPECT_EQ(TGridOptions{goAlwaysShowEditor}.Bits(), 8192U);
+  EXPECT_EQ(TGridOptions{goThumbTracking}.Bits(), 16384U);
 }
 
 TEST_F(CustomGridTest, TheBorderIsNotPartOfTheClientArea) {
@@ -224,6 +243,39 @@ TEST_F(CustomGridTest, FromRightToLeftTheFirstColumnIsOnTheRight) {
 TEST_F(CustomGridTest, APositionFindsItsCell) {
   EXPECT_EQ(Grid.MouseCoord(130, 25), (TGridCoord{2, 1}));
   EXPECT_EQ(Grid.MouseCoord(-1, 25), (TGridCoord{-1, -1}));
+}
+
+TEST_F(CustomGridTest, TheMousePositionsOfACellAreItsOwnAndThoseOfItsLines) {
+  EXPECT_EQ(Grid.CellRect(1, 1), QRect(65, 25, 64, 24));
+  EXPECT_EQ(CellUnder(65, 25), "1,1");
+  EXPECT_EQ(CellUnder(128, 48), "1,1");
+  EXPECT_EQ(CellUnder(129, 49), "1,1");
+  EXPECT_EQ(CellUnder(130, 50), "2,2");
+  EXPECT_EQ(CellUnder(64, 24), "0,0");
+}
+
+TEST_F(CustomGridTest, BesideTheCellsTheMouseIsOverNone) {
+  Grid.SetBounds(0, 0, 600, 400);
+  EXPECT_EQ(CellUnder(324, 124), "4,4");
+  EXPECT_EQ(CellUnder(325, 124), "-1,-1");
+  EXPECT_EQ(CellUnder(324, 125), "-1,-1");
+  EXPECT_EQ(CellUnder(-1, 5), "-1,-1");
+  EXPECT_EQ(CellUnder(5, -1), "-1,-1");
+}
+
+TEST_F(CustomGridTest, TheMouseIsOverTheCellsThatWereScrolledThere) {
+  Grid.SetRowCount(100);
+  Grid.SetTopRow(30);
+  EXPECT_EQ(CellUnder(70, 30), "1,30");
+  EXPECT_EQ(CellUnder(70, 5), "1,0");
+}
+
+TEST_F(CustomGridTest, FromRightToLeftTheMouseIsOverMirroredCells) {
+  Grid.SetBounds(0, 0, 600, 400);
+  Grid.SetBiDiMode(bdRightToLeft);
+  EXPECT_EQ(CellUnder(595, 5), "0,0");
+  EXPECT_EQ(CellUnder(271, 5), "4,0");
+  EXPECT_EQ(CellUnder(270, 5), "-1,-1");
 }
 
 TEST_F(CustomGridTest, MovingARowTakesItsHeightAndTheCurrentCellAlong) {

@@ -35,6 +35,20 @@ TEST(WinControlWindowTest, AWindowFollowsItsControlToAParent) {
   EXPECT_TRUE(window->isVisibleTo(parent->GetHandle()));
 }
 
+TEST(WinControlWindowTest, AWindowThatItsParentCutOffShowsWholeWhenTheParentGrows) {
+  auto parent = Make<TProbe>();
+  parent->SetBounds(0, 0, 50, 50);
+  auto& child = *New<TProbe>(parent.get());
+  child.SetBounds(30, 30, 40, 40);
+  child.SetParent(parent.get());
+  parent->HandleNeeded();
+  EXPECT_EQ(child.GetHandle()->mask().boundingRect(), QRect(0, 0, 20, 20));
+  parent->SetBounds(0, 0, 100, 60);
+  EXPECT_EQ(child.GetHandle()->mask().boundingRect(), QRect(0, 0, 40, 30));
+  parent->SetBounds(0, 0, 100, 100);
+  EXPECT_TRUE(child.GetHandle()->mask().isEmpty());
+}
+
 TEST(WinControlWindowTest, AControlHasNoWindowInAParentWithoutOne) {
   auto parent = Make<TProbe>();
   auto& child = *New<TProbe>(parent.get());
