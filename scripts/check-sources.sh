@@ -34,7 +34,6 @@ awk -v skip=$((${#root} + 1)) 'NR == FNR { parts[$0]; next }
 launcher=$(command -v ccache || true)
 # Errors of one file do not keep the next from being parsed; each file's come in one piece.
 export folder launcher
-# shellcheck disable=SC2016
 sed -E 's/ -o [^ ]+ -c / -fsyntax-only /' "$work/chosen" | tr '\n' '\0' |
   xargs -0 -n 1 -P "$jobs" bash -c 'cd "$folder" && output=$(eval "$launcher $1" 2>&1) || { printf "%s\n" "$output" >&2; exit 1; }' parse ||
   die "not every file compiles by itself"
