@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <memory>
+#include <span>
 
 namespace kt {
 
@@ -291,8 +292,9 @@ class TKTItemProp : public TCollectionItem {
   template <void (TKTItemProp::*Change)()>
   void ChangeFully(bool isExpanded);
   int CountVisibleChildren();
-  void AssignFlags(TKTItemProp& source);
-  void AssignRare(TKTItemProp& source);
+  using TAssignStep = void (*)(TKTItemProp& to, TKTItemProp& from);
+  static std::span<const TAssignStep> AssignSteps();
+  void AssignPickList(TKTItemProp& source);
   void AssignFonts(TKTItemProp& source);
   void AssignValues(TKTItemProp& source);
   void AssignItems(TKTItemProp& source);

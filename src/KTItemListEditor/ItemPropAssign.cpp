@@ -12,38 +12,47 @@ void TKTItemProp::Assign(TPersistent* source) {
   if (other == this) return;
   const TItemWatch self(this);
   const TItemWatch from(other);
-  using TStep = void (TKTItemProp::*)(TKTItemProp&);
-  for (const TStep step : {&TKTItemProp::AssignFlags, &TKTItemProp::AssignRare, &TKTItemProp::AssignFonts,
-                           &TKTItemProp::AssignValues, &TKTItemProp::AssignItems}) {
-    (this->*step)(*from);
+  for (const TAssignStep step : AssignSteps()) {
+    step(*self, *from);
     // Handlers of the changes may have freed either.
     if (!self || !from) return;
   }
   Changed(false);
 }
 
-void TKTItemProp::AssignFlags(TKTItemProp& source) {
-  const TItemWatch self(this);
-  FCategory = source.FCategory;
-  SetDefaultCategory(source.FDefaultCategory);
-  if (!self) return;
-  FName = source.FName;
-  FReadOnly = source.IsReadOnly();
-  FEditStyle = source.FEditStyle;
-  FExpressionMask = source.FExpressionMask;
-  FExpanded = source.IsExpanded();
+/// One after the other, each with one call-out at most. Where nothing else is said the setter decides: it leaves a
+/// target alone that is read-only already because it is disabled, for example.
+std::span<const TKTItemProp::TAssignStep> TKTItemProp::AssignSteps() {
+  static constexpr TAssignStep Steps[] = {
+      [](TKTItemProp& to, TKTItemProp& from) {
+        to.FCategory = from.FCategory;  // Told by what follows.
+        to.SetDefaultCategory(from.FDefaultCategory);
+      },
+      [](TKTItemProp& to, TKTItemProp& from) {
+        // Neither checked nor moved to its place.
+        to.FName = from.FName;
+        if (to.GetHint() != from.GetHint()) to.Rare().Hint = from.GetHint();
+      },
+      [](TKTItemProp& to, TKTItemProp& from) { to.SetReadOnly(from.IsReadOnly()); },
+      [](TKTItemProp& to, TKTItemProp& from) { to.SetEditStyle(from.GetEditStyle()); },
+      [](TKTItemProp& to, TKTItemProp& from) { to.SetEditMask(from.GetEditMask()); },
+      [](TKTItemProp& to, TKTItemProp& from) { to.AssignPickList(from); },
+      [](TKTItemProp& to, TKTItemProp& from) { to.SetExpressionMask(from.FExpressionMask); },
+      [](TKTItemProp& to, TKTItemProp& from) {
+        to.FExpanded = from.IsExpanded();  // The rows follow in AssignItems().
+        to.SetItemObject(from.GetItemObject());
+      },
+      [](TKTItemProp& to, TKTItemProp& from) { to.SetTag(from.GetTag()); },
+      [](TKTItemProp& to, TKTItemProp& from) { to.AssignFonts(from); },
+      [](TKTItemProp& to, TKTItemProp& from) { to.AssignValues(from); },
+      [](TKTItemProp& to, TKTItemProp& from) { to.AssignItems(from); }};
+  return Steps;
 }
 
-void TKTItemProp::AssignRare(TKTItemProp& source) {
+void TKTItemProp::AssignPickList(TKTItemProp& source) {
   // A style for picking without anything to pick does not survive the copying of the list.
   const bool hasStyleOfList = GetEditStyle() == esPickList;
-  if (!FRare && !source.FRare && !hasStyleOfList) return;
-  Rare().Hint = source.GetHint();
-  Rare().EditMask = source.GetEditMask();
-  Rare().ItemObject = source.GetItemObject();
-  Rare().Tag = source.GetTag();
-  if (!HasPickList() && !source.HasPickList() && !hasStyleOfList) return;
-  GetPickList().Assign(&source.GetPickList());
+  if (HasPickList() || source.HasPickList() || hasStyleOfList) SetPickList(source.GetPickList());
 }
 
 bool TKTItemProp::HasFontObject() const { return FRare && FRare->Font; }

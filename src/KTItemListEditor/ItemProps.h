@@ -151,7 +151,9 @@ class TKTItemProps : public TOwnedCollection {
   void Leave(TKTItemProp& item);
   void AssignSettings(TKTItemProps& source);
   void TellOwner(TKTItemProp* item, TCollectionNotification action);
+  /// Of the items and of the categories, which are sorted exactly when the items are.
   void StoreSorted(bool value);
+  void StoreSortedFlags(bool value);
   void StoreSortedBelow(bool value);
   TItemSums* Sums();
 

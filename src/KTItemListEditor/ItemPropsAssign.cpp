@@ -50,10 +50,14 @@ class TKTItemProps::TFormerSettings {
 void TKTItemProps::AssignSettings(TKTItemProps& source) {
   const TLifeWatch self(this);
   const TLifeWatch from(&source);
-  if (source.FCategories || FCategories) GetCategories().Assign(&source.GetCategories());
   // Whoever hears of the lines may have freed either.
-  if (!self.IsAlive() || !from.IsAlive()) throw EInvalidOperation(SObjectFreed.toString());
+  const auto checkLives = [&] {
+    if (!self.IsAlive() || !from.IsAlive()) throw EInvalidOperation(SObjectFreed.toString());
+  };
+  if (source.FCategories || FCategories) GetCategories().Assign(&source.GetCategories());
+  checkLives();
   StoreSorted(source.FSorted);
+  checkLives();
 }
 
 void TKTItemProps::Assign(TPersistent* source) {

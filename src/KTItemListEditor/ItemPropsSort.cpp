@@ -97,8 +97,16 @@ void TKTItemProps::CustomSort(const TKTItemPropsCompare& compare, bool thisLevel
 }
 
 void TKTItemProps::StoreSorted(bool value) {
-  FSorted = value;
+  if (!value || !FCategories || FCategories->GetSorted() || FCategories->GetCount() < 2) return StoreSortedFlags(value);
+  // Who hears of the lines is asked before both change and told when both have changed: what is thrown there finds them
+  // alike.
+  const TUpdateBracket bracket(*FCategories);
+  if (bracket.IsAlive()) StoreSortedFlags(true);
+}
+
+void TKTItemProps::StoreSortedFlags(bool value) {
   if (FCategories) FCategories->SetSorted(value);
+  FSorted = value;
 }
 
 void TKTItemProps::StoreSortedBelow(bool value) {

@@ -118,6 +118,18 @@ TEST_F(ItemListEditorValidateTest, AMoveAlongTheLineValidatesToo) {
   EXPECT_EQ("0,1", Where());
 }
 
+TEST_F(ItemListEditorValidateTest, WithItemsAcrossTheColumnsTheRowOfTheValueIsTold) {
+  FEditor->SetColCount(3);
+  TurnAcross();
+  Show("a b c");
+  FEditor->SetRow(2);
+  LogValidation();
+  Type("x");
+  FEditor->SetCol(2);
+  EXPECT_EQ("OnValidate(a=x) OnValidated(a,2)", TakeLog());
+  EXPECT_EQ("2,2", Where());
+}
+
 // Refusals.
 
 TEST_F(ItemListEditorValidateTest, ARefusedValueKeepsTheCellAndIsTakenBack) {

@@ -37,6 +37,51 @@ class TPickyEditor : public TKTItemListEditor {
   }
 };
 
+/// Writes down which of its setters run.
+class TSettersItem : public TKTItemProp {
+ public:
+  using Inherited = TKTItemProp;
+  static const TClassInfo* Class() {
+    static const TClassInfo info = TClassBuilder<TSettersItem>("TSettersItem").Creatable().Done();
+    return &info;
+  }
+  const TClassInfo* ClassType() const override { return Class(); }
+
+  void SetReadOnly(bool value) override {
+    Log += QStringLiteral("ReadOnly");
+    TKTItemProp::SetReadOnly(value);
+  }
+  void SetEditStyle(TEditStyle value) override {
+    Log += QStringLiteral("EditStyle");
+    TKTItemProp::SetEditStyle(value);
+  }
+  void SetEditMask(const QString& value) override {
+    Log += QStringLiteral("EditMask");
+    TKTItemProp::SetEditMask(value);
+  }
+  void SetExpressionMask(bool value) override {
+    Log += QStringLiteral("ExpressionMask");
+    TKTItemProp::SetExpressionMask(value);
+  }
+  void SetItemObject(TObject* value) override {
+    Log += QStringLiteral("ItemObject");
+    TKTItemProp::SetItemObject(value);
+  }
+
+  static inline QStringList Log;
+
+ protected:
+  explicit TSettersItem(TCollection* collection) : TKTItemProp(collection) {}
+};
+
+class TSettersEditor : public TKTItemListEditor {
+ protected:
+  explicit TSettersEditor(TComponent* owner = nullptr) : TKTItemListEditor(owner) {}
+  std::unique_ptr<TKTItemProps> CreateItems(TPersistent* owner) override {
+    return Make<TKTItemProps>(owner, TSettersItem::Class());
+  }
+};
+
 class ItemPropAssignTest : public TItemListTest {
  protected:
   ItemPropAssignTest() { Fill("s [x [y] z] t"); }
@@ -138,6 +183,45 @@ TEST_F(ItemPropAssignTest, ADisabledTargetStaysDisabled) {
   Item("t").SetEnabled(false);
   Copy();
   EXPECT_FALSE(Target().GetEnabled());
+}
+
+TEST_F(ItemPropAssignTest, ADisabledTargetIsReadOnlyAlreadySoAReadOnlySourceLeavesItsFlagAlone) {
+  Item("s").SetReadOnly(true);
+  Item("t").SetEnabled(false);
+  Copy();
+  EXPECT_TRUE(Target().IsReadOnly());
+  Target().SetEnabled(true);
+  EXPECT_FALSE(Target().GetReadOnly());
+}
+
+TEST_F(ItemPropAssignTest, ADisabledTargetLosesItsReadOnlyFlagToASourceThatHasNone) {
+  Item("t").SetReadOnly(true);
+  Item("t").SetEnabled(false);
+  Copy();
+  EXPECT_TRUE(Target().IsReadOnly());
+  Target().SetEnabled(true);
+  EXPECT_FALSE(Target().GetReadOnly());
+}
+
+TEST_F(ItemPropAssignTest, WhatADescendantsSettersDoIsDone) {
+  FEditor = Make<TSettersEditor>();
+  Fill("s t");
+  Item("s").SetReadOnly(true);
+  Item("s").SetEditStyle(esEllipsis);
+  Item("s").SetEditMask("m");
+  Item("s").SetExpressionMask(true);
+  Item("s").SetItemObject(FEditor.get());
+  TSettersItem::Log.clear();
+  Copy();
+  EXPECT_EQ("ReadOnly EditStyle EditMask ExpressionMask ItemObject", TSettersItem::Log.join(u' '));
+}
+
+TEST_F(ItemPropAssignTest, ReadOnlySourcesLeaveNoRowWhereTheseDoNotShow) {
+  FEditor->SetDisplayOptions({doColumnTitles});
+  Item("s").SetReadOnly(true);
+  EXPECT_EQ(">t", RowsText());
+  Copy();
+  EXPECT_EQ("", RowsText());
 }
 
 TEST_F(ItemPropAssignTest, NoneOfTheFiveEventsIsCopied) {
@@ -316,6 +400,19 @@ TEST_F(ItemPropAssignTest, AFailedAssignToASortedLevelLeavesItSorted) {
   EXPECT_TRUE(items.GetSorted());
   items.Add("a", {});
   EXPECT_EQ("a b", Tree(items));
+}
+
+TEST_F(ItemPropAssignTest, WhoeverHearsOfTheMapBeingSortedMayFreeBoth) {
+  auto source = Make<TKTItemListEditor>();
+  source->GetItems().GetCategories().SetCommaText("z=1,a=2");
+  source->SetSorted(true);
+  TStringList& categories = Items().GetCategories();
+  categories.OnChanging = [&](TObject*) {
+    // The lines have been copied: next they are sorted.
+    if (categories.GetCount() == 2) source.reset();
+  };
+  EXPECT_THROW(Items().Assign(&source->GetItems()), EInvalidOperation);
+  EXPECT_EQ("s [x [y] z] t", TreeText());
 }
 
 TEST_F(ItemPropAssignTest, WhoeverHearsOfTheMapMayFreeTheSource) {

@@ -59,6 +59,27 @@ TEST_F(ItemPropValidateTest, TheColumnIsTheOneWithTheCursor) {
   EXPECT_EQ("OnValidate(a,3) OnValidated(a,3) ", FLog);
 }
 
+TEST_F(ItemPropValidateTest, WithItemsAcrossTheColumnsTheColumnIsTheRowWithTheCursor) {
+  LogAll();
+  FEditor->SetColCount(4);
+  FEditor->SetCol(3);
+  FEditor->SetRow(2);
+  FEditor->SetOrientation(goHorizontal);
+  EXPECT_EQ(2, FEditor->GetCol());
+  Item("a").Validate();
+  EXPECT_EQ("OnValidate(a,3) OnValidated(a,3) ", FLog);
+}
+
+TEST_F(ItemPropValidateTest, WithItemsAcrossTheColumnsAnErrorHasTheRowWithTheCursorToo) {
+  LogAll();
+  FEditor->SetColCount(4);
+  FEditor->SetOrientation(goHorizontal);
+  FEditor->SetRow(2);
+  Item("a").SetOnValidate(Throwing<Exception>("bad"));
+  Item("a").Validate();
+  EXPECT_EQ("OnValidateError(a,2,bad) ", FLog);
+}
+
 TEST_F(ItemPropValidateTest, AnErrorGoesToTheItemsHandlerAndNothingIsValidated) {
   LogAll();
   Item("a").SetOnValidate(Throwing<Exception>("bad"));

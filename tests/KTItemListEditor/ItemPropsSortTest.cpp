@@ -281,5 +281,55 @@ TEST_F(ItemPropsSortTest, WithoutAnEditorNamesAreSortedWithoutRegardToCase) {
   EXPECT_EQ("A b C", Tree(item->GetItems()));
 }
 
+// The categories, whose handlers may throw.
+
+TEST_F(ItemPropsSortTest, WhoeverRefusesThatCategoriesAreSortedKeepsTheItemsUnsortedToo) {
+  Fill("b a");
+  TStringList& categories = Items().GetCategories();
+  categories.SetCommaText("z=1,a=2");
+  categories.OnChanging = [](TObject*) { throw EConvertError("no"); };
+  EXPECT_EQ("no", MessageOf<EConvertError>([&] { FEditor->SetSorted(true); }));
+  EXPECT_FALSE(FEditor->IsSorted());
+  EXPECT_FALSE(categories.GetSorted());
+  EXPECT_EQ("z=1,a=2", categories.GetCommaText());
+  categories.OnChanging = nullptr;
+  FEditor->SetSorted(true);
+  EXPECT_TRUE(FEditor->IsSorted());
+  EXPECT_TRUE(categories.GetSorted());
+  EXPECT_EQ("a=2,z=1", categories.GetCommaText());
+}
+
+TEST_F(ItemPropsSortTest, WhoeverThrowsWhenCategoriesHaveBeenSortedFindsBothSorted) {
+  Fill("b a");
+  TStringList& categories = Items().GetCategories();
+  categories.SetCommaText("z=1,a=2");
+  categories.OnChange = [](TObject*) { throw EConvertError("late"); };
+  EXPECT_EQ("late", MessageOf<EConvertError>([&] { FEditor->SetSorted(true); }));
+  EXPECT_TRUE(FEditor->IsSorted());
+  EXPECT_TRUE(categories.GetSorted());
+  EXPECT_EQ("a=2,z=1", categories.GetCommaText());
+  EXPECT_EQ("a b", TreeText());
+}
+
+TEST_F(ItemPropsSortTest, WhoeverUnsortsTheItemsWhenCategoriesHaveBeenSortedUnsortsBoth) {
+  Fill("b a");
+  TStringList& categories = Items().GetCategories();
+  categories.SetCommaText("z=1,a=2");
+  categories.OnChange = [&](TObject*) { Items().SetSorted(false); };
+  FEditor->SetSorted(true);
+  EXPECT_FALSE(FEditor->IsSorted());
+  EXPECT_FALSE(categories.GetSorted());
+}
+
+TEST_F(ItemPropsSortTest, CategoriesThatAreInNoNeedOfSortingTellNobody) {
+  Fill("b a");
+  int told = 0;
+  Items().GetCategories().SetText("a=1");
+  Items().GetCategories().OnChange = [&](TObject*) { ++told; };
+  FEditor->SetSorted(true);
+  FEditor->SetSorted(false);
+  EXPECT_EQ(0, told);
+}
+
 }  // namespace
 }  // namespace kt::tests

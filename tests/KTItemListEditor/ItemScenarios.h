@@ -240,6 +240,9 @@ class TItemScenarioTest : public TItemListTest {
     FEditor->OnGetEditText = [this](TObject*, int, int, QString&) { Handle("OnGetEditText"); };
     FEditor->OnSetEditText = [this](TObject*, int, int, const QString&) { Handle("OnSetEditText"); };
     FEditor->OnGetEditMask = [this](TObject*, int, int, QString&) { Handle("OnGetEditMask"); };
+    Items().GetCategories().SetCommaText("q=Q,p=P");
+    Items().GetCategories().OnChanging = [this](TObject*) { Handle("Categories.OnChanging"); };
+    Items().GetCategories().OnChange = [this](TObject*) { Handle("Categories.OnChange"); };
   }
   /// The same in a window, with the in-place editor open and something typed.
   void RenewOpen() {
@@ -283,6 +286,7 @@ class TItemScenarioTest : public TItemListTest {
   }
   void CheckLists() {
     CheckDefaultCategories(Items());
+    EXPECT_EQ(Items().GetSorted(), Items().GetCategories().GetSorted());
     EXPECT_EQ(WalkedEntries(*FEditor), EntriesText());
     EXPECT_EQ(WalkedRows(*FEditor), RowsText());
   }

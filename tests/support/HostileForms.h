@@ -40,6 +40,13 @@ inline QByteArray WithItems(int count) {
   return WithProperty("Items", static_cast<char>(vaCollection) + item.repeated(count) + '\0');
 }
 
+/// The same below `levels` objects, so that each line of its text is indented that deep.
+inline QByteArray WithItemsBelow(int levels, int count) {
+  const QByteArray item = static_cast<char>(vaList) + QByteArray(1, 0);
+  return kSignature + Opened({}).repeated(levels) + ShortText("TSample") + ShortText({}) + ShortText("Items") +
+         static_cast<char>(vaCollection) + item.repeated(count) + QByteArray(3 + levels, 0);
+}
+
 inline QByteArray WithReference(const QByteArray& path) {
   return WithProperty("Partner", static_cast<char>(vaIdent) + ShortText(path));
 }
@@ -65,6 +72,7 @@ inline std::vector<TNamedForm> All() {
           {"Siblings", kSignature + Opened("S") + FiftyThousandChildren() + '\0'},
           {"SiblingsAndAnUnknown", kSignature + Opened("S") + FiftyThousandChildren() + unknown + '\0'},
           {"Items", WithItems(50'000)},
+          {"ItemsFarBelow", WithItemsBelow(900, 20'000)},
           {"DanglingReference", WithReference("Nobody.Nothing")},
           {"UnknownList", WithProperty("NoSuch", manyValues)},
           {"LongText", WithProperty("Text", static_cast<char>(vaLString) + QByteArray::fromHex("a0860100") +

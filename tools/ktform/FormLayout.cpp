@@ -1,8 +1,11 @@
 #include "ktform/FormLayout.h"
 
+#include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/streams/TextLexer.h"
 
 #include <algorithm>
+#include <limits>
+#include <utility>
 
 namespace ktform {
 namespace {
@@ -15,24 +18,29 @@ bool HasBeyondAscii(QByteArrayView bytes) {
   return std::any_of(bytes.begin(), bytes.end(), [](char c) { return quint8(c) >= 0x80; });
 }
 
+/// How often each path has come in an object that has not ended.
+using TPathCounts = QHash<quint32, quint32>;
+
 /// Goes once over the text. Collections nest no deeper than the parser allowed.
 class TLayoutScan {
  public:
-  explicit TLayoutScan(const QByteArray& utf8) : FLexer(utf8), FBase(utf8.constData()) {}
+  TLayoutScan(const QByteArray& utf8, TFormWords& words)
+      : FLexer(utf8), FBase(utf8.constData()), FWords(words), FItemWord(words.NumberOf(u"item")) {}
 
   TFormLayout Run() {
     FLexer.Next();
     while (FLexer.Kind() != kt::ttEnd) Step();
+    GroupProperties();
     return std::move(FLayout);
   }
 
  private:
-  qsizetype From() const { return FLexer.Raw().data() - FBase; }
-  qsizetype To() const { return From() + FLexer.Raw().size(); }
+  quint32 From() const { return quint32(FLexer.Raw().data() - FBase); }
+  quint32 To() const { return quint32(From() + FLexer.Raw().size()); }
 
   /// Takes the present token and answers where it ended.
-  qsizetype Take() {
-    const qsizetype end = To();
+  quint32 Take() {
+    const quint32 end = To();
     FLexer.Next();
     return end;
   }
@@ -43,87 +51,100 @@ class TLayoutScan {
     else if (FLexer.IsWord("object") || FLexer.IsWord("inherited") || FLexer.IsWord("inline"))
       Object();
     else
-      Property(FObject);  // An object's properties come before its children, but may follow items.
+      Property(FObject, FCounts);  // An object's properties come before its children, but may follow items.
   }
 
   void Object() {
-    TObjectPlace object;
+    TObjectPlace object{};
     object.From = From();
     object.To = Take();
     Names(object);
     if (FLexer.IsSymbol('[')) object.To = Index();
-    FObject = FLayout.Objects.size();
-    FLayout.Objects.push_back(std::move(object));
+    FCounts.clear();
+    FObject = Add(object);
+  }
+
+  quint32 Add(const TObjectPlace& object) {
+    FLayout.Objects.push_back(object);
+    return quint32(FLayout.Objects.size() - 1);
   }
 
   void Names(TObjectPlace& object) {
+    object.Name = object.ClassName = FWords.NumberOf({});
     if (!FLexer.IsSymbol(':')) {
-      object.ClassName = FLexer.Text().toString();
+      object.ClassName = FWords.NumberOf(FLexer.Text());
       object.To = Take();
     }
     if (!FLexer.IsSymbol(':')) return;
-    object.Name.swap(object.ClassName);
+    std::swap(object.Name, object.ClassName);
     object.To = Take();
     if (FLexer.IsOnNewLine() || FLexer.Kind() != kt::ttIdentifier) return;
-    object.ClassName = FLexer.Text().toString();
+    object.ClassName = FWords.NumberOf(FLexer.Text());
     object.To = Take();
   }
 
   /// A number in brackets.
-  qsizetype Index() {
+  quint32 Index() {
     Take();
     Take();
     return Take();
   }
 
-  void Property(std::size_t owner) {
-    TPropertyPlace property;
+  void Property(quint32 object, TPathCounts& counts) {
+    TPropertyPlace property{};
+    property.Object = object;
     property.From = From();
-    QString path;
-    while (!FLexer.IsSymbol('=')) {
-      path += FLexer.Kind() == kt::ttIdentifier ? FLexer.Text() : QStringView(u".");
-      Take();
-    }
-    property.Key = KeyOf(FLayout.Objects[owner], path.toLower());
+    property.Key.Path = Path();
+    property.Key.Number = counts[property.Key.Path]++;
     property.AfterSign = Take();
     property.ValueFrom = From();
     property.IsCollection = FLexer.IsSymbol('<');
     property.To = property.IsCollection ? Collection(property.Key) : Value();
-    Add(FLayout.Objects[owner], std::move(property));
+    FLayout.Properties.push_back(property);
   }
 
-  static QString KeyOf(TObjectPlace& object, const QString& path) {
-    return path + u'#' + QString::number(object.CountOfPath[path]++);
+  quint32 Path() {
+    FPath.resize(0);
+    while (!FLexer.IsSymbol('=')) {
+      FPath += FLexer.Kind() == kt::ttIdentifier ? FLexer.Text() : QStringView(u".");
+      Take();
+    }
+    return FWords.NumberOf(FPath);
   }
 
-  static void Add(TObjectPlace& object, TPropertyPlace property) {
-    object.IndexOfKey.insert(property.Key, qsizetype(object.Properties.size()));
-    object.Properties.push_back(std::move(property));
-  }
-
-  qsizetype Collection(const QString& key) {
+  quint32 Collection(const TPropertyKey& key) {
     Take();
     while (!FLexer.IsSymbol('>')) Item(key);
     return Take();
   }
 
-  void Item(const QString& collection) {
-    const std::size_t index = FLayout.Objects.size();
-    TObjectPlace item;
-    item.Name = collection;
-    item.ClassName = QStringLiteral("item");
-    item.From = From();
+  void Item(const TPropertyKey& collection) {
+    TObjectPlace item{collection.Path, collection.Number + 1, FItemWord, From(), 0, 0};
     item.To = Take();
     if (FLexer.IsSymbol('[')) item.To = Index();
-    FLayout.Objects.push_back(std::move(item));
-    while (!FLexer.IsWord("end")) Property(index);
+    const quint32 object = Add(item);
+    TPathCounts counts;
+    while (!FLexer.IsWord("end")) Property(object, counts);
     Take();
   }
 
+  /// So far they came as their values ended.
+  void GroupProperties() {
+    std::vector<TPropertyPlace>& all = FLayout.Properties;
+    std::sort(all.begin(), all.end(), [](const TPropertyPlace& a, const TPropertyPlace& b) {
+      return std::pair(a.Object, a.From) < std::pair(b.Object, b.From);
+    });
+    quint32 next = 0;
+    for (std::size_t i = 0; i < FLayout.Objects.size(); ++i) {
+      FLayout.Objects[i].FirstProperty = next;
+      while (next < all.size() && all[next].Object == i) ++next;
+    }
+  }
+
   /// One value with all that its brackets hold.
-  qsizetype Value() {
+  quint32 Value() {
     int depth = 0;
-    qsizetype end = 0;
+    quint32 end = 0;
     do {
       if (FLexer.IsSymbol('(') || FLexer.IsSymbol('[')) ++depth;
       if (FLexer.IsSymbol(')') || FLexer.IsSymbol(']')) --depth;
@@ -143,17 +164,38 @@ class TLayoutScan {
 
   kt::TTextLexer FLexer;
   const char* FBase;
+  TFormWords& FWords;
+  const quint32 FItemWord;
   TFormLayout FLayout;
-  std::size_t FObject = 0;  ///< Whose properties stand outside of collections.
+  QString FPath;
+  quint32 FObject = 0;  ///< Whose properties stand outside of collections.
+  TPathCounts FCounts;  ///< Of that object.
 };
+
+QChar AsciiLower(QChar c) { return c >= u'A' && c <= u'Z' ? QChar(c.unicode() + (u'a' - u'A')) : c; }
 
 }  // namespace
 
-const TPropertyPlace* TObjectPlace::FindProperty(const QString& key) const {
-  const auto found = IndexOfKey.constFind(key);
-  return found == IndexOfKey.cend() ? nullptr : &Properties[std::size_t(*found)];
+quint32 TFormWords::NumberOf(QStringView word) {
+  QString lower = word.toString();
+  for (QChar& c : lower) c = AsciiLower(c);
+  const auto known = FNumbers.constFind(lower);
+  if (known != FNumbers.cend()) return *known;
+  const auto number = quint32(FNumbers.size());
+  FNumbers.insert(lower, number);
+  return number;
 }
 
-TFormLayout FindLayout(const QByteArray& utf8) { return TLayoutScan(utf8).Run(); }
+std::span<const TPropertyPlace> TFormLayout::PropertiesOf(std::size_t object) const {
+  const std::size_t first = Objects[object].FirstProperty;
+  const std::size_t end = object + 1 < Objects.size() ? Objects[object + 1].FirstProperty : Properties.size();
+  return std::span(Properties).subspan(first, end - first);
+}
+
+TFormLayout FindLayout(const QByteArray& utf8, TFormWords& words) {
+  if (utf8.size() > qsizetype(std::numeric_limits<quint32>::max()))
+    throw kt::EReadError(QStringLiteral("the text of the form is too long"));
+  return TLayoutScan(utf8, words).Run();
+}
 
 }  // namespace ktform

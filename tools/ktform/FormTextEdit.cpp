@@ -1,6 +1,5 @@
 #include "ktform/FormTextEdit.h"
 
-#include "kt/rtl/conversions/Text.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/streams/FormConversion.h"
 #include "ktform/FormLayout.h"
@@ -8,6 +7,8 @@
 
 #include <algorithm>
 #include <optional>
+#include <span>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -21,20 +22,44 @@ struct TLaidOutText {
   QByteArray Text;
   TFormLayout Layout;
 
-  QByteArray Part(qsizetype from, qsizetype to) const { return Text.mid(from, to - from); }
+  QByteArrayView View(qsizetype from, qsizetype to) const { return QByteArrayView(Text).sliced(from, to - from); }
+  QByteArray Part(qsizetype from, qsizetype to) const { return View(from, to).toByteArray(); }
+  QByteArrayView Value(const TPropertyPlace& property) const { return View(property.ValueFrom, property.To); }
 };
 
-TLaidOutText LaidOut(const QByteArray& utf8) { return {utf8, FindLayout(utf8)}; }
+TLaidOutText LaidOut(const QByteArray& utf8, TFormWords& words) { return {utf8, FindLayout(utf8, words)}; }
 
-TLaidOutText LaidOutBinary(const QByteArray& binary, bool rawStrings) {
+TLaidOutText LaidOutBinary(const QByteArray& binary, bool rawStrings, TFormWords& words) {
   kt::TFormOptions options;
   options.Text.RawUtf8 = rawStrings;
   QByteArray text;
   kt::ObjectBinaryToText(binary, text, options);
-  return LaidOut(text);
+  text.squeeze();
+  return LaidOut(text, words);
 }
 
-bool HasLineEnd(const QByteArray& text) { return text.contains('\n') || text.contains('\r'); }
+/// Finds the properties of one object by their keys.
+class TPropertyFinder {
+ public:
+  explicit TPropertyFinder(std::span<const TPropertyPlace> properties) {
+    FSorted.reserve(properties.size());
+    for (const TPropertyPlace& property : properties) FSorted.push_back(&property);
+    std::ranges::sort(FSorted, {}, KeyOf);
+  }
+
+  /// Null when the object has no such property.
+  const TPropertyPlace* Find(const TPropertyKey& key) const {
+    const auto found = std::ranges::lower_bound(FSorted, key, {}, KeyOf);
+    return found != FSorted.end() && KeyOf(*found) == key ? *found : nullptr;
+  }
+
+ private:
+  static const TPropertyKey& KeyOf(const TPropertyPlace* property) { return property->Key; }
+
+  std::vector<const TPropertyPlace*> FSorted;
+};
+
+bool HasLineEnd(QByteArrayView text) { return text.contains('\n') || text.contains('\r'); }
 
 /// Finds and makes the changes of one text.
 class TFormTextEdit {
@@ -63,7 +88,7 @@ class TFormTextEdit {
     const auto& before = FBefore.Layout.Objects;
     const auto& after = FAfter.Layout.Objects;
     const auto isSame = [](const TObjectPlace& a, const TObjectPlace& b) {
-      return kt::SameText(a.Name, b.Name) && kt::SameText(a.ClassName, b.ClassName);
+      return std::tie(a.Name, a.Number, a.ClassName) == std::tie(b.Name, b.Number, b.ClassName);
     };
     return std::equal(original.begin(), original.end(), before.begin(), before.end(), isSame) &&
            before.size() == after.size();
@@ -73,47 +98,56 @@ class TFormTextEdit {
     const TObjectPlace& original = FOriginal.Layout.Objects[index];
     const TObjectPlace& before = FBefore.Layout.Objects[index];
     const TObjectPlace& after = FAfter.Layout.Objects[index];
-    const QByteArray header = FAfter.Part(after.From, after.To);
-    if (header != FBefore.Part(before.From, before.To)) Change(original.From, original.To, header);
-    for (const TPropertyPlace& property : before.Properties)
-      if (!after.FindProperty(property.Key)) Remove(original.FindProperty(property.Key));
-    for (std::size_t i = 0; i < after.Properties.size(); ++i) EditProperty(index, i);
+    const QByteArrayView header = FAfter.View(after.From, after.To);
+    if (header != FBefore.View(before.From, before.To)) Change(original.From, original.To, header.toByteArray());
+    if (!HasSameProperties(index)) EditProperties(index);
   }
 
-  void EditProperty(std::size_t object, std::size_t index) {
-    const TObjectPlace& after = FAfter.Layout.Objects[object];
-    const TPropertyPlace& property = after.Properties[index];
-    const TPropertyPlace* before = FBefore.Layout.Objects[object].FindProperty(property.Key);
-    if (before && IsSame(*before, property)) return;
-    const TPropertyPlace* original = FOriginal.Layout.Objects[object].FindProperty(property.Key);
-    if (original)
-      Replace(*original, property);
-    else
-      Insert(Anchor(FOriginal.Layout.Objects[object], after, index), property);
+  bool HasSameProperties(std::size_t index) const {
+    return std::ranges::equal(FBefore.Layout.PropertiesOf(index), FAfter.Layout.PropertiesOf(index),
+                              [this](const TPropertyPlace& before, const TPropertyPlace& after) {
+                                return before.Key == after.Key && IsSame(before, after);
+                              });
+  }
+
+  void EditProperties(std::size_t index) {
+    const TObjectPlace& object = FOriginal.Layout.Objects[index];
+    const TPropertyFinder original(FOriginal.Layout.PropertiesOf(index));
+    const TPropertyFinder before(FBefore.Layout.PropertiesOf(index));
+    const std::span<const TPropertyPlace> properties = FAfter.Layout.PropertiesOf(index);
+    const TPropertyFinder after(properties);
+    for (const TPropertyPlace& property : FBefore.Layout.PropertiesOf(index))
+      if (!after.Find(property.Key)) Remove(original.Find(property.Key));
+    for (std::size_t i = 0; i < properties.size(); ++i) {
+      const TPropertyPlace& property = properties[i];
+      const TPropertyPlace* old = before.Find(property.Key);
+      if (old && IsSame(*old, property)) continue;
+      if (const TPropertyPlace* place = original.Find(property.Key))
+        Replace(*place, property);
+      else
+        Insert(Anchor(object, FindAnchor(original, properties.first(i))), property);
+    }
   }
 
   /// The items of a collection are compared one by one, as objects are.
   bool IsSame(const TPropertyPlace& before, const TPropertyPlace& after) const {
-    return (before.IsCollection && after.IsCollection) ||
-           FBefore.Part(before.ValueFrom, before.To) == FAfter.Part(after.ValueFrom, after.To);
+    return (before.IsCollection && after.IsCollection) || FBefore.Value(before) == FAfter.Value(after);
   }
 
   /// A value that begins on a line of its own brings its line end along.
   void Replace(const TPropertyPlace& original, const TPropertyPlace& after) {
-    const bool hasOwnLine = HasLineEnd(FOriginal.Part(original.AfterSign, original.ValueFrom)) ||
-                            HasLineEnd(FAfter.Part(after.AfterSign, after.ValueFrom));
+    const bool hasOwnLine = HasLineEnd(FOriginal.View(original.AfterSign, original.ValueFrom)) ||
+                            HasLineEnd(FAfter.View(after.AfterSign, after.ValueFrom));
     if (hasOwnLine)
       Change(original.AfterSign, original.To, InLines(FAfter.Part(after.AfterSign, after.To)));
     else
       Change(original.ValueFrom, original.To, InLines(FAfter.Part(after.ValueFrom, after.To)));
   }
 
-  /// What a property of `after` that the original lacks comes behind: the nearest one before it, else the header.
-  static const TPropertyPlace* FindAnchor(const TObjectPlace& original, const TObjectPlace& after, std::size_t index) {
-    while (index-- > 0) {
-      const TPropertyPlace* anchor = original.FindProperty(after.Properties[index].Key);
-      if (anchor) return anchor;
-    }
+  /// What a property that the original lacks comes behind: the nearest one of those before it, else the header.
+  static const TPropertyPlace* FindAnchor(const TPropertyFinder& original, std::span<const TPropertyPlace> before) {
+    for (auto property = before.rbegin(); property != before.rend(); ++property)
+      if (const TPropertyPlace* anchor = original.Find(property->Key)) return anchor;
     return nullptr;
   }
 
@@ -122,11 +156,10 @@ class TFormTextEdit {
     QByteArray Indent;
   };
 
-  TAnchor Anchor(const TObjectPlace& original, const TObjectPlace& after, std::size_t index) const {
-    const TPropertyPlace* anchor = FindAnchor(original, after, index);
-    const QByteArray indent = IndentBefore(original.From) + kIndent;
-    if (!anchor) return {original.To, indent};
-    const bool hasOwnLine = LineStart(anchor->From) > original.From;
+  TAnchor Anchor(const TObjectPlace& object, const TPropertyPlace* anchor) const {
+    const QByteArray indent = IndentBefore(object.From) + kIndent;
+    if (!anchor) return {object.To, indent};
+    const bool hasOwnLine = LineStart(anchor->From) > object.From;
     return {anchor->To, hasOwnLine ? IndentBefore(anchor->From) : indent};
   }
 
@@ -197,10 +230,11 @@ bool WritesRawStrings(const TFormText& text, const TFormLayout& layout) {
 QByteArray EditFormText(const QByteArray& original, const QByteArray& before, const QByteArray& after,
                         kt::TEightBitEncoding encoding) {
   const TFormText text = DecodeText(original, encoding);
-  const TLaidOutText old = LaidOut(text.Utf8);
+  TFormWords words;
+  const TLaidOutText old = LaidOut(text.Utf8, words);
   const auto edited = [&](bool rawStrings) {
-    const TLaidOutText from = LaidOutBinary(before, rawStrings);
-    const TLaidOutText to = LaidOutBinary(after, rawStrings);
+    const TLaidOutText from = LaidOutBinary(before, rawStrings, words);
+    const TLaidOutText to = LaidOutBinary(after, rawStrings, words);
     return EncodeText(TFormTextEdit(old, from, to, text.LineEnd).Run(), text);
   };
   std::optional<QByteArray> file = edited(WritesRawStrings(text, old.Layout));

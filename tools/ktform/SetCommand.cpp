@@ -100,13 +100,25 @@ QByteArray WithForm(const QByteArray& original, const QByteArray& form, kt::TEig
   return result + form + original.sliced(reader.Position());
 }
 
-/// Makes the changes in memory; the result has the format and manner of the file that `form` came from.
-QByteArray Changed(const QByteArray& form, const QStringList& assignments, kt::TEightBitEncoding encoding) {
-  const QByteArray binary = BinaryOf(form, encoding);
+/// A form as the writer writes it, without and with the changes.
+struct TWrittenForms {
+  QByteArray Before;
+  QByteArray After;
+};
+
+/// Makes the changes in memory, where nothing of the objects stays.
+TWrittenForms WrittenForms(const QByteArray& form, const QByteArray& binary, const QStringList& assignments,
+                           kt::TEightBitEncoding encoding) {
   const std::unique_ptr<kt::TComponent> root = LoadForm(form, binary, encoding);
   const QByteArray before = kt::WriteComponentToBinary(root.get());
   for (const QString& assignment : assignments) Assign(root.get(), assignment);
-  const QByteArray after = kt::WriteComponentToBinary(root.get());
+  return {before, kt::WriteComponentToBinary(root.get())};
+}
+
+/// The result has the format and manner of the file that `form` came from.
+QByteArray Changed(const QByteArray& form, const QStringList& assignments, kt::TEightBitEncoding encoding) {
+  const QByteArray binary = BinaryOf(form, encoding);
+  const auto [before, after] = WrittenForms(form, binary, assignments, encoding);
   switch (kt::TestStreamFormat(form)) {
     case kt::sofBinary:
     case kt::sofResource:

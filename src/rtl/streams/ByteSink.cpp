@@ -32,7 +32,9 @@ void TByteSink::Grow(qsizetype count) {
     return;
   }
   const qsizetype used = FCursor - FBuffer.constData();
-  FBuffer.resize(std::max(used + count, FBuffer.size() * 2));
+  const qsizetype size = std::max(used + count, FBuffer.size() * 2);
+  FBuffer.reserve(size);  // resize() alone would take twice as much again.
+  FBuffer.resize(size);
   FCursor = FBuffer.data() + used;
   FEnd = FBuffer.data() + FBuffer.size();
 }

@@ -2,6 +2,7 @@
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/typeinfo/ClassInfo.h"
 #include "kt/rtl/typeinfo/EnumNames.h"
+#include "kt/rtl/typeinfo/PropLists.h"
 #include "kt/rtl/typeinfo/TypeOf.h"
 #include "support/Expect.h"
 

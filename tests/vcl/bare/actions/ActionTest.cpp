@@ -1,3 +1,4 @@
+#include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Make.h"
 #include "kt/vcl/actions/Action.h"
 #include "kt/vcl/actions/ActionList.h"
