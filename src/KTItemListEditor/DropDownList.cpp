@@ -22,6 +22,7 @@ void TKTDropDownList::Construct() {
 void TKTDropDownList::KeyPress(QChar& key) {
   TFloatingListBox::KeyPress(key);
   if (key == u'\b' || key == u'\x1b') FSearchText.clear();
+  // Letters of all scripts are searched for, and not only those up to 255.
   if (key.unicode() < 32) return;
   const TClock::time_point now = FNow();
   if (now - FLastKey > SearchPause) FSearchText.clear();

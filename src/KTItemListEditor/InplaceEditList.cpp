@@ -11,6 +11,13 @@
 
 namespace kt {
 
+namespace {
+
+/// How often a cell is read whose handlers have it read again.
+constexpr int kMostReadings = 3;
+
+}  // namespace
+
 const TClassInfo* TKTInplaceEditList::Class() {
   static const TClassInfo info = TClassBuilder<TKTInplaceEditList>("TKTInplaceEditList").Done();
   return &info;
@@ -30,8 +37,9 @@ void TKTInplaceEditList::CreateWnd() {
 
 void TKTInplaceEditList::Notification(TComponent* component, TOperation operation) {
   TInplaceEdit::Notification(component, operation);
-  if (operation != opRemove || component != FPickList) return;
-  FPickList = nullptr;
+  if (operation != opRemove) return;
+  if (component == FPickList) FPickList = nullptr;
+  if (component != FActiveList) return;
   FActiveList = nullptr;
   FListVisible = false;
 }
@@ -52,17 +60,25 @@ void TKTInplaceEditList::UpdateContents() {
   const TLifeWatch self(this);
   // An open list is that of the former cell.
   if (FListVisible) CloseUp(false);
-  {
+  // A handler that has the editor read a cell meanwhile comes first: what it was asked for is old by then. One that
+  // does so each time is left alone with it.
+  for (int i = 0; i < kMostReadings; ++i) {
+    const quint64 reading = ++FReadings;
     const TLiveFlag fillingIn(this, FIsFillingIn);
     TInplaceEdit::UpdateContents();
+    if (!self.IsAlive()) return;
+    if (FReadings == reading) break;
   }
-  if (!self.IsAlive()) return;
   FActiveList = nullptr;
   FPickListLoaded = false;
   const TEditStyle style = grid.GetEditStyle(grid.GetCol(), grid.GetRow());
   if (!self.IsAlive()) return;
   if (std::exchange(FEditStyle, style) != style) Invalidate();
-  if (FEditStyle == esPickList) FActiveList = &GetPickList();
+  if (FEditStyle == esPickList) {
+    FActiveList = &GetPickList();
+    // That of a descendant may be anybody's.
+    FActiveList->FreeNotification(this);
+  }
   SetExpression(grid.GetExpressionMask(grid.GetCol(), grid.GetRow()));
   SetFont(grid.GetCellFont(grid.GetCol(), grid.GetRow()));
   FAcceptedText = GetText();

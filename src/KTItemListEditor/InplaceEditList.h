@@ -76,7 +76,9 @@ class TKTInplaceEditList : public TInplaceEdit {
 
   void BoundsChanged() override;
   void UpdateContents() override;
-  /// The list to pick from, made when it is needed.
+  /// The list to pick from, made when it is needed; the same one each time for a cell. Descendants can have one of
+  /// their own: a TFloatingListBox opens by itself, any other list is shown in its parent, or without one in a window
+  /// of its own. Its OnMouseUp is theirs to connect with ListMouseUp().
   virtual TCustomListBox& GetPickList();
   /// Whether the text may leave the editor.
   virtual bool ValidateExpression();
@@ -112,7 +114,7 @@ class TKTInplaceEditList : public TInplaceEdit {
   void ListMouseUp(TObject* sender, TMouseButton button, TShiftState shift, int x, int y);
 
  private:
-  bool IsPickListActive() const;
+  bool IsPickListActive();
   bool HasReadOnlyItem() const;
   /// Puts a text into the editor without anybody hearing of it.
   void PutText(const QString& text);
@@ -131,7 +133,7 @@ class TKTInplaceEditList : public TInplaceEdit {
   bool MovesByWord(quint16 key, TShiftState shift) const;
 
   // The list.
-  void SizeList();
+  void SizeList(TCustomListBox& list);
   void HideList(bool accept);
 
   // The button.
@@ -162,6 +164,8 @@ class TKTInplaceEditList : public TInplaceEdit {
   /// The editor is taking over the text of a cell.
   bool FIsFillingIn = false;
   bool FIsTakingBack = false;
+  /// How many texts of cells were taken over.
+  quint64 FReadings = 0;
 };
 
 }  // namespace kt

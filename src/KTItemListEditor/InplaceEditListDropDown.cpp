@@ -2,6 +2,7 @@
 #include "kt/KTItemListEditor/DropDownList.h"
 #include "kt/KTItemListEditor/InplaceEditList.h"
 #include "kt/KTItemListEditor/ItemListEditor.h"
+#include "kt/KTItemListEditor/ListOpening.h"
 #include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/Make.h"
 #include "kt/vcl/stdctrls/EditButton.h"
@@ -25,8 +26,8 @@ TCustomListBox& TKTInplaceEditList::GetPickList() {
   return *FPickList;
 }
 
-bool TKTInplaceEditList::IsPickListActive() const {
-  return FPickList && FActiveList == static_cast<TWinControl*>(FPickList);
+bool TKTInplaceEditList::IsPickListActive() {
+  return FActiveList && FActiveList == static_cast<TWinControl*>(&GetPickList());
 }
 
 void TKTInplaceEditList::DoGetPickListItems() {
@@ -40,8 +41,9 @@ void TKTInplaceEditList::DoGetPickListItems() {
   list.SetItemIndex(list.GetItems().IndexOf(GetText()));
 }
 
-void TKTInplaceEditList::SizeList() {
-  TKTDropDownList& list = *FPickList;
+/// As wide as the editor, but never too narrow for the longest line together with what surrounds it: the room beside
+/// the text, and the scroll bar where there is one.
+void TKTInplaceEditList::SizeList(TCustomListBox& list) {
   const int count = list.GetCount();
   const int most = FDropDownRows > 0 ? std::min(count, FDropDownRows) : count;
   // An empty list still shows one blank row.
@@ -59,13 +61,14 @@ void TKTInplaceEditList::DropDown() {
     DoGetPickListItems();
     // A handler may have led the grid elsewhere.
     if (!self.IsAlive() || FListVisible || !IsPickListActive() || !IsVisible()) return;
-    FPickList->HandleNeeded();
-    FPickList->SetColor(GetColor());
-    FPickList->SetFont(GetFont());
+    TCustomListBox& list = GetPickList();
+    list.HandleNeeded();
+    list.SetColor(GetColor());
+    list.SetFont(GetFont());
     // Values may be bold or italic; what can be picked is not.
-    FPickList->GetFont().SetStyle({});
-    SizeList();
-    FPickList->Open();
+    list.GetFont().SetStyle({});
+    SizeList(list);
+    OpenListBeside(list, *this);
   }
   FListVisible = true;
   Invalidate();
@@ -73,13 +76,13 @@ void TKTInplaceEditList::DropDown() {
 }
 
 void TKTInplaceEditList::HideList(bool accept) {
-  TKTDropDownList& list = *FPickList;
+  TCustomListBox& list = GetPickList();
   for (TWinControl* control : {static_cast<TWinControl*>(this), static_cast<TWinControl*>(&list)}) {
     if (control->HasMouseCapture()) control->Perform(WM_CANCELMODE);
   }
   const bool hasPicked = list.GetItemIndex() >= 0;
   const QString picked = hasPicked ? list.GetItems().GetStrings(list.GetItemIndex()) : QString();
-  list.Close();
+  CloseList(list);
   FListVisible = false;
   Invalidate();
   if (accept && hasPicked && picked != GetText()) PickText(picked);

@@ -209,6 +209,7 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   void DrawCell(int col, int row, const QRect& rect, TGridDrawState state) override;
   bool KeepsPointer() const override;
   void KeyDown(quint16& key, TShiftState shift) override;
+  void Loaded() override;
   void MouseDown(TMouseButton button, TShiftState shift, int x, int y) override;
   void MouseMove(TShiftState shift, int x, int y) override;
   void Resize() override;
@@ -385,6 +386,8 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   void FreeItem(TKTItemProp* item);
   void SwapCounts();
   void TurnSelection(const TGridRect& selection);
+  void LeaveName();
+  bool HasCountsOfForm() const;
   void RecountRows();
   TGridCoord CellOf(int row, int field) const;
   std::unique_ptr<TKTCustomDeltaFont> MakeFont();
@@ -443,6 +446,8 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   bool FIsNaming = false;
   bool FHideSelection = false;
   bool FIsRowHeightByHand = false;
+  /// The number of lines waits for the end of the form.
+  bool FAdjustsWhenLoaded = false;
   bool FHasItemFonts = false;
   bool FHasOwnMinusGlyph = false;
   bool FHasOwnPlusGlyph = false;

@@ -4,6 +4,8 @@
 #include "kt/rtl/strings/StringList.h"
 #include "kt/rtl/typeinfo/PropLists.h"
 
+#include <utility>
+
 namespace kt {
 
 TGridInfo TKTCustomItemListEditor::GetGridInfo(int col, int row) const {
@@ -61,7 +63,9 @@ void TKTCustomItemListEditor::GoToRow(int row) {
   const int line = row + GetGridCount(gcFixedLines);
   // Between a bracket's or lock's begin and end there are items without a row, and rows without a line.
   const bool hasLine = row >= 0 && line < GetGridCount(gcLineCount);
-  if (hasLine && GetGridCount(gcCurrentLine) != line) SetGridCount(gcCurrentLine, line);
+  // Where the program has set the fixed lines by itself, titles can lie over the first item.
+  const bool isTitle = line == 0 && FDisplayOptions.Has(doColumnTitles);
+  if (hasLine && !isTitle && GetGridCount(gcCurrentLine) != line) SetGridCount(gcCurrentLine, line);
 }
 
 QString TKTCustomItemListEditor::GetCell(int col, int row) {
@@ -87,11 +91,13 @@ void TKTCustomItemListEditor::SetCell(int col, int row, const QString& value) {
 }
 
 void TKTCustomItemListEditor::SetColumnTitles(bool value) {
+  const int fixed = value ? 1 : 0;
+  if (GetGridCount(gcFixedLines) == fixed) return;
+  const bool reopens = IsEditorMode();
   const TLifeWatch self(this);
   // The cell of the editor is about to become that of another item.
   HideEditor();
   if (!self.IsAlive()) return;
-  const int fixed = value ? 1 : 0;
   if (FOrientation == goVertical) {
     if (value && GetRowCount() < 2) SetRowCount(2);
     if (self.IsAlive()) SetFixedRows(fixed);
@@ -99,6 +105,15 @@ void TKTCustomItemListEditor::SetColumnTitles(bool value) {
     if (value && GetColCount() < 2) TCustomDrawGrid::SetColCount(2);
     if (self.IsAlive()) SetFixedCols(fixed);
   }
+  if (self.IsAlive()) LeaveName();
+  if (self.IsAlive() && reopens) ShowEditor();
+}
+
+/// Other fixed cells have put the cursor into the first field, which it has no business in unless names can be edited.
+void TKTCustomItemListEditor::LeaveName() {
+  if (GetOptions().Has(goRowSelect) || FPropertyOptions.Has(propEdit)) return;
+  if (GetGridCount(gcCurrentField) != 0 || GetGridCount(gcFieldCount) < 2) return;
+  CarryCurrent(CellOf(GetGridCount(gcCurrentLine) - GetGridCount(gcFixedLines), 1));
 }
 
 void TKTCustomItemListEditor::SetDisplayOptions(TILEDisplayOptions value) {
@@ -108,7 +123,9 @@ void TKTCustomItemListEditor::SetDisplayOptions(TILEDisplayOptions value) {
   const TILEDisplayOptions changed = added + removed;
   const bool reopens = changed.Has(doColumnTitles) && IsEditorMode();
   const TLifeWatch self(this);
-  if (changed.Has(doColumnTitles)) SetColumnTitles(value.Has(doColumnTitles));
+  // Till all is set there is nothing to show.
+  if (changed.Has(doColumnTitles)) HideEditor();
+  if (self.IsAlive() && changed.Has(doColumnTitles)) SetColumnTitles(value.Has(doColumnTitles));
   if (self.IsAlive() && removed.Has(doMultiColValues)) SetGridCount(gcFieldCount, 2);
   // What is typed is written while the rows are what they were; a handler that refuses it finds nothing changed.
   if (self.IsAlive() && changed.Has(doShowReadOnly)) HideEditor();
@@ -118,8 +135,21 @@ void TKTCustomItemListEditor::SetDisplayOptions(TILEDisplayOptions value) {
   if (changed.Has(doShowReadOnly)) RecountRows();
   AdjustColWidths();
   if (changed.Has(doShowReadOnly)) ShowRows();
-  if (self.IsAlive()) Refresh();
+  // The orientation that the counts in a form are meant for comes after the options.
+  if (self.IsAlive() && HasCountsOfForm()) FAdjustsWhenLoaded = true;
+  if (self.IsAlive() && !FAdjustsWhenLoaded) Refresh();
   if (self.IsAlive() && reopens) ShowEditor();
+}
+
+/// Whether the counts are those that a form has for the editor being read.
+bool TKTCustomItemListEditor::HasCountsOfForm() const {
+  return HasState(csReading) && GetPropInfo(ClassType(), u"RowCount");
+}
+
+void TKTCustomItemListEditor::Loaded() {
+  const TLifeWatch self(this);
+  TCustomDrawGrid::Loaded();
+  if (self.IsAlive() && std::exchange(FAdjustsWhenLoaded, false)) Refresh();
 }
 
 void TKTCustomItemListEditor::RecountRows() {
@@ -133,8 +163,17 @@ void TKTCustomItemListEditor::SetOrientation(TKTGridOrientation value) {
   // What is typed belongs to a cell of the grid as it was.
   HideEditor();
   if (!self.IsAlive()) return;
-  FOrientation = value;
-  OrientationChange();
+  const TKTGridOrientation previous = std::exchange(FOrientation, value);
+  const int cols = GetColCount();
+  const int rows = GetRowCount();
+  try {
+    OrientationChange();
+  } catch (...) {
+    // Whoever does not let the cursor go where there is still room for it has kept the grid from turning.
+    const bool hasTurned = self.IsAlive() && (GetColCount() != cols || GetRowCount() != rows || cols == rows);
+    if (self.IsAlive() && !hasTurned) FOrientation = previous;
+    throw;
+  }
 }
 
 void TKTCustomItemListEditor::SwapCounts() {
@@ -156,12 +195,12 @@ void TKTCustomItemListEditor::OrientationChange() {
   if (!self.IsAlive()) return;
   const TGridRect selection = GetSelection();
   // The counts in a form, where the class publishes them, are already those of the orientation in it.
-  const bool countsAreRead = HasState(csReading) && IsPublishedProp(this, u"RowCount");
-  if (!countsAreRead) SwapCounts();
+  if (!HasCountsOfForm()) SwapCounts();
   if (self.IsAlive()) SetColumnTitles(FDisplayOptions.Has(doColumnTitles));
   // Left over from the title line, which was on the other axis.
   if (self.IsAlive() && GetGridCount(gcFixedFields) == 1) SetGridCount(gcFixedFields, 0);
   if (self.IsAlive()) TurnSelection(selection);
+  if (self.IsAlive()) LeaveName();
   if (self.IsAlive()) Refresh();
   if (self.IsAlive()) ShowEditor();
 }

@@ -89,8 +89,9 @@ void TKTCustomItemListEditor::ShowRows() {
   try {
     HideEditor();
   } catch (...) {
-    // Whoever refused what was typed gets the rows counted all the same.
+    // Whoever refused what was typed gets the rows and their lines all the same.
     if (self.IsAlive()) TItemRows::Recount(*FItems);
+    if (self.IsAlive()) AdjustGridCount();
     throw;
   }
   if (!self.IsAlive()) return;

@@ -28,8 +28,12 @@ struct TTextSelection {
 void TKTCustomItemListEditor::SetEditText(int col, int row, const QString& value) {
   if (IsEditUpdateLocked()) return;
   const TLifeWatch self(this);
+  const TItemWatch edited(FindItemProp(col, row, true));
+  const bool hasItem = static_cast<bool>(edited);
   TCustomDrawGrid::SetEditText(col, row, value);
   if (!self.IsAlive()) return;
+  // A handler may have put another item into the cell, for which the text was not typed.
+  if (hasItem && (!edited || edited.Get() != FindItemProp(col, row, true))) return;
   const bool namesCurrent = !IsValueCell(col, row) && col == GetCol() && row == GetRow();
   if (namesCurrent) return NameCurrent(col, row, value);
   TEditUpdateLock lock(*this);

@@ -29,6 +29,12 @@ TEST_F(InplaceEditListButtonTest, TheTextLeavesRoomForTheButtonAlone) {
   EXPECT_EQ(0, marginOf());
 }
 
+/// The line editor itself has one of the two pixels above its text.
+TEST_F(InplaceEditListButtonTest, TheTextStandsTwoPixelsBelowTheTop) {
+  Show();
+  EXPECT_EQ(1, dynamic_cast<QLineEdit&>(*Edit().GetHandle()).textMargins().top());
+}
+
 /// All but two pixels, which the text has beside it anyway.
 TEST_F(InplaceEditListButtonTest, FromRightToLeftTheTextLeavesRoomAtTheLeftEnd) {
   Editor.SetBiDiMode(bdRightToLeft);
@@ -67,6 +73,15 @@ TEST_F(InplaceEditListButtonTest, AClickRunsTheActionWithTheItem) {
   ShowEllipsis();
   ClickAt(OnButton());
   EXPECT_EQ("click(a)", TakeLog());
+}
+
+TEST_F(InplaceEditListButtonTest, TheEditorsOwnHandlerHasTheGridAsItsSender) {
+  ShowEllipsis();
+  TObject* heard = nullptr;
+  Edit().OnEditButtonClick = [&heard](TObject* sender) { heard = sender; };
+  ClickAt(OnButton());
+  EXPECT_EQ(&Editor, heard);
+  EXPECT_EQ("", TakeLog());
 }
 
 TEST_F(InplaceEditListButtonTest, AReleaseBesideTheButtonRunsNothing) {
@@ -158,6 +173,13 @@ TEST_F(InplaceEditListButtonTest, APressedButtonLooksPressed) {
   ReleaseAt(OnButton());
   EXPECT_NE(before, pressed);
   EXPECT_EQ(before, Edit().GetHandle()->grab(Edit().GetButtonRect()).toImage());
+}
+
+TEST_F(InplaceEditListButtonTest, AnArrowWithoutAListLooksInactive) {
+  ShowColors();
+  const QImage before = Edit().GetHandle()->grab(Edit().GetButtonRect()).toImage();
+  delete Edit().GetActiveList();
+  EXPECT_NE(before, Edit().GetHandle()->grab(Edit().GetButtonRect()).toImage());
 }
 
 TEST_F(InplaceEditListButtonTest, TheTwoKindsOfButtonsLookDifferent) {

@@ -20,7 +20,8 @@ namespace kt::tests {
 /// in as events of the real windows, and what handlers hear goes to a log. Handlers are for the tests to add.
 class TInplaceEditListTest : public testing::Test {
  protected:
-  TInplaceEditListTest() {
+  TInplaceEditListTest() : TInplaceEditListTest(Make<TKTItemListEditor>()) {}
+  explicit TInplaceEditListTest(std::unique_ptr<TKTItemListEditor> editor) : FEditor(std::move(editor)) {
     for (const char* name : {"a", "b", "c"}) {
       TKTItemProp* item = Editor.GetItems().Add();
       item->SetName(QString::fromLatin1(name));
@@ -123,7 +124,7 @@ class TInplaceEditListTest : public testing::Test {
     QTest::mouseClick(viewport, Qt::LeftButton, Qt::NoModifier, point);
   }
 
-  std::unique_ptr<TKTItemListEditor> FEditor = Make<TKTItemListEditor>();
+  std::unique_ptr<TKTItemListEditor> FEditor;
   TKTItemListEditor& Editor = *FEditor;
   std::unique_ptr<TWindowProbe> Window;
   QStringList Log;

@@ -55,6 +55,16 @@ TEST_F(InplaceEditListKeysTest, WordsOfAMaskedTextAreThoseThatShow) {
   EXPECT_EQ(14, Edit().GetSelStart());
 }
 
+TEST_F(InplaceEditListKeysTest, AltDownOnAnOpenListTakesTheSelectionOver) {
+  ShowColors();
+  OpenList();
+  Key(Qt::Key_Down);
+  Key(Qt::Key_Down, Qt::AltModifier);
+  EXPECT_FALSE(Edit().IsListVisible());
+  EXPECT_EQ("red", Value(0));
+  EXPECT_EQ("validate(a=red) validated(a)", TakeLog());
+}
+
 TEST_F(InplaceEditListKeysTest, EnterWithAltLeavesTheListOpen) {
   ShowColors();
   OpenList();

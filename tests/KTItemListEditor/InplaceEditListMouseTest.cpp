@@ -148,6 +148,17 @@ TEST_F(InplaceEditListMouseTest, ADoubleClickOnTheArrowValidatesWhatWasTypedAndS
   EXPECT_EQ("x", Value(0));
 }
 
+TEST_F(InplaceEditListMouseTest, WhatTheButtonDoesHidesNothingFromHandlersOfTheMouse) {
+  ShowEllipsis();
+  Edit().OnMouseDown = [this](TObject*, TMouseButton, TShiftState, int, int) { Log += QStringLiteral("down"); };
+  Edit().OnMouseMove = [this](TObject*, TShiftState, int, int) { Log += QStringLiteral("move"); };
+  Edit().OnMouseUp = [this](TObject*, TMouseButton, TShiftState, int, int) { Log += QStringLiteral("up"); };
+  PressAt(OnButton());
+  MoveTo(OnButton() + QPoint(1, 1));
+  ReleaseAt(OnButton());
+  EXPECT_EQ("down move click(a) up", TakeLog());
+}
+
 TEST_F(InplaceEditListMouseTest, ADoubleClickOnTheArrowStepsNowhere) {
   ShowColors();
   ClickAt(OnButton());

@@ -89,6 +89,25 @@ TEST_F(InplaceEditListSearchTest, ThirtyTwoCharactersAreAllSearchedFor) {
   EXPECT_EQ(2, List().GetItemIndex());
 }
 
+/// Keys of any keyboard come as characters of the list's language.
+TEST_F(InplaceEditListSearchTest, LettersOfOtherScriptsAreSearchedFor) {
+  const QStringList lines =
+      QStringLiteral("\u043c\u0438\u0440 \u043c\u043e\u0440\u0435 \u732b \u00e9t\u00e9").split(u' ');
+  ShowPickList(lines);
+  OpenList();
+  const auto put = [&](QChar character) { Edit().Perform(WM_CHAR, character.unicode()); };
+  put(u'\u043c');
+  put(u'\u043e');
+  EXPECT_EQ(1, List().GetItemIndex());
+  Key(Qt::Key_Backspace);
+  put(u'\u732b');
+  EXPECT_EQ(2, List().GetItemIndex());
+  Key(Qt::Key_Backspace);
+  put(u'\u00e9');
+  EXPECT_EQ(3, List().GetItemIndex());
+  EXPECT_EQ("1", Edit().GetText());
+}
+
 TEST_F(InplaceEditListSearchTest, ABlankIsSearchedForLikeAnyOtherCharacter) {
   ShowPickList({QStringLiteral("ab"), QStringLiteral("a b")});
   OpenList();

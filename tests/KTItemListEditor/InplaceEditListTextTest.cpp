@@ -168,6 +168,19 @@ TEST_F(InplaceEditListTextTest, TheCheckOnLeavingKnowsTheEndsOfTheText) {
   EXPECT_FALSE((Edit().*&TOpenEdit::ValidateExpression)());
 }
 
+/// A line feed before the text and a carriage return behind it are there for expressions to find.
+TEST_F(InplaceEditListTextTest, TheCheckOnLeavingFindsTheEndsOfALineAroundTheText) {
+  Item(0).SetValue(QStringLiteral("12"));
+  ShowExpression(QStringLiteral("\\n12\\r"));
+  EXPECT_TRUE((Edit().*&TOpenEdit::ValidateExpression)());
+  Edit().SetExpression(QStringLiteral("\\n12"));
+  EXPECT_TRUE((Edit().*&TOpenEdit::ValidateExpression)());
+  Edit().SetExpression(QStringLiteral("12\\r"));
+  EXPECT_TRUE((Edit().*&TOpenEdit::ValidateExpression)());
+  Edit().SetExpression(QStringLiteral("\\r12"));
+  EXPECT_FALSE((Edit().*&TOpenEdit::ValidateExpression)());
+}
+
 /// The message has two placeholders and one text: what reaches the user is the error of filling it in.
 TEST_F(InplaceEditListTextTest, LeavingWithAnInvalidTextRaisesTheErrorOfTheMessageItself) {
   Item(0).SetValue(QStringLiteral("abc"));
@@ -239,6 +252,7 @@ INSTANTIATE_TEST_SUITE_P(InplaceEditListTextTest, InplaceEditListStayingTest,
                                          THeldKey{"F2", Qt::Key_F2, {}}, THeldKey{"Delete", Qt::Key_Delete, {}},
                                          THeldKey{"Shift+Insert", Qt::Key_Insert, Qt::ShiftModifier},
                                          THeldKey{"Ctrl+Insert", Qt::Key_Insert, Qt::ControlModifier},
+                                         THeldKey{"Alt+Tab", Qt::Key_Tab, Qt::AltModifier},
                                          THeldKey{"Ctrl+Left", Qt::Key_Left, Qt::ControlModifier}));
 
 TEST_F(InplaceEditListTextTest, TheMouseLeavesUnchecked) {

@@ -194,6 +194,26 @@ TEST_F(ItemListEditorColumnsTest, FromRightToLeftTheDividerIsAsFarFromTheOtherSi
   EXPECT_EQ("-", SizedAt(145, 60));
 }
 
+TEST_F(ItemListEditorColumnsTest, FromRightToLeftRowsAreSizedWhereTheyAre) {
+  FEditor->SetBiDiMode(bdRightToLeft);
+  Show();
+  Fill("a b c");
+  const int bottom = 19 + FEditor->CellRect(0, 1).height();
+  FEditor->SetOptions(FEditor->GetOptions() - TGridOptions{goColSizing} + TGridOptions{goRowSizing});
+  EXPECT_EQ("row 1", SizedAt(60, bottom));
+  EXPECT_EQ("-", SizedAt(60, FEditor->GetClientHeight() - 1 - bottom));
+}
+
+TEST_F(ItemListEditorColumnsTest, ADividerOfMoreThanSevenPixelsCanBeDraggedWhereverItIsDrawn) {
+  FEditor->SetGridLineWidth(11);
+  FEditor->SetDisplayOptions(FEditor->GetDisplayOptions() - TILEDisplayOptions{doAutoColResize});
+  Show();
+  EXPECT_EQ("-", SizedAt(149, 60));
+  EXPECT_EQ("column 0", SizedAt(150, 60));
+  EXPECT_EQ("column 0", SizedAt(160, 60));
+  EXPECT_EQ("-", SizedAt(161, 60));
+}
+
 TEST_F(ItemListEditorColumnsTest, AColumnThatTheEdgeCutsOffCanBeSizedThere) {
   FEditor->SetDisplayOptions(FEditor->GetDisplayOptions() - TILEDisplayOptions{doAutoColResize});
   Show();

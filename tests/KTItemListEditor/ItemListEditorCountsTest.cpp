@@ -276,5 +276,38 @@ TEST_F(ItemListEditorCountsTest, AColumnDeletedFromInsideADeletionStays) {
   EXPECT_EQ("a b", TreeText());
 }
 
+/// The two disagree after a program has set the fixed rows by itself.
+TEST_F(ItemListEditorCountsTest, TheTitleLineIsNotCurrentAnyMoreOnceLinesCome) {
+  FEditor->SetFixedRows(0);
+  FEditor->SetCol(1);
+  ASSERT_EQ(0, FEditor->GetRow());
+  Fill("a b c");
+  EXPECT_EQ(1, FEditor->GetRow());
+}
+
+TEST_F(ItemListEditorCountsTest, TheTitleLineIsNotCurrentAnyMoreOnceLinesGo) {
+  Fill("a b c");
+  FEditor->SetFixedRows(0);
+  FEditor->SetCol(1);
+  FEditor->Refresh();
+  EXPECT_EQ(3, FEditor->GetRowCount());
+  EXPECT_EQ(1, FEditor->GetRow());
+}
+
+TEST_F(ItemListEditorCountsTest, WhereColumnsAreItemsTheTitleColumnIsNotCurrentAnyMoreOnceColumnsCome) {
+  FEditor->SetOrientation(goHorizontal);
+  FEditor->SetFixedCols(0);
+  FEditor->SetRow(1);
+  ASSERT_EQ(0, FEditor->GetCol());
+  Fill("a b c");
+  EXPECT_EQ(1, FEditor->GetCol());
+}
+
+TEST_F(ItemListEditorCountsTest, WithoutTitlesTheFirstLineStaysCurrent) {
+  FEditor->SetDisplayOptions(FEditor->GetDisplayOptions() - TILEDisplayOptions{doColumnTitles});
+  Fill("a b c");
+  EXPECT_EQ(0, FEditor->GetRow());
+}
+
 }  // namespace
 }  // namespace kt::tests

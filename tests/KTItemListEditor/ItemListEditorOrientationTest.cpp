@@ -36,6 +36,22 @@ TEST_F(ItemListEditorOrientationTest, TurningWithTheEditorOpenLeavesTheItemsAsTh
   EXPECT_EQ("1", Edit().GetText().toStdString());
 }
 
+TEST_F(ItemListEditorOrientationTest, TurningWithTheEditorOpenBringsItBackOverTheValue) {
+  Show();
+  Editor.SetRow(2);
+  Editor.SetOrientation(goHorizontal);
+  EXPECT_TRUE(Edit().Visible());
+  EXPECT_EQ(Editor.CellRect(2, 1), Edit().GetBoundsRect());
+  EXPECT_EQ("2", Edit().GetText());
+  EXPECT_TRUE(Edit().Focused());
+}
+
+TEST_F(ItemListEditorOrientationTest, LinesThatTheItemsDoNotNeedGoWhenTheGridTurns) {
+  Editor.SetRowCount(10);
+  Editor.SetOrientation(goHorizontal);
+  EXPECT_EQ("4x2 fixed 1,0 at 1,1", Counts());
+}
+
 TEST_F(ItemListEditorOrientationTest, TurningTwiceRestoresCountsAndSelection) {
   Show();
   Editor.SetRow(2);

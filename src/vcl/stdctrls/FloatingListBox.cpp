@@ -97,17 +97,19 @@ bool TFloatingListBox::IsInside(const QWidget& widget) const {
   return &widget == anchor || &widget == Window() || Window()->isAncestorOf(&widget);
 }
 
-QRect TFloatingListBox::PlaceOnScreen() const {
-  const QWidget* const anchor = FAnchor.GetHandle();
-  const QRect beside(anchor->mapToGlobal(QPoint(0, 0)), anchor->size());
+QRect TFloatingListBox::PlaceBeside(TWinControl& anchor, QSize size) {
+  const QWidget* const body = anchor.GetHandle();
+  const QRect beside(body->mapToGlobal(QPoint(0, 0)), body->size());
   const QScreen* screen = QGuiApplication::screenAt(beside.center());
-  const QRect area = (screen ? screen : anchor->screen())->availableGeometry();
+  // What panels of the desktop take is not there to open in.
+  const QRect area = (screen ? screen : body->screen())->availableGeometry();
   const int below = area.y() + area.height() - (beside.y() + beside.height());
   const int above = beside.y() - area.y();
-  const bool isBelow = GetHeight() <= below || below >= above;
-  const int height = std::min(GetHeight(), std::max(isBelow ? below : above, 1));
-  const int width = std::min(GetWidth(), area.width());
-  const int left = FAnchor.UseRightToLeftAlignment() ? beside.x() + beside.width() - width : beside.x();
+  // Above only where that helps: a list that fits on neither side shows more of itself on the roomier one.
+  const bool isBelow = size.height() <= below || below >= above;
+  const int height = std::min(size.height(), std::max(isBelow ? below : above, 1));
+  const int width = std::min(size.width(), area.width());
+  const int left = anchor.UseRightToLeftAlignment() ? beside.x() + beside.width() - width : beside.x();
   return {std::clamp(left, area.x(), area.x() + area.width() - width),
           isBelow ? beside.y() + beside.height() : beside.y() - height, width, height};
 }
@@ -115,7 +117,7 @@ QRect TFloatingListBox::PlaceOnScreen() const {
 void TFloatingListBox::Open() {
   if (FIsOpen) return;
   HandleNeeded();
-  const QRect place = PlaceOnScreen();
+  const QRect place = PlaceBeside(FAnchor, {GetWidth(), GetHeight()});
   SetBounds(place.x(), place.y(), place.width(), place.height());
   // What the height was cut by belongs to the far side of the list.
   const bool isAbove = place.y() < FAnchor.GetHandle()->mapToGlobal(QPoint(0, 0)).y();

@@ -2,6 +2,8 @@
 
 #include "kt/vcl/stdctrls/ListBox.h"
 
+#include <QRect>
+
 #include <memory>
 
 namespace kt {
@@ -17,10 +19,13 @@ class TFloatingListBox : public TCustomListBox {
   ~TFloatingListBox() override;
 
   bool IsOpen() const { return FIsOpen; }
-  /// Opens in its present size below the control or, where that passes the end of the screen, above it. A size that the
-  /// screen does not have is cut.
+  /// Opens in its present size below the control or, where that passes the end of the screen and there is more room
+  /// above, above it. A size that the screen does not have is cut.
   void Open();
   virtual void Close();
+  /// Where on the screen something of a size opens beside a control that has a window: below it, and above only when
+  /// there is too little room below and more above. Within the area of the screen that windows may take.
+  static QRect PlaceBeside(TWinControl& anchor, QSize size);
 
  protected:
   /// `anchor` is the control that the list opens for; it has to live as long.
@@ -40,7 +45,6 @@ class TFloatingListBox : public TCustomListBox {
   class TWatch;
 
   bool IsInside(const QWidget& widget) const;
-  QRect PlaceOnScreen() const;
 
   TWinControl& FAnchor;
   std::unique_ptr<TWatch> FWatch;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "kt/KTItemListEditor/InplaceEditList.h"
+#include "kt/rtl/objects/Make.h"
+#include "kt/vcl/mask/MaskEdit.h"
 #include "support/ItemLists.h"
 
 namespace kt::tests {
@@ -13,9 +15,11 @@ class TMonkeyChecks {
     if (OpenBrackets(editor.GetItems()) != 0) return "a bracket is open";
     if (Rows(editor) != WalkedRows(editor)) return "the rows are " + Rows(editor) + " and not " + WalkedRows(editor);
     if (editor.GetCol() >= editor.GetColCount() || editor.GetRow() >= editor.GetRowCount()) return "no current cell";
-    return {};
+    const std::string ofGrid = ComplaintOfGrid(editor);
+    return ofGrid.empty() ? ComplaintOfText(editor) : ofGrid;
   }
-  /// What a handler has prevented by throwing may come with the next refresh.
+
+ private:
   static std::string ComplaintOfGrid(TKTItemListEditor& editor) {
     if (LinesOf(editor) != editor.GetGridCount(gcLineCount)) return "the lines are wrong";
     auto* edit = dynamic_cast<TKTInplaceEditList*>(editor.InplaceEditor());
@@ -27,8 +31,32 @@ class TMonkeyChecks {
     if (!editor.IsEditorMode()) return "the editor shows although there is none";
     return {};
   }
+  /// An editor in which nothing was typed shows what is in its cell. Asks handlers for that text.
+  static std::string ComplaintOfText(TKTItemListEditor& editor) {
+    auto* edit = dynamic_cast<TKTInplaceEditList*>(editor.InplaceEditor());
+    if (!edit || !edit->Visible() || edit->IsModified()) return {};
+    if (!edit->Focused() && !editor.GetOptions().Has(goAlwaysShowEditor)) return {};
+    const QString wanted =
+        ThroughMask(edit->GetEditMask(), (editor.*&TOpenEditor::GetEditText)(editor.GetCol(), editor.GetRow()));
+    if (edit->GetText() == wanted) return {};
+    // A name that the items reject is held back.
+    const bool isName = !editor.IsValueCell(editor.GetCol(), editor.GetRow());
+    if (isName && !editor.GetItems().IsValid(edit->GetText(), false)) return {};
+    return "the editor shows '" + edit->GetText().toStdString() + "' and not '" + wanted.toStdString() + "'";
+  }
 
- private:
+  /// Opens what only descendants may call.
+  struct TOpenEditor : TKTItemListEditor {
+    using TKTItemListEditor::GetEditText;
+  };
+
+  /// What a mask leaves of a text.
+  static QString ThroughMask(const QString& mask, const QString& text) {
+    const auto edit = Make<TMaskEdit>();
+    edit->SetEditMask(mask);
+    edit->SetText(text);
+    return edit->GetText();
+  }
   static int LinesOf(const TKTItemListEditor& editor) {
     return editor.GetGridCount(gcFixedLines) + std::max(1, editor.GetVisibleItemCount());
   }
