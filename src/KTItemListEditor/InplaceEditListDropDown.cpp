@@ -2,10 +2,10 @@
 #include "kt/KTItemListEditor/DropDownList.h"
 #include "kt/KTItemListEditor/InplaceEditList.h"
 #include "kt/KTItemListEditor/ItemListEditor.h"
-#include "kt/KTItemListEditor/ListOpening.h"
 #include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/Make.h"
 #include "kt/vcl/stdctrls/EditButton.h"
+#include "kt/vcl/stdctrls/ListOpening.h"
 
 #include <algorithm>
 

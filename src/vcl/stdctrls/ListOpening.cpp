@@ -1,8 +1,8 @@
-#include "kt/KTItemListEditor/ListOpening.h"
+#include "kt/vcl/stdctrls/ListOpening.h"
 
 #include "kt/vcl/stdctrls/FloatingListBox.h"
 
-#include <QAbstractScrollArea>
+#include <QWidget>
 
 namespace kt {
 
