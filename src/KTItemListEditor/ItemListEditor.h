@@ -402,6 +402,7 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   void PlaceCopy(TKTItemProp& item, TKTItemProp& category);
   void PlaceFurtherCopy(TKTItemProp& item, const QString& categoryName);
   class TKTInplaceEditList* ListEditor() const;
+  void TypeInto(int col, int row, const QString& value);
   void NameCurrent(int col, int row, const QString& value);
   TKTItemProp* WriteTypedText(int col, int row, const QString& value);
   void FollowNamed(TKTItemProp& item, int field);

@@ -29,11 +29,19 @@ void TKTCustomItemListEditor::SetEditText(int col, int row, const QString& value
   if (IsEditUpdateLocked()) return;
   const TLifeWatch self(this);
   const TItemWatch edited(FindItemProp(col, row, true));
-  const bool hasItem = static_cast<bool>(edited);
+  const bool hadItem = static_cast<bool>(edited);
   TCustomDrawGrid::SetEditText(col, row, value);
   if (!self.IsAlive()) return;
-  // A handler may have put another item into the cell, for which the text was not typed.
-  if (hasItem && (!edited || edited.Get() != FindItemProp(col, row, true))) return;
+  const TKTItemProp* present = FindItemProp(col, row, true);
+  const bool isOther = hadItem && (!edited || edited.Get() != present);
+  // A handler has put another item into the cell, for which the text was not typed.
+  if (isOther && present) return;
+  TypeInto(col, row, value);
+  // Where it has left none, the text has made a new one, of which the editor has not heard.
+  if (isOther && self.IsAlive()) InvalidateEditor();
+}
+
+void TKTCustomItemListEditor::TypeInto(int col, int row, const QString& value) {
   const bool namesCurrent = !IsValueCell(col, row) && col == GetCol() && row == GetRow();
   if (namesCurrent) return NameCurrent(col, row, value);
   TEditUpdateLock lock(*this);

@@ -28,12 +28,14 @@ TEST_F(ItemListEditorMeddlingTest, WhatWasTypedForAnItemThatIsGoneIsWrittenIntoN
   EXPECT_EQ("2", Edit().GetText());
 }
 
-TEST_F(ItemListEditorMeddlingTest, WhatWasTypedForAnItemMakesNoNewOneWhenAllAreGone) {
+TEST_F(ItemListEditorMeddlingTest, WhatWasTypedMakesANewItemWhenAllAreGoneAndShowsInIt) {
   Show();
+  Retype(QStringLiteral("x"));
   Editor.OnSetEditText = [this](TObject*, int, int, const QString&) { Once([this] { Editor.GetItems().Clear(); }); };
-  Type(QStringLiteral("x"));
-  EXPECT_EQ("", Items());
-  EXPECT_EQ("", Edit().GetText());
+  Type(QStringLiteral("y"));
+  EXPECT_EQ("=xy", Items());
+  EXPECT_TRUE(Edit().Visible());
+  EXPECT_EQ("xy", Edit().GetText());
 }
 
 TEST_F(ItemListEditorMeddlingTest, WhatWasTypedForAnItemThatHasMovedIsWrittenIntoNoOther) {
