@@ -30,15 +30,17 @@ void TKTCustomItemListEditor::SetEditText(int col, int row, const QString& value
   const TLifeWatch self(this);
   const TItemWatch edited(FindItemProp(col, row, true));
   const bool hadItem = static_cast<bool>(edited);
+  const QString shown = InplaceEditor() ? InplaceEditor()->GetText() : QString();
   TCustomDrawGrid::SetEditText(col, row, value);
   if (!self.IsAlive()) return;
   const TKTItemProp* present = FindItemProp(col, row, true);
   const bool isOther = hadItem && (!edited || edited.Get() != present);
   // A handler has put another item into the cell, for which the text was not typed.
   if (isOther && present) return;
+  const bool hasReadAgain = InplaceEditor() && InplaceEditor()->GetText() != shown;
   TypeInto(col, row, value);
-  // Where it has left none, the text has made a new one, of which the editor has not heard.
-  if (isOther && self.IsAlive()) InvalidateEditor();
+  // A handler has had the editor read the cell before the text was there, that of an item that is new perhaps.
+  if (hasReadAgain && self.IsAlive()) InvalidateEditor();
 }
 
 void TKTCustomItemListEditor::TypeInto(int col, int row, const QString& value) {

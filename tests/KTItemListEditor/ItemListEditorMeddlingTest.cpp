@@ -38,6 +38,15 @@ TEST_F(ItemListEditorMeddlingTest, WhatWasTypedMakesANewItemWhenAllAreGoneAndSho
   EXPECT_EQ("xy", Edit().GetText());
 }
 
+TEST_F(ItemListEditorMeddlingTest, WhatWasTypedIntoTheBlankLineShowsThoughAHandlerHadTheEditorReadIt) {
+  Editor.GetItems().Clear();
+  Show();
+  Editor.OnSetEditText = [this](TObject*, int, int, const QString&) { Once([this] { Editor.GetItems().Clear(); }); };
+  Type(QStringLiteral("x"));
+  EXPECT_EQ("=x", Items());
+  EXPECT_EQ("x", Edit().GetText());
+}
+
 TEST_F(ItemListEditorMeddlingTest, WhatWasTypedForAnItemThatHasMovedIsWrittenIntoNoOther) {
   Show();
   Editor.OnSetEditText = [this](TObject*, int, int, const QString&) { Once([this] { Item(0).SetIndex(2); }); };
