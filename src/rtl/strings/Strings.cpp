@@ -4,6 +4,7 @@
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/conversions/Text.h"
 #include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 
@@ -110,8 +111,10 @@ int TStrings::IndexOfObject(TObject* object) {
 int TStrings::CompareStrings(QStringView a, QStringView b) const { return AnsiCompareText(a, b); }
 
 void TStrings::BeginUpdate() {
+  // Whoever hears of the change to come may free the list.
+  const TLifeWatch self(this);
   if (FUpdateCount == 0) SetUpdateState(true);
-  ++FUpdateCount;
+  if (self.IsAlive()) ++FUpdateCount;
 }
 
 void TStrings::EndUpdate() {

@@ -1,3 +1,4 @@
+#include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "rtl/strings/StringsFixture.h"
 
@@ -188,6 +189,14 @@ TEST(StringListEventsTest, AnExceptionWhileSortingAnewLeavesTheListUnsorted) {
   EXPECT_THROW(list->SetCaseSensitive(true), EAbort);
   EXPECT_FALSE(list->GetSorted());
   EXPECT_TRUE(list->GetCaseSensitive());
+}
+
+TEST(StringListEventsTest, AListThatGoesWhileItsBracketBeginsIsLeftAlone) {
+  auto list = Make<TStringList>();
+  list->OnChanging = [&list](TObject*) { list.reset(); };
+  const TUpdateBracket bracket(*list);
+  EXPECT_EQ(nullptr, list);
+  EXPECT_FALSE(bracket.IsAlive());
 }
 
 }  // namespace
