@@ -25,6 +25,7 @@ struct TPropertyKey {
   quint32 Path;    ///< The number of the path.
   quint32 Number;  ///< Which of several with that path, from 0.
 
+  // NOLINTNEXTLINE(modernize-use-nullptr): what the compiler writes for it compares with 0
   friend auto operator<=>(const TPropertyKey&, const TPropertyKey&) = default;
 };
 
