@@ -169,8 +169,14 @@ const TClassInfo* TReader::FindComponentClass(const QString& className) {
 void TReader::SetComponentName(TComponent* component, QString name) {
   if (OnSetName) OnSetName(component, name);
   CheckNothingLost();
-  // A stand-in gives back what it was given, whatever makes a good name here.
-  if (AsUnknown(component)) return component->ChangeName(name);
+  // A stand-in gives back what it was given, whatever makes a good name here. Only the name of a known component is
+  // that one's alone: written in another order the two could not be read again.
+  if (AsUnknown(component)) {
+    TComponent* owner = component->GetOwnerComponent();
+    TComponent* other = owner && !name.isEmpty() ? owner->FindComponent(name) : nullptr;
+    if (other && !AsUnknown(other)) throw EComponentError(Format(SDuplicateName, {name}));
+    return component->ChangeName(name);
+  }
   if (!name.isEmpty()) component->SetName(name);
 }
 
