@@ -37,6 +37,12 @@ void TButtonControl::Connect(QAbstractButton& button) {
   });
 }
 
+void TButtonControl::SetAlignment(TLeftRight value) {
+  if (FAlignment == value) return;
+  FAlignment = value;
+  UpdateLook();
+}
+
 void TButtonControl::CreateWnd() {
   TWinControl::CreateWnd();
   Button()->setText(GetText());
@@ -48,7 +54,8 @@ void TButtonControl::UpdateLook() {
   if (!button) return;
   const bool outer = std::exchange(FIsUpdatingLook, true);
   button->setFont(QtFont(GetFont()));
-  button->setLayoutDirection(UseRightToLeftReading() ? Qt::RightToLeft : Qt::LeftToRight);
+  const bool isMirrored = (FAlignment == taLeftJustify) != UseRightToLeftAlignment();
+  button->setLayoutDirection(isMirrored ? Qt::RightToLeft : Qt::LeftToRight);
   const QPalette around = PaletteAround(*button);
   QPalette palette;
   const TColor color = GetFont().GetColor();

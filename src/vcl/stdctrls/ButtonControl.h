@@ -6,6 +6,14 @@ class QAbstractButton;
 
 namespace kt {
 
+/// On which side of the sign the caption stands. From right to left the sides are exchanged.
+enum TLeftRight { taLeftJustify, taRightJustify };
+template <>
+struct TEnumNames<TLeftRight> {
+  static constexpr char Name[] = "TLeftRight";
+  static constexpr const char* Values[] = {"taLeftJustify", "taRightJustify"};
+};
+
 /// Something with a caption that is clicked by mouse or by key. Its window is one of Qt's buttons, which draws it and
 /// knows the keys; an "&" in the caption marks the letter that clicks it together with Alt.
 class TButtonControl : public TWinControl {
@@ -17,6 +25,10 @@ class TButtonControl : public TWinControl {
 
   const QString& GetCaption() const { return GetText(); }
   void SetCaption(const QString& value) { SetText(value); }
+
+  /// Of no matter to those without a sign.
+  TLeftRight GetAlignment() const { return FAlignment; }
+  void SetAlignment(TLeftRight value);
 
   void DefaultHandler(TMessage& message) override;
 
@@ -48,6 +60,7 @@ class TButtonControl : public TWinControl {
   void Connect(QAbstractButton& button);
   void UpdateLook();
 
+  TLeftRight FAlignment = taRightJustify;
   bool FIsUpdatingLook = false;
 };
 

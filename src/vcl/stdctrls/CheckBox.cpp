@@ -69,7 +69,6 @@ QWidget* TCustomCheckBox::CreateBody(QWidget* parent) { return MakeButton<QCheck
 void TCustomCheckBox::CreateWnd() {
   TButtonControl::CreateWnd();
   ShowState();
-  UpdateSides();
 }
 
 void TCustomCheckBox::ShowState() {
@@ -78,23 +77,6 @@ void TCustomCheckBox::ShowState() {
   // Qt draws the third state of such boxes only.
   box->setTristate(FAllowGrayed || FState == cbGrayed);
   box->setCheckState(QtState(FState));
-}
-
-void TCustomCheckBox::UpdateSides() {
-  if (!Button()) return;
-  const bool isLeft = (FAlignment == taLeftJustify) != UseRightToLeftAlignment();
-  Button()->setLayoutDirection(isLeft ? Qt::RightToLeft : Qt::LeftToRight);
-}
-
-void TCustomCheckBox::CMBiDiModeChanged(TMessage& message) {
-  TButtonControl::CMBiDiModeChanged(message);
-  UpdateSides();
-}
-
-void TCustomCheckBox::SetAlignment(TLeftRight value) {
-  if (FAlignment == value) return;
-  FAlignment = value;
-  UpdateSides();
 }
 
 void TCustomCheckBox::SetAllowGrayed(bool value) {

@@ -11,14 +11,6 @@ struct TEnumNames<TCheckBoxState> {
   static constexpr const char* Values[] = {"cbUnchecked", "cbChecked", "cbGrayed"};
 };
 
-/// On which side of the sign the caption stands. From right to left the sides are exchanged.
-enum TLeftRight { taLeftJustify, taRightJustify };
-template <>
-struct TEnumNames<TLeftRight> {
-  static constexpr char Name[] = "TLeftRight";
-  static constexpr const char* Values[] = {"taLeftJustify", "taRightJustify"};
-};
-
 /// A caption with a box that is checked or not, or neither.
 class TCustomCheckBox : public TButtonControl {
  public:
@@ -27,9 +19,6 @@ class TCustomCheckBox : public TButtonControl {
   static const TClassInfo* Class();
   const TClassInfo* ClassType() const override { return Class(); }
 
-  /// Where the caption stands beside the box.
-  TLeftRight GetAlignment() const { return FAlignment; }
-  void SetAlignment(TLeftRight value);
   /// Whether the user comes to cbGrayed as well.
   bool IsAllowGrayed() const { return FAllowGrayed; }
   void SetAllowGrayed(bool value);
@@ -46,16 +35,13 @@ class TCustomCheckBox : public TButtonControl {
   QWidget* CreateBody(QWidget* parent) override;
   void CreateWnd() override;
   void Clicked() override;
-  void CMBiDiModeChanged(TMessage& message) override;
   /// What a click does: the next state.
   virtual void Toggle();
 
  private:
   void ShowState();
-  void UpdateSides();
 
   TCheckBoxState FState = cbUnchecked;
-  TLeftRight FAlignment = taRightJustify;
   bool FAllowGrayed = false;
 };
 

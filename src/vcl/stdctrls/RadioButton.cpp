@@ -59,28 +59,10 @@ void TRadioButton::CreateWnd() {
   // The siblings of a control need not be those of its window.
   Button()->setAutoExclusive(false);
   ShowState();
-  UpdateSides();
 }
 
 void TRadioButton::ShowState() {
   if (Button()) Button()->setChecked(FChecked);
-}
-
-void TRadioButton::UpdateSides() {
-  if (!Button()) return;
-  const bool isLeft = (FAlignment == taLeftJustify) != UseRightToLeftAlignment();
-  Button()->setLayoutDirection(isLeft ? Qt::RightToLeft : Qt::LeftToRight);
-}
-
-void TRadioButton::CMBiDiModeChanged(TMessage& message) {
-  TButtonControl::CMBiDiModeChanged(message);
-  UpdateSides();
-}
-
-void TRadioButton::SetAlignment(TLeftRight value) {
-  if (FAlignment == value) return;
-  FAlignment = value;
-  UpdateSides();
 }
 
 void TRadioButton::SetChecked(bool value) {

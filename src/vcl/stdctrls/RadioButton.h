@@ -1,6 +1,6 @@
 #pragma once
 
-#include "kt/vcl/stdctrls/CheckBox.h"
+#include "kt/vcl/stdctrls/ButtonControl.h"
 
 namespace kt {
 
@@ -12,8 +12,6 @@ class TRadioButton : public TButtonControl {
   static const TClassInfo* Class();
   const TClassInfo* ClassType() const override { return Class(); }
 
-  TLeftRight GetAlignment() const { return FAlignment; }
-  void SetAlignment(TLeftRight value);
   bool IsChecked() const { return FChecked; }
   /// Takes the sign from the others. Getting it is a click, whoever does it; TabStop goes along.
   void SetChecked(bool value);
@@ -25,14 +23,11 @@ class TRadioButton : public TButtonControl {
   QWidget* CreateBody(QWidget* parent) override;
   void CreateWnd() override;
   void Clicked() override;
-  void CMBiDiModeChanged(TMessage& message) override;
 
  private:
   void ShowState();
-  void UpdateSides();
   void TurnSiblingsOff();
 
-  TLeftRight FAlignment = taRightJustify;
   bool FChecked = false;
 };
 

@@ -78,6 +78,14 @@ TEST_F(CheckBoxTest, TheCaptionStandsOnTheSideThatIsAskedFor) {
   EXPECT_EQ(Qt::LeftToRight, box.GetHandle()->layoutDirection());
 }
 
+TEST_F(CheckBoxTest, TheCaptionStaysOnItsSideWhenTheFontChanges) {
+  TCheckBox& box = Add<TCheckBox>("box");
+  box.SetAlignment(taLeftJustify);
+  Show();
+  box.GetFont().SetSize(20);
+  EXPECT_EQ(Qt::RightToLeft, box.GetHandle()->layoutDirection());
+}
+
 TEST_F(CheckBoxTest, AFormFileChecksWithoutAClick) {
   ReadFormText(*FForm, R"(object Form: TForm
     object Box: TCheckBox
