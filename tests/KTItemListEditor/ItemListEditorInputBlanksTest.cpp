@@ -1,4 +1,5 @@
 #include "KTItemListEditor/ItemListEditorInputFixture.h"
+#include "kt/rtl/collections/UpdateBracket.h"
 
 namespace kt::tests {
 namespace {
@@ -160,6 +161,23 @@ TEST_F(ItemListEditorInputBlanksTest, AcrossTheColumnsAMoveFurtherToTheRightLose
   ShowOnBlank("a b c");
   FEditor->SetCol(4);
   EXPECT_EQ("a | > | b | c", RowsText());
+}
+
+TEST_F(ItemListEditorInputBlanksTest, AcrossTheColumnsABlankItemIsNotLeftHoweverFarTheWay) {
+  TurnAcross();
+  FEditor->SetDisplayOptions(FEditor->GetDisplayOptions() - TILEDisplayOptions{doAutoColResize});
+  Show("");
+  {
+    const TUpdateBracket bracket(Items());
+    for (int i = 0; i < 20000; ++i) Items().Add(i == 0 ? QString() : QString::number(i), {});
+  }
+  FEditor->SetDeleteBlanks(true);
+  FEditor->SetCol(1);
+  int clicks = 0;
+  FEditor->OnClick = [&clicks](TObject*) { ++clicks; };
+  FEditor->SetCol(20000);
+  EXPECT_EQ(1, FEditor->GetCol());
+  EXPECT_LE(clicks, 3);
 }
 
 }  // namespace

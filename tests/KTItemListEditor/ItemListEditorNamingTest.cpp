@@ -1,6 +1,5 @@
 // Names that are typed take their items to other places.
 #include "KTItemListEditor/ItemListEditorInputFixture.h"
-#include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/rtl/strings/StringList.h"
 
 namespace kt::tests {
@@ -14,12 +13,6 @@ class ItemListEditorNamingTest : public TItemListInputTest {
     FEditor->SetRow(Item(name).GetAbsoluteVIndex() + 1);
     FEditor->SetCol(0);
     FEditor->SetEditorMode(true);
-  }
-  void Drag(QPoint from, QPoint to) {
-    FWindow->Press(from);
-    FWindow->MoveTo((from + to) / 2);
-    FWindow->MoveTo(to);
-    FWindow->Release(to);
   }
   /// The editor lies over the current cell and shows what is in it.
   void ExpectEditorInPlace() {
@@ -129,73 +122,6 @@ TEST_F(ItemListEditorNamingTest, AcrossTheColumnsTheEditorGoesWithTheItem) {
   EXPECT_EQ("b c xy", TreeText());
   EXPECT_EQ("3,0", Where().toStdString());
   ExpectEditorInPlace();
-}
-
-// Columns that are moved.
-
-TEST_F(ItemListEditorNamingTest, AMovedColumnLeavesTheCursorWithItsField) {
-  Show("a b");
-  Item("a").SetValue("va");
-  Item("b").SetValue("vb");
-  FEditor->SetOptions(FEditor->GetOptions() + TGridOptions{goColMoving});
-  Drag(CellCenter(1, 0), CellCenter(0, 0));
-  EXPECT_EQ("1,1", Where().toStdString());
-  EXPECT_EQ("va", EditorText().toStdString());
-  Key(Qt::Key_Down);
-  EXPECT_EQ("1,2", Where().toStdString());
-  ClickCell(1, 1);
-  EXPECT_EQ("a b", TreeText());
-  EXPECT_EQ("va vb", (Item("a").GetValue() + ' ' + Item("b").GetValue()).toStdString());
-}
-
-TEST_F(ItemListEditorNamingTest, AcrossTheColumnsAMovedRowLeavesTheCursorWithItsField) {
-  TurnAcross();
-  Show("a b");
-  FEditor->SetRowCount(3);
-  Item("a").SetValuesText("1\r\n2");
-  FEditor->SetOptions(FEditor->GetOptions() + TGridOptions{goRowMoving});
-  FEditor->SetRow(1);
-  Drag(CellCenter(0, 1), CellCenter(0, 2));
-  EXPECT_EQ("1,1", Where().toStdString());
-  EXPECT_EQ("1", EditorText().toStdString());
-}
-
-TEST_F(ItemListEditorNamingTest, AcrossTheColumnsAMovedColumnTakesItsItemAlong) {
-  TurnAcross();
-  Show("a b c");
-  FEditor->SetOptions(FEditor->GetOptions() + TGridOptions{goColMoving});
-  FEditor->SetFixedRows(1);
-  Drag(CellCenter(1, 0), CellCenter(3, 0));
-  EXPECT_EQ("b c a", TreeText());
-  EXPECT_EQ(&Item("a"), FEditor->GetSelected());
-}
-
-// Blank items and lines.
-
-TEST_F(ItemListEditorNamingTest, AcrossTheColumnsABlankItemIsNotLeftHoweverFarTheWay) {
-  TurnAcross();
-  FEditor->SetDisplayOptions(FEditor->GetDisplayOptions() - TILEDisplayOptions{doAutoColResize});
-  Show("");
-  {
-    const TUpdateBracket bracket(Items());
-    for (int i = 0; i < 20000; ++i) Items().Add(i == 0 ? QString() : QString::number(i), {});
-  }
-  FEditor->SetDeleteBlanks(true);
-  FEditor->SetCol(1);
-  int clicks = 0;
-  FEditor->OnClick = [&clicks](TObject*) { ++clicks; };
-  FEditor->SetCol(20000);
-  EXPECT_EQ(1, FEditor->GetCol());
-  EXPECT_LE(clicks, 3);
-}
-
-TEST_F(ItemListEditorNamingTest, LinesThatTheApplicationHasSetStayWhileAValueIsTyped) {
-  Show("a b");
-  FEditor->SetRowCount(6);
-  FEditor->SetRow(1);
-  Type("x");
-  EXPECT_EQ("x", Item("a").GetValue());
-  EXPECT_EQ(6, FEditor->GetRowCount());
 }
 
 }  // namespace

@@ -137,5 +137,14 @@ TEST_F(ItemListEditorTypingTest, TheOnlyItemRemovedUnderTheOpenEditorStaysRemove
   EXPECT_EQ(0, FEditor->GetItemCount());
 }
 
+TEST_F(ItemListEditorTypingTest, LinesThatTheApplicationHasSetStayWhileAValueIsTyped) {
+  Show("a b");
+  FEditor->SetRowCount(6);
+  FEditor->SetRow(1);
+  Type("x");
+  EXPECT_EQ("x", Item("a").GetValue());
+  EXPECT_EQ(6, FEditor->GetRowCount());
+}
+
 }  // namespace
 }  // namespace kt::tests
