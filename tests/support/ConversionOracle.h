@@ -78,7 +78,7 @@ inline qint64 MillisecondsOf(TDateTime moment) {
 
 /// A moment is shown to the second, and midnight without a time, so what is shown may change once.
 inline void CheckMoment(TDateTime moment, const TFormatSettings& settings) {
-  Demand(moment >= MinDateTime && moment < MaxDateTime + 1, "a moment that was read is one");
+  Demand(moment > MinDateTime - 1 && moment <= MaxDateTime, "a moment that was read is one");
   const TDateTime second = StrToDateTime(DateTimeToStr(moment, settings), settings);
   Demand(std::abs(MillisecondsOf(second) - MillisecondsOf(moment)) < 1000, "a moment comes back to the second");
   const QString shown = DateTimeToStr(second, settings);

@@ -11,6 +11,7 @@ using TDateTime = double;
 using TDate = TDateTime;
 using TTime = TDateTime;
 
+/// The first midnight. The times of that day count away from zero, so they are smaller, though by less than 1.
 inline constexpr TDateTime MinDateTime = -693593;
 inline constexpr TDateTime MaxDateTime = 2958465.99999999;
 inline constexpr int MSecsPerDay = 86400000;

@@ -100,6 +100,12 @@ TEST(DateTimeParseTest, TheTimeOfAnEarlyDateCountsForward) {
   EXPECT_EQ(-1.25, StrToDateTime(u"29.12.1899 6:00", German()));
 }
 
+TEST(DateTimeParseTest, TheFirstDayHasTimesToo) {
+  const TDateTime moment = StrToDateTime(u"1.1.0001 6:30", German());
+  EXPECT_LT(moment, MinDateTime);
+  EXPECT_EQ("0001-01-01 06:30", FormatDateTime("yyyy'-'mm'-'dd hh':'nn", moment, German()).toStdString());
+}
+
 TEST(DateTimeParseTest, WhatIsNoDateAndTimeIsAnError) {
   EXPECT_EQ("'5.2.2006 25:00' is not a valid date and time",
             MessageOf<EConvertError>([] { StrToDateTime(u"5.2.2006 25:00", German()); }));
