@@ -1,6 +1,8 @@
 // Forms from real programs, opened and edited.
 #include "examples/designer/document/DocumentFixture.h"
 
+#include "kt/rtl/streams/FormConversion.h"
+
 #include <QDir>
 
 namespace designer::tests {
@@ -18,8 +20,12 @@ class RealFormsDocumentTest : public TDocumentTest {
     for (const QString& name : FForms.entryList({QStringLiteral("*.?fm")}, QDir::Files)) {
       SCOPED_TRACE(name.toStdString());
       const QByteArray file = Content(FForms.filePath(name));
-      const auto document = TFormDocument::Open(file);
-      check(*document, file);
+      try {
+        const auto document = TFormDocument::Open(file);
+        check(*document, file);
+      } catch (const kt::Exception& error) {
+        ADD_FAILURE() << error.Message().toStdString();
+      }
     }
   }
 
@@ -75,31 +81,35 @@ TEST_F(RealFormsDocumentTest, AMovedComponentChangesOneLine) {
   EXPECT_LT(20, moved);
 }
 
+/// Without the lines of an object that stands on the form.
+QByteArray WithoutObject(QByteArray text, const QString& name) {
+  const qsizetype at = text.indexOf(' ' + name.toLatin1() + ": ");
+  const qsizetype from = text.lastIndexOf('\n', at);
+  const qsizetype to = text.indexOf("\n  end", from) + 6;
+  return text.remove(from, to - from);
+}
+
+QByteArray TextOfForm(const QByteArray& binary) {
+  QByteArray text;
+  kt::ObjectBinaryToText(binary, text);
+  return text;
+}
+
 TEST_F(RealFormsDocumentTest, OfADeletedComponentExactlyItsLinesGo) {
   int deleted = 0;
   WithEach([&deleted](TFormDocument& document, const QByteArray& file) {
     const auto children = document.ChildrenOf(&document.Form());
     if (children.empty()) return;
-    ++deleted;
     kt::TComponent* victim = children[children.size() / 2];
-    const QByteArray header = "\n  object " + victim->GetName().toLatin1() + ": ";
-    const qsizetype from = file.indexOf(header);
-    ASSERT_LE(0, from) << header.toStdString();
-    const qsizetype to = file.indexOf("\n  end", from) + 6;
+    const QString name = victim->GetName();
+    const QByteArray wanted = WithoutObject(TextOfForm(document.Written()), name);
     document.Delete({victim});
-    QByteArray rest = file;
-    rest.remove(from, to - from);
-    // Properties that referred to it go too; nothing else does.
-    const QByteArrayList left = document.FileBytes().split('\n');
-    QByteArrayList wanted = rest.split('\n');
-    for (const QByteArray& line : left) {
-      const qsizetype place = wanted.indexOf(line);
-      EXPECT_LE(0, place) << line.toStdString();
-      if (place >= 0) wanted.remove(0, place + 1);
-    }
-    EXPECT_GE(rest.count('\n') - left.size() + 1, 0);
+    // Others may change with it: their tab order, what came from an action, references.
+    if (TextOfForm(document.Written()) != wanted) return;
+    ++deleted;
+    EXPECT_EQ(WithoutObject(file, name), document.FileBytes());
   });
-  EXPECT_LT(20, deleted);
+  EXPECT_LT(50, deleted);
 }
 
 }  // namespace
