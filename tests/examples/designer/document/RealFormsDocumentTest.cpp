@@ -1,6 +1,5 @@
 // Forms from real programs, opened and edited.
 #include "examples/designer/document/DocumentFixture.h"
-
 #include "kt/rtl/streams/FormConversion.h"
 
 #include <QDir>
@@ -110,6 +109,17 @@ TEST_F(RealFormsDocumentTest, OfADeletedComponentExactlyItsLinesGo) {
     EXPECT_EQ(WithoutObject(file, name), document.FileBytes());
   });
   EXPECT_LT(50, deleted);
+}
+
+TEST_F(RealFormsDocumentTest, WhatIsSavedOpensAsTheSameForm) {
+  WithEach([](TFormDocument& document, const QByteArray&) {
+    const auto children = document.ChildrenOf(&document.Form());
+    if (children.empty()) return;
+    document.Delete({children[children.size() / 3]});
+    document.Form().SetCaption(QStringLiteral("changed"));
+    const QByteArray written = document.Written();
+    EXPECT_EQ(written, TFormDocument::Open(document.FileBytes())->Written());
+  });
 }
 
 }  // namespace
