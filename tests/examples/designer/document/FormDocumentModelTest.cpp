@@ -1,10 +1,9 @@
 // Random edits, undone and redone: the states come back byte for byte, and what is saved opens as the same form.
 #include "examples/designer/document/DocumentFixture.h"
-#include "support/ModelRun.h"
-
 #include "kt/vcl/menus/PopupMenu.h"
 #include "kt/vcl/stdctrls/Button.h"
 #include "kt/vcl/stdctrls/ListBox.h"
+#include "support/ModelRun.h"
 
 namespace designer::tests {
 namespace {
@@ -114,7 +113,9 @@ class TDocumentMachine {
 TEST(FormDocumentModelTest, StatesComeBackAndWhatIsSavedOpensAsTheSameForm) {
   kt::RegisterClass(TTestBox::Class());
   for (quint32 seed = 1; seed <= 6; ++seed)
-    TModelRun(ModelSeed(seed), [] { return std::make_unique<TDocumentMachine>(); }, 3000).Run(60);
+    TModelRun(
+        ModelSeed(seed), [] { return std::make_unique<TDocumentMachine>(); }, 3000)
+        .Run(60);
 }
 
 }  // namespace
