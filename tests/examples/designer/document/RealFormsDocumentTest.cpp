@@ -117,8 +117,8 @@ TEST_F(RealFormsDocumentTest, WhatIsSavedOpensAsTheSameForm) {
     if (children.empty()) return;
     document.Delete({children[children.size() / 3]});
     document.Form().SetCaption(QStringLiteral("changed"));
-    const QByteArray written = document.Written();
-    EXPECT_EQ(written, TFormDocument::Open(document.FileBytes())->Written());
+    const QByteArray read = TFormDocument::Open(document.Written())->Written();
+    EXPECT_EQ(read, TFormDocument::Open(document.FileBytes())->Written());
   });
 }
 
