@@ -16,6 +16,7 @@ const TWalkRules& Rules() {
                     {"TForm.ActiveControl", "takes only a control that shows in the form itself"}},
       .Choosy = {{"TDrawGrid.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TGroupBox.TabOrder", "is the place among the parent's controls, and there is no parent"},
+                 {"TPanel.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TButton.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TCheckBox.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TRadioButton.TabOrder", "is the place among the parent's controls, and there is no parent"},
