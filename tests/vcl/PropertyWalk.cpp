@@ -15,13 +15,17 @@ const TWalkRules& Rules() {
                     {"TRadioButton.Action", "is done when Checked changes, and is disabled then for want of a handler"},
                     {"TForm.ActiveControl", "takes only a control that shows in the form itself"}},
       .Choosy = {{"TDrawGrid.TabOrder", "is the place among the parent's controls, and there is no parent"},
+                 {"TGroupBox.TabOrder", "is the place among the parent's controls, and there is no parent"},
+                 {"TPanel.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TButton.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TCheckBox.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TRadioButton.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TListBox.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TMaskEdit.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TMaskEdit.MaxLength", "is the length of the mask, which the walk has set by then"},
-                 {"TMaskEdit.Text", "is what the mask of the walk allows"}}};
+                 {"TMaskEdit.Text", "is what the mask of the walk allows"}},
+      .Derived = {{"TLabel.Width", "is that of the text as soon as a form is loaded"},
+                  {"TLabel.Height", "is that of the text as soon as a form is loaded"}}};
   return rules;
 }
 

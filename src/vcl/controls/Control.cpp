@@ -1,5 +1,7 @@
 #include "kt/vcl/controls/Control.h"
 
+#include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/actions/ControlActionLink.h"
 #include "kt/vcl/controls/DragSession.h"
@@ -8,6 +10,12 @@
 #include "kt/vcl/menus/PopupMenu.h"
 
 namespace kt {
+
+namespace {
+
+const QLatin1StringView SParentRequired{"Control '%s' has no parent window"};
+
+}  // namespace
 
 const TClassInfo* TControl::Class() {
   static const TClassInfo info = TClassBuilder<TControl>("TControl")
@@ -116,6 +124,32 @@ void TControl::SetCursor(TCursor value) {
   if (FCursor == value) return;
   FCursor = value;
   Perform(CM_CURSORCHANGED);
+}
+
+void TControl::CMCursorChanged(TMessage&) {
+  if (FParent) FParent->ChildCursorChanged(*this);
+}
+
+void TControl::SetZOrder(bool isTopmost) {
+  if (FParent) FParent->SetChildOrder(this, isTopmost ? FParent->GetControlCount() : 0);
+}
+
+bool TControl::ShowsInParent() const {
+  return FVisible || (HasState(csDesigning) && !FControlStyle.Has(csNoDesignVisible));
+}
+
+void TControl::InvalidateInParent(const QRect& place) {
+  if (FParent) FParent->InvalidateRect(place);
+}
+
+QPoint TControl::ClientToScreen(QPoint point) {
+  if (!FParent) throw EInvalidOperation(Format(SParentRequired, {GetName()}));
+  return FParent->ClientToScreen(point + QPoint(FLeft, FTop));
+}
+
+QPoint TControl::ScreenToClient(QPoint point) {
+  if (!FParent) throw EInvalidOperation(Format(SParentRequired, {GetName()}));
+  return FParent->ScreenToClient(point) - QPoint(FLeft, FTop);
 }
 
 void TControl::SetShowHint(bool value) {

@@ -16,6 +16,8 @@
 
 #include <memory>
 
+class QPainter;
+
 namespace kt {
 
 class TBasicAction;
@@ -70,6 +72,9 @@ class TControl : public TComponent {
   virtual void SetParent(TWinControl* value);
   TComponent* GetParentComponent() override;
   bool HasParent() override { return FParent != nullptr; }
+  /// Over or below all other children of the parent. Those with a window are always over those without.
+  void BringToFront() { SetZOrder(true); }
+  void SendToBack() { SetZOrder(false); }
 
   // Look.
   TColor GetColor() const { return FColor; }
@@ -102,6 +107,10 @@ class TControl : public TComponent {
   virtual void Repaint() {}
   /// Does at once what Invalidate() asked for.
   virtual void Update() {}  // NOLINT(bugprone-virtual-near-miss): the framework's name
+  /// Between places of the client area and of the screen. Raise EInvalidOperation "Control '%s' has no parent window"
+  /// for a control that has no window, neither its own nor a parent's.
+  virtual QPoint ClientToScreen(QPoint point);
+  virtual QPoint ScreenToClient(QPoint point);
 
   // Hints and help.
   const QString& GetHint() const { return FHint; }
@@ -216,6 +225,15 @@ class TControl : public TComponent {
   void Notification(TComponent* component, TOperation operation) override;
   void SetParentComponent(TComponent* value) override;
 
+  virtual void SetZOrder(bool isTopmost);
+  /// Whether the parent shows it: what is not Visible shows in a designer all the same, unless it does not want to.
+  bool ShowsInParent() const;
+  /// For controls without a window: draws them into that of the parent. `painter` is clipped to what is to be seen of
+  /// the control and starts at its top left; `clip`, in the control, is what is needed of it.
+  virtual void PaintInWindow(QPainter&, const QRect& /*clip*/) {}
+  /// Asks the parent for a paint of a place in its client area.
+  void InvalidateInParent(const QRect& place);
+
   /// The one way that every message takes; overrides see them first.
   virtual void WndProc(TMessage& message);
 
@@ -269,11 +287,15 @@ class TControl : public TComponent {
   virtual void CMEnabledChanged(TMessage&) { Invalidate(); }
   virtual void CMVisibleChanged(TMessage&) {}
   virtual void CMShowHintChanged(TMessage&) {}
-  virtual void CMCursorChanged(TMessage&) {}
+  virtual void CMCursorChanged(TMessage& message);
   virtual void CMTextChanged(TMessage&) {}
   virtual void CMMouseEnter(TMessage&) { OnMouseEnter(this); }
   virtual void CMMouseLeave(TMessage&) { OnMouseLeave(this); }
   virtual void CMCancelMode(TMessage&) {}
+  /// A letter together with Alt. Result 1: it was meant for the control.
+  virtual void CMDialogChar(TMessage&) {}
+  /// Result 1: a menu was open, or a handler has seen to it.
+  virtual void WMContextMenu(TMessage& message);
 
   TControlStyle FControlStyle = {csCaptureMouse, csClickEvents, csSetCaption, csDoubleClicks};
   TControlState FControlState;

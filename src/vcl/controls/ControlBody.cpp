@@ -112,21 +112,21 @@ bool TControlBody::Translate(QEvent* event) {
       // It was never away.
       if (std::exchange(FHasKeptPointer, false)) return false;
       PointerCameTo(*FWidget);
-      if (FControl) FControl->Perform(CM_MOUSEENTER);
+      if (FControl) FControl->PointerCame(InClient(static_cast<QEnterEvent*>(event)->position()));
       return false;
     case QEvent::Leave:
       FHasKeptPointer = FControl->KeepsPointer();
       if (FHasKeptPointer) return false;
       HideControlHint();
       HintControlChanged(FControl->GetParent());
-      if (FControl) FControl->Perform(CM_MOUSELEAVE);
+      if (FControl) FControl->PointerWent();
       PointerWentFrom(*FWidget);
       return false;
     case QEvent::ToolTip: {
       // Qt's own pause may be shorter than the program's.
       if (IsHintWaiting()) return true;
       const auto* help = static_cast<QHelpEvent*>(event);
-      ShowControlHint(*FControl, help->pos() - FControl->GetClientOrigin(), help->globalPos());
+      ShowHintAt(*FControl, InClient(help->pos()), help->globalPos());
       return true;
     }
     default:
@@ -136,14 +136,15 @@ bool TControlBody::Translate(QEvent* event) {
 
 void TControlBody::PointerCameTo(const QWidget& child) {
   const TControlBody* const body = child.isWindow() ? nullptr : Of(child.parentWidget());
-  if (body && body->FControl) body->FControl->Perform(CM_MOUSELEAVE);
+  if (body && body->FControl) body->FControl->PointerWent();
 }
 
 void TControlBody::PointerWentFrom(const QWidget& child) {
   QWidget* const parent = child.isWindow() ? nullptr : child.parentWidget();
   const TControlBody* const body = Of(parent);
-  if (!body || !body->FControl || !parent->rect().contains(parent->mapFromGlobal(QCursor::pos()))) return;
-  body->FControl->Perform(CM_MOUSEENTER);
+  if (!body || !body->FControl) return;
+  const QPoint place = parent->mapFromGlobal(QCursor::pos());
+  if (parent->rect().contains(place)) body->FControl->PointerCame(body->InClient(place));
 }
 
 bool TControlBody::MoveFocusPastOwner(bool next) {
@@ -161,9 +162,13 @@ bool TControlBody::MoveFocusPastOwner(bool next) {
 }
 
 bool TControlBody::Paint(QEvent* event) {
-  FControl->PaintWindow(static_cast<QPaintEvent*>(event)->rect());
+  const QRect clip = static_cast<QPaintEvent*>(event)->rect();
+  FControl->PaintWindow(clip);
+  if (FControl) FControl->PaintControls(clip);
   return true;
 }
+
+QPoint TControlBody::InClient(QPointF place) const { return place.toPoint() - FControl->GetClientOrigin(); }
 
 void TControlBody::Geometry() {
   if (FControl) FControl->WindowMoved(FWidget->geometry());

@@ -3,6 +3,8 @@
 #include "kt/vcl/controls/WinControl.h"
 
 #include <QEvent>
+#include <QPoint>
+#include <QPointF>
 #include <QWidget>
 
 #include <functional>
@@ -90,6 +92,8 @@ class TControlBody {
   void Focus(QFocusEvent* event);
   bool Input(QInputMethodEvent* event);
   void Geometry();
+  /// A place of the widget in the client area.
+  QPoint InClient(QPointF place) const;
   bool SendMouse(quint32 msg, QMouseEvent* event);
 
   /// Whose widget got the press of the button that is held, or null.

@@ -43,6 +43,15 @@ bool IsSpecialKey(quint16 key) {
   return key == VK_TAB || key == VK_RETURN || key == VK_ESCAPE || (key >= VK_LEFT && key <= VK_DOWN);
 }
 
+/// What a key types. Together with Alt some platforms say nothing of it.
+QString TypedText(const QKeyEvent& event) {
+  const bool isLetter = event.key() > Qt::Key_Space && event.key() <= Qt::Key_AsciiTilde;
+  if (event.text().isEmpty() && isLetter && event.modifiers().testFlag(Qt::AltModifier)) {
+    return QString(QChar(event.key())).toLower();
+  }
+  return TControlBody::TypesText(event) ? event.text() : QString();
+}
+
 struct TButtonMessages {
   quint32 Down;
   quint32 Up;
@@ -66,7 +75,7 @@ TButtonMessages MessagesOf(Qt::MouseButton button) {
 
 bool TControlBody::SendMouse(quint32 msg, QMouseEvent* event) {
   if (msg == 0 || !FControl) return false;
-  const QPoint point = event->position().toPoint() - FControl->GetClientOrigin();
+  const QPoint point = InClient(event->position());
   const TMousePlace place(event->globalPosition().toPoint());
   FControl->Perform(msg, ShiftStateOf(event->modifiers(), event->buttons()).Bits(), MessagePoint(point.x(), point.y()));
   return true;
@@ -85,13 +94,17 @@ void TControlBody::Press(QMouseEvent* event) {
 void TControlBody::Release(QMouseEvent* event) {
   if (event->buttons() == Qt::NoButton) ButtonsReleased();
   SendMouse(MessagesOf(event->button()).Up, event);
+  // Qt tells whoever the mouse has left meanwhile.
+  const bool isInside = FWidget->rect().contains(event->position().toPoint());
+  if (FControl && isInside && event->buttons() == Qt::NoButton)
+    FControl->PointerMoved(InClient(event->position()), false);
   event->accept();
 }
 
 void TControlBody::Move(QMouseEvent* event) {
+  if (FControl) FControl->PointerMoved(InClient(event->position()), event->buttons() != Qt::NoButton);
   if (FControl && event->buttons() == Qt::NoButton) {
-    HintMouseMoved(*FControl, event->position().toPoint() - FControl->GetClientOrigin(),
-                   event->globalPosition().toPoint());
+    HintMouseMoved(*FControl, InClient(event->position()), event->globalPosition().toPoint());
   }
   SendMouse(WM_MOUSEMOVE, event);
   event->accept();
@@ -125,8 +138,8 @@ bool TControlBody::Key(QKeyEvent* event) {
   // A key knows the modifiers alone: a mouse button that is held makes no other key of it.
   const qintptr shift = ShiftStateOf(event->modifiers()).Bits();
   bool isTaken = FControl->SendKey(msg, VirtualKeyOf(*event), shift);
-  if (isDown && TypesText(*event)) {
-    const QString text = event->text();
+  const QString text = isDown ? TypedText(*event) : QString();
+  if (!text.isEmpty()) {
     for (QChar character : text) {
       if (FControl && FControl->SendKey(isSystem ? WM_SYSCHAR : WM_CHAR, character.unicode(), shift)) isTaken = true;
     }
@@ -140,7 +153,7 @@ bool TControlBody::Key(QKeyEvent* event) {
 bool TControlBody::Wheel(QWheelEvent* event) {
   const QPoint delta = event->angleDelta();
   const bool isHorizontal = delta.y() == 0;
-  const QPoint point = event->position().toPoint() - FControl->GetClientOrigin();
+  const QPoint point = InClient(event->position());
   event->ignore();
   if (FControl->DoMouseWheel(ShiftStateOf(event->modifiers(), event->buttons()), isHorizontal ? delta.x() : delta.y(),
                              isHorizontal, point)) {

@@ -79,7 +79,8 @@ void TControl::SetAlign(TAlign value) {
   if (FAlign == value) return;
   const TAlign previous = FAlign;
   FAlign = value;
-  if (!HasState(csLoading) && FAnchors == kAnchorAlign[previous]) FAnchors = kAnchorAlign[value];
+  // Forms do not say the anchors that an alignment brings.
+  if (FAnchors == kAnchorAlign[previous]) FAnchors = kAnchorAlign[value];
   RememberAnchorBase();
   RequestAlign();
 }

@@ -60,6 +60,10 @@ void TControl::Dispatch(TMessage& message) {
       return CMMouseLeave(message);
     case CM_CANCELMODE:
       return CMCancelMode(message);
+    case CM_DIALOGCHAR:
+      return CMDialogChar(message);
+    case WM_CONTEXTMENU:
+      return WMContextMenu(message);
     default:
       if (!DispatchMouse(message)) TComponent::Dispatch(message);
   }

@@ -99,13 +99,8 @@ void TWinControl::CMDrag(TMessage& message) {
 }
 
 TControl* TWinControl::ControlAt(QPoint point) {
-  for (auto child = FControls.rbegin(); child != FControls.rend(); ++child) {
-    TControl* const control = *child;
-    const bool isWindow = dynamic_cast<TWinControl*>(control) != nullptr;
-    if (!isWindow && control->IsVisible() && control->IsEnabled() && control->GetBoundsRect().contains(point))
-      return control;
-  }
-  return this;
+  TControl* const child = ControlAtPos(point, false);
+  return child ? child : this;
 }
 
 }  // namespace kt

@@ -37,6 +37,8 @@ inline constexpr quint32 WM_USER = 0x0400;  ///< the first number for a class's 
 inline constexpr quint32 CM_BASE = 0xB000;
 inline constexpr quint32 CM_CANCELMODE = CM_BASE + 4;  ///< LParam: the TControl* that wants the others to let go
 inline constexpr quint32 CM_DIALOGKEY = CM_BASE + 5;   ///< WParam: virtual key code; Result 1: taken
+/// To all of a form: a letter was typed together with Alt. WParam: UTF-16 code unit; Result 1: taken
+inline constexpr quint32 CM_DIALOGCHAR = CM_BASE + 6;
 /// To all of a form; LParam: the TWinControl* that has the keyboard now, or 0
 inline constexpr quint32 CM_FOCUSCHANGED = CM_BASE + 7;
 inline constexpr quint32 CM_PARENTFONTCHANGED = CM_BASE + 8;

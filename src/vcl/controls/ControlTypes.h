@@ -24,6 +24,9 @@ enum TDragKind { dkDrag, dkDock };
 /// How help finds what is to be said: by the word of HelpKeyword, or the number of HelpContext.
 enum THelpType { htKeyword, htContext };
 
+/// Where in its line a text stands.
+enum TAlignment { taLeftJustify, taRightJustify, taCenter };
+
 enum TMouseButton { mbLeft, mbRight, mbMiddle };
 
 /// The keys and buttons that are held while something happens.
@@ -110,6 +113,11 @@ template <>
 struct TEnumNames<TAlign> {
   static constexpr char Name[] = "TAlign";
   static constexpr const char* Values[] = {"alNone", "alTop", "alBottom", "alLeft", "alRight", "alClient", "alCustom"};
+};
+template <>
+struct TEnumNames<TAlignment> {
+  static constexpr char Name[] = "TAlignment";
+  static constexpr const char* Values[] = {"taLeftJustify", "taRightJustify", "taCenter"};
 };
 template <>
 struct TEnumNames<TAnchorKind> {

@@ -23,8 +23,14 @@ void TCustomControl::PaintWindow(const QRect& clip) {
   const QPoint origin = GetClientOrigin();
   painter.translate(origin);
   const QRect visible = clip.translated(-origin).intersected(GetClientRect());
-  if (visible.isEmpty()) return;
-  painter.setClipRect(visible);
+  const QRegion opaque = OpaqueArea().intersected(visible);
+  const QRegion own = QRegion(visible) - opaque;
+  if (own.isEmpty()) return;
+  if (opaque.isEmpty()) {
+    painter.setClipRect(visible);
+  } else {
+    painter.setClipRegion(own);
+  }
   FCanvas->SetPalette(Window()->palette());
   FCanvas->Begin(painter, visible);
   struct TEnd {
@@ -33,7 +39,7 @@ void TCustomControl::PaintWindow(const QRect& clip) {
   } end{*FCanvas};
   FCanvas->SetFont(&GetFont());
   FCanvas->GetBrush().SetColor(GetColor());
-  if (!GetControlStyle().Has(csOpaque)) FCanvas->FillRect(visible);
+  if (FillsGround()) FCanvas->FillRect(visible);
   Paint();
 }
 

@@ -26,6 +26,8 @@ class TCustomControl : public TWinControl {
 
   /// Draws the client area on the canvas, whose clip is what is needed of it.
   virtual void Paint() {}
+  /// Whether the ground is filled with Color before that; else the parent shows where nothing is drawn.
+  virtual bool FillsGround() const { return !GetControlStyle().Has(csOpaque); }
   /// Draws what surrounds the client area.
   virtual void PaintBorder(QPainter&) {}
 

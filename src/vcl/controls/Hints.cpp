@@ -24,6 +24,12 @@ TControl* ControlWithHint(TControl* control) {
   return control;
 }
 
+/// The control with the window that shows the control.
+TWinControl* WindowOf(TControl& control) {
+  auto* const window = dynamic_cast<TWinControl*>(&control);
+  return window ? window : control.GetParent();
+}
+
 /// The word of the control's action.
 bool AllowsHint(const TControl& control, QString& hint) {
   const TControlActionLink* link = control.GetActionLink();
@@ -36,7 +42,7 @@ QString GetShortHint(const QString& hint) { return hint.section(u'|', 0, 0); }
 
 QString GetLongHint(const QString& hint) { return hint.contains(u'|') ? hint.section(u'|', 1) : hint; }
 
-void ShowControlHint(TWinControl& control, QPoint clientPos, QPoint screenPos) {
+void ShowControlHint(TControl& control, QPoint clientPos, QPoint screenPos) {
   TApplication& application = Application();
   THintInfo info{&control, {}, screenPos, clientPos, control.GetClientRect()};
   info.HintColor = application.GetHintColor();
@@ -46,15 +52,21 @@ void ShowControlHint(TWinControl& control, QPoint clientPos, QPoint screenPos) {
   bool isAllowed = application.IsShowHint() && control.IsShowHint() && AllowsHint(control, info.HintStr) &&
                    life.IsAlive() && control.Perform(CM_HINTSHOW, 0, PointerMessage(&info)) == 0 && life.IsAlive();
   if (isAllowed) application.OnShowHint(info.HintStr, isAllowed, info);
-  if (!isAllowed || !life.IsAlive() || info.HintStr.isEmpty() || !control.HandleAllocated()) {
-    return QToolTip::hideText();
-  }
+  TWinControl* const window = life.IsAlive() ? WindowOf(control) : nullptr;
+  if (!isAllowed || info.HintStr.isEmpty() || !window || !window->HandleAllocated()) return QToolTip::hideText();
+  if (window != &control) info.CursorRect.translate(control.GetLeft(), control.GetTop());
   QPalette palette = QToolTip::palette();
   palette.setColor(QPalette::ToolTipBase, QtColor(info.HintColor, QGuiApplication::palette()));
   QToolTip::setPalette(palette);
   // Hints are plain texts, whatever they look like.
   const QString text = Qt::mightBeRichText(info.HintStr) ? info.HintStr.toHtmlEscaped() : info.HintStr;
-  QToolTip::showText(info.HintPos, text, control.GetHandle(), info.CursorRect, info.HideTimeout);
+  QToolTip::showText(info.HintPos, text, window->GetHandle(), info.CursorRect, info.HideTimeout);
+}
+
+void ShowHintAt(TWinControl& control, QPoint clientPos, QPoint screenPos) {
+  TControl* const child = control.ControlAtPos(clientPos, true);
+  if (!child) return ShowControlHint(control, clientPos, screenPos);
+  ShowControlHint(*child, clientPos - child->GetBoundsRect().topLeft(), screenPos);
 }
 
 namespace {
@@ -77,7 +89,7 @@ void HintMouseMoved(TWinControl& control, QPoint clientPos, QPoint screenPos) {
   QWidget* const window = control.GetHandle();
   QObject::connect(&timer, &QTimer::timeout, window, [window, clientPos, screenPos] {
     TWinControl* const rested = TControlBody::ControlOf(window);
-    if (rested && window->underMouse()) GuardedCall([&] { ShowControlHint(*rested, clientPos, screenPos); });
+    if (rested && window->underMouse()) GuardedCall([&] { ShowHintAt(*rested, clientPos, screenPos); });
   });
   timer.start(Application().GetHintPause());
 }
@@ -90,7 +102,7 @@ void HideControlHint() {
   QToolTip::hideText();
 }
 
-void HintControlChanged(TWinControl* control) {
+void HintControlChanged(TControl* control) {
   const TControl* source = ControlWithHint(control);
   Application().SetHint(source ? GetLongHint(source->GetHint()) : QString());
 }

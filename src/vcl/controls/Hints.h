@@ -38,9 +38,11 @@ QString GetShortHint(const QString& hint);
 /// The share that a status bar shows: what stands behind the first "|", or all of it.
 QString GetLongHint(const QString& hint);
 
-/// The mouse rests over a window: shows the hint of its control, or of the first parent that has one, unless hints are
-/// off there or the control does not want it.
-void ShowControlHint(TWinControl& control, QPoint clientPos, QPoint screenPos);
+/// The mouse rests over a control: shows its hint, or that of the first parent that has one, unless hints are off there
+/// or the control does not want it.
+void ShowControlHint(TControl& control, QPoint clientPos, QPoint screenPos);
+/// As above for the child without a window that is at that place of `control`, if there is one.
+void ShowHintAt(TWinControl& control, QPoint clientPos, QPoint screenPos);
 /// The mouse has moved within a window: its hint comes when it has rested for as long as the application says.
 void HintMouseMoved(TWinControl& control, QPoint clientPos, QPoint screenPos);
 /// Whether a rest of the mouse is being waited for.
@@ -48,6 +50,6 @@ bool IsHintWaiting();
 /// Takes away what shows, and what is being waited for.
 void HideControlHint();
 /// The mouse has come to a control, or left all of them: tells the application the long hint.
-void HintControlChanged(TWinControl* control);
+void HintControlChanged(TControl* control);
 
 }  // namespace kt

@@ -38,7 +38,8 @@ bool TWinControl::ContainsControl(const TControl* control) const {
 void TWinControl::InsertControl(TControl* control) {
   FControls.push_back(control);
   control->FParent = this;
-  if (auto* window = dynamic_cast<TWinControl*>(control)) {
+  auto* const window = dynamic_cast<TWinControl*>(control);
+  if (window) {
     FTabList.push_back(window);
     window->TakeWindowAlong();
     TabsChanged();
@@ -51,6 +52,7 @@ void TWinControl::InsertControl(TControl* control) {
   }
   control->RememberAnchorBase();
   AlignControl(control);
+  if (!window) control->Invalidate();
   Perform(CM_CONTROLLISTCHANGE, PointerMessage(control), 1);
 }
 
@@ -61,6 +63,8 @@ void TWinControl::RemoveControl(TControl* control) {
   if (auto* window = dynamic_cast<TWinControl*>(control)) {
     window->DestroyHandle();
     std::erase(FTabList, window);
+  } else {
+    control->Invalidate();
   }
   std::erase(FControls, control);
   control->FParent = nullptr;
@@ -121,6 +125,7 @@ void TWinControl::SetChildOrder(TComponent* child, int order) {
   auto* control = dynamic_cast<TControl*>(child);
   if (std::erase(FControls, control) == 0) return;
   FControls.insert(FControls.begin() + std::clamp(order, 0, GetControlCount()), control);
+  if (!dynamic_cast<TWinControl*>(control)) control->Invalidate();
 }
 
 void TWinControl::NotifyControls(quint32 msg) {

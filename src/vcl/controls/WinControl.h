@@ -1,8 +1,10 @@
 #pragma once
 
+#include "kt/rtl/objects/ObjectRef.h"
 #include "kt/vcl/controls/Control.h"
 
 #include <QRect>
+#include <QRegion>
 #include <QWidget>
 
 #include <span>
@@ -32,6 +34,9 @@ class TWinControl : public TControl {
   /// In the order they lie on each other, the lowest first. Raises EListError.
   TControl* GetControls(int index) const;
   bool ContainsControl(const TControl* control) const;
+  /// The topmost child at a place of the client area, or null. Only those without a window count, which lie below the
+  /// others, unless `allowWindows`.
+  TControl* ControlAtPos(QPoint pos, bool allowDisabled, bool allowWindows = false) const;
   void InsertControl(TControl* control);
   void RemoveControl(TControl* control);
 
@@ -61,8 +66,8 @@ class TWinControl : public TControl {
   void Invalidate() override;
   void Repaint() override;
   void Update() override;
-  QPoint ClientToScreen(QPoint point);
-  QPoint ScreenToClient(QPoint point);
+  QPoint ClientToScreen(QPoint point) override;
+  QPoint ScreenToClient(QPoint point) override;
   /// Gets all mouse events until it is released, or another one captures the mouse.
   void SetMouseCapture(bool value);
   bool HasMouseCapture() const;
@@ -98,13 +103,18 @@ class TWinControl : public TControl {
 
   void Destruct() override;
   void Loaded() override;
+  void WndProc(TMessage& message) override;
   void GetChildren(const TGetChildProc& proc, TComponent* root) override;
   void SetChildOrder(TComponent* child, int order) override;
 
   /// Places the aligned and anchored children in `rect`, the client area.
   virtual void AlignControls(QRect& rect);
+  /// Cuts `rect`, the client area, to what aligned children share: a border that the control draws in its client area
+  /// stays free. Places in the client area are counted from its corner all the same.
+  virtual void AdjustClientRect(QRect&) {}
   bool IsAligning() const { return FIsAligning; }
   void BoundsUpdated() override;
+  void SetZOrder(bool isTopmost) override;
   /// Sends a message to all children.
   void NotifyControls(quint32 msg);
 
@@ -125,6 +135,10 @@ class TWinControl : public TControl {
   /// Any event of Qt's that is not turned into a message; true when nothing is left to do.
   virtual bool WindowEvent(QEvent&) { return false; }
   void InvalidateRect(const QRect& clientRect);
+  /// The places of the children with a window, and of those without one that paint every pixel of themselves, in the
+  /// client area: nothing that is drawn there by the control itself will be seen.
+  QRegion WindowsArea() const;
+  QRegion OpaqueArea() const;
   /// The top left of the client area in the window.
   QPoint GetClientOrigin() const;
   /// Brings the children's windows to where the client area is now; to be called when its margins have changed.
@@ -157,13 +171,15 @@ class TWinControl : public TControl {
   /// After a handler the control may be gone; then the answer is true.
   virtual bool DoMouseWheel(TShiftState shift, int delta, bool isHorizontal, QPoint position);
 
+  /// The keyboard goes to the first control in here that the Tab key comes to, or to the first that can have it.
+  void SelectFirst();
+
   /// Whether a menu here or further out has the key as a short cut; clicks its item.
   virtual bool IsMenuKey(quint16 key, TShiftState shift);
   /// Whether an action of this form has the key as a short cut; does it.
   virtual bool IsActionKey(quint16, TShiftState) { return false; }
 
-  /// Result 1: a menu was open, or a handler has seen to it.
-  virtual void WMContextMenu(TMessage& message);
+  void WMContextMenu(TMessage& message) override;
   virtual void CMEnter(TMessage&) { DoEnter(); }
   virtual void CMExit(TMessage&) { DoExit(); }
   virtual void CMShowingChanged(TMessage&) {}
@@ -182,11 +198,29 @@ class TWinControl : public TControl {
   void CMVisibleChanged(TMessage& message) override;
   void CMEnabledChanged(TMessage& message) override;
   void CMCursorChanged(TMessage& message) override;
+  /// Asks all controls in here, till one has taken it.
+  void CMDialogChar(TMessage& message) override;
 
  private:
+  /// Who has heard that the mouse has come: the window's control, a child, or nobody while a button is held elsewhere.
+  enum TPointed { poWindow, poChild, poNobody };
+
   void CMDrag(TMessage& message);
   /// The child without a window at a place of the client area, or this one.
   TControl* ControlAt(QPoint point);
+  // The children without a window.
+  void PaintControls(const QRect& clip);
+  TControl* ControlForMouse(const TMessage& message);
+  void PointerCame(QPoint point);
+  void PointerMoved(QPoint point, bool isButtonHeld);
+  void PointerWent();
+  TControl* PointedNow() const;
+  void PointTo(TControl* control);
+  void ShowPointedCursor();
+  void ChildCursorChanged(const TControl& child);
+  void WMSysChar(TMessage& message);
+  TWinControl* FindFirst(bool tabStopsOnly) const;
+
   void AlignControl(TControl* control);
   void AlignAnchored(const QRect& rect);
   void AlignSide(TAlign align, QRect& rect);
@@ -219,6 +253,10 @@ class TWinControl : public TControl {
   std::vector<TWinControl*> FTabList;
   QWidget* FWindow = nullptr;
   TControlBody* FBody = nullptr;
+  /// The child or control itself that gets the mouse until all buttons are released.
+  TObjectRef FPressed;
+  TObjectRef FPointedChild;
+  TPointed FPointed = poWindow;
   int FTabOrder = -1;
   /// What was turned since the last whole step.
   int FWheelRest = 0;

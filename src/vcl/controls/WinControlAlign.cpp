@@ -71,6 +71,7 @@ void TWinControl::AlignControl(TControl*) {
 
 void TWinControl::AlignControls(QRect& rect) {
   AlignAnchored(rect);
+  AdjustClientRect(rect);
   for (TAlign align : {alTop, alBottom, alLeft, alRight, alClient}) AlignSide(align, rect);
 }
 

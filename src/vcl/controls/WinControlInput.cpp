@@ -37,8 +37,8 @@ void TWinControl::Dispatch(TMessage& message) {
       return WMKillFocus(message);
     case WM_CANCELMODE:
       return WMCancelMode(message);
-    case WM_CONTEXTMENU:
-      return WMContextMenu(message);
+    case WM_SYSCHAR:
+      return WMSysChar(message);
     case CM_ENTER:
       return CMEnter(message);
     case CM_EXIT:
@@ -70,6 +70,21 @@ void TWinControl::Dispatch(TMessage& message) {
 void TWinControl::DispatchDown(TMessage& message) {
   const TLifeWatch self(this);
   for (int i = 0; self.IsAlive() && i < GetControlCount() && message.Result == 0; ++i) GetControls(i)->WndProc(message);
+}
+
+void TWinControl::CMDialogChar(TMessage& message) { DispatchDown(message); }
+
+/// A letter together with Alt; with Ctrl besides it is one that keyboards type that way. What nobody takes is the
+/// window's.
+void TWinControl::WMSysChar(TMessage& message) {
+  const TLifeWatch self(this);
+  const bool isTyped = TShiftState::FromBits(static_cast<quint32>(message.LParam)).Has(ssCtrl);
+  if (!HasState(csDesigning) && message.WParam != u' ' && !isTyped) {
+    TWinControl* top = this;
+    while (top->GetParent()) top = top->GetParent();
+    message.Result = top->Perform(CM_DIALOGCHAR, message.WParam, message.LParam);
+  }
+  if (self.IsAlive() && message.Result == 0) DefaultHandler(message);
 }
 
 void TWinControl::DispatchKey(TMessage& message) {

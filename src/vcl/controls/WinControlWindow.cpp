@@ -173,6 +173,11 @@ void TWinControl::BoundsUpdated() {
   PlaceChildWindows();
 }
 
+void TWinControl::SetZOrder(bool isTopmost) {
+  TControl::SetZOrder(isTopmost);
+  if (HandleAllocated() && GetParent()) isTopmost ? FWindow->raise() : FWindow->lower();
+}
+
 void TWinControl::PlaceChildWindows() {
   if (!HandleAllocated() || std::exchange(FPlacedClient, ClientInWindow()) == ClientInWindow()) return;
   for (TControl* control : FControls) {

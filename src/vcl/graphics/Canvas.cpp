@@ -79,6 +79,8 @@ QRect TCanvas::GetClipRect() {
   return FPainter->hasClipping() ? surface & FPainter->clipBoundingRect().toAlignedRect() : surface;
 }
 
+QPalette TCanvas::GetPalette() const { return FPalette ? *FPalette : QGuiApplication::palette(); }
+
 QColor TCanvas::RealColor(TColor color) const {
   if (FPalette) return QtColor(color, *FPalette);
   return QtColor(color);

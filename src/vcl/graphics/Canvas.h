@@ -94,6 +94,7 @@ class TCanvas : public TPersistent {
   bool IsDrawing() const { return FPainter != nullptr; }
   /// The palette that system colours come from; the application's unless set.
   void SetPalette(const QPalette& palette) { FPalette = palette; }
+  QPalette GetPalette() const;
   /// For what this class cannot draw. The canvas makes no assumption about the painter's state afterwards. Raises
   /// EInvalidOperation "Canvas does not allow drawing".
   QPainter& Painter();

@@ -14,6 +14,12 @@
 
 namespace kt {
 
+const TTypeInfo* LeftRightTypeInfo() {
+  static const TEnumTypeInfo info(QStringLiteral("TLeftRight"),
+                                  {QStringLiteral("taLeftJustify"), QStringLiteral("taRightJustify")});
+  return &info;
+}
+
 const TClassInfo* TButtonControl::Class() {
   static const TClassInfo info = TClassBuilder<TButtonControl>("TButtonControl").Done();
   return &info;

@@ -18,7 +18,7 @@ constexpr char kSetForm[] = R"(object Form1: TForm1
     'two')
   Data = {00FF}
   OnClick = Form1Click
-  object Panel1: TPanel
+  object Panel1: TSidePanel
     Font.Size = 8
     object Button1: TButton
       Caption = 'OK'

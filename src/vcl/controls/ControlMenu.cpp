@@ -1,4 +1,4 @@
-// The pop-up menu of TWinControl.
+// The pop-up menu of TControl.
 #include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/controls/WinControl.h"
 #include "kt/vcl/menus/PopupMenu.h"
@@ -16,7 +16,7 @@ bool TWinControl::IsMenuKey(quint16 key, TShiftState shift) {
   return false;
 }
 
-void TWinControl::WMContextMenu(TMessage& message) {
+void TControl::WMContextMenu(TMessage& message) {
   if (message.Result != 0 || HasState(csDesigning)) return DefaultHandler(message);
   const bool isKey = message.LParam == -1;
   const QPoint client = isKey ? QPoint(-1, -1) : ScreenToClient(PointOfMessage(message.LParam));
@@ -33,6 +33,16 @@ void TWinControl::WMContextMenu(TMessage& message) {
   const QPoint place = isKey ? ClientToScreen({0, 0}) : PointOfMessage(message.LParam);
   message.Result = 1;
   menu->Popup(place.x(), place.y());
+}
+
+/// The child without a window that the mouse is over goes first.
+void TWinControl::WMContextMenu(TMessage& message) {
+  const bool isMouse = message.LParam != -1 && message.Result == 0 && !HasState(csDesigning);
+  TControl* const child = isMouse ? ControlAtPos(ScreenToClient(PointOfMessage(message.LParam)), false) : nullptr;
+  const TLifeWatch self(this);
+  if (child) message.Result = child->Perform(WM_CONTEXTMENU, message.WParam, message.LParam);
+  if (!self.IsAlive()) message.Result = 1;
+  if (!child || message.Result == 0) TControl::WMContextMenu(message);
 }
 
 }  // namespace kt
