@@ -3,13 +3,20 @@
 #include "kt/rtl/objects/ClassRegistry.h"
 #include "kt/vcl/stdctrls/Button.h"
 #include "kt/vcl/stdctrls/CheckBox.h"
+#include "kt/vcl/stdctrls/Edit.h"
 #include "kt/vcl/stdctrls/ListBox.h"
 #include "kt/vcl/stdctrls/RadioButton.h"
 
 namespace kt {
 
 void RegisterStdCtrls() {
-  RegisterClasses({TButton::Class(), TCheckBox::Class(), TListBox::Class(), TRadioButton::Class()});
+  RegisterClasses({
+      TButton::Class(),
+      TCheckBox::Class(),
+      TEdit::Class(),
+      TListBox::Class(),
+      TRadioButton::Class(),
+  });
 }
 
 }  // namespace kt
