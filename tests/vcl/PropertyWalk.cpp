@@ -21,6 +21,7 @@ const TWalkRules& Rules() {
                  {"TListBox.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TMaskEdit.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TEdit.TabOrder", "is the place among the parent's controls, and there is no parent"},
+                 {"TMemo.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TMaskEdit.MaxLength", "is the length of the mask, which the walk has set by then"},
                  {"TMaskEdit.Text", "is what the mask of the walk allows"}}};
   return rules;

@@ -5,6 +5,7 @@
 #include "kt/vcl/stdctrls/CheckBox.h"
 #include "kt/vcl/stdctrls/Edit.h"
 #include "kt/vcl/stdctrls/ListBox.h"
+#include "kt/vcl/stdctrls/Memo.h"
 #include "kt/vcl/stdctrls/RadioButton.h"
 
 namespace kt {
@@ -15,6 +16,7 @@ void RegisterStdCtrls() {
       TCheckBox::Class(),
       TEdit::Class(),
       TListBox::Class(),
+      TMemo::Class(),
       TRadioButton::Class(),
   });
 }
