@@ -3,6 +3,7 @@
 #include "kt/rtl/objects/ClassRegistry.h"
 #include "kt/vcl/stdctrls/Button.h"
 #include "kt/vcl/stdctrls/CheckBox.h"
+#include "kt/vcl/stdctrls/ComboBox.h"
 #include "kt/vcl/stdctrls/Edit.h"
 #include "kt/vcl/stdctrls/ListBox.h"
 #include "kt/vcl/stdctrls/Memo.h"
@@ -14,6 +15,7 @@ void RegisterStdCtrls() {
   RegisterClasses({
       TButton::Class(),
       TCheckBox::Class(),
+      TComboBox::Class(),
       TEdit::Class(),
       TListBox::Class(),
       TMemo::Class(),
