@@ -23,6 +23,7 @@ const TWalkRules& Rules() {
                  {"TEdit.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TMemo.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TComboBox.TabOrder", "is the place among the parent's controls, and there is no parent"},
+                 {"TScrollBar.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TMaskEdit.MaxLength", "is the length of the mask, which the walk has set by then"},
                  {"TMaskEdit.Text", "is what the mask of the walk allows"}}};
   return rules;

@@ -8,6 +8,7 @@
 #include "kt/vcl/stdctrls/ListBox.h"
 #include "kt/vcl/stdctrls/Memo.h"
 #include "kt/vcl/stdctrls/RadioButton.h"
+#include "kt/vcl/stdctrls/ScrollBar.h"
 
 namespace kt {
 
@@ -20,6 +21,7 @@ void RegisterStdCtrls() {
       TListBox::Class(),
       TMemo::Class(),
       TRadioButton::Class(),
+      TScrollBar::Class(),
   });
 }
 
