@@ -1,6 +1,7 @@
 #include "kt/vcl/Registration.h"
 
 #include "kt/vcl/actions/ActionsRegistration.h"
+#include "kt/vcl/comctrls/ComCtrlsRegistration.h"
 #include "kt/vcl/forms/FormsRegistration.h"
 #include "kt/vcl/graphics/GraphicsRegistration.h"
 #include "kt/vcl/menus/MenusRegistration.h"
@@ -14,6 +15,7 @@ void RegisterVisualPlatform() {
   RegisterActions();
   RegisterMenus();
   RegisterStdCtrls();
+  RegisterComCtrls();
 }
 
 }  // namespace kt

@@ -24,6 +24,8 @@ const TWalkRules& Rules() {
                  {"TMemo.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TComboBox.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TScrollBar.TabOrder", "is the place among the parent's controls, and there is no parent"},
+                 {"TProgressBar.TabOrder", "is the place among the parent's controls, and there is no parent"},
+                 {"TTrackBar.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TMaskEdit.MaxLength", "is the length of the mask, which the walk has set by then"},
                  {"TMaskEdit.Text", "is what the mask of the walk allows"}}};
   return rules;
