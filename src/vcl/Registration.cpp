@@ -1,6 +1,7 @@
 #include "kt/vcl/Registration.h"
 
 #include "kt/vcl/actions/ActionsRegistration.h"
+#include "kt/vcl/comctrls/ComCtrlsRegistration.h"
 #include "kt/vcl/extctrls/ExtCtrlsRegistration.h"
 #include "kt/vcl/forms/FormsRegistration.h"
 #include "kt/vcl/graphics/GraphicsRegistration.h"
@@ -16,6 +17,7 @@ void RegisterVisualPlatform() {
   RegisterMenus();
   RegisterStdCtrls();
   RegisterExtCtrls();
+  RegisterComCtrls();
 }
 
 }  // namespace kt

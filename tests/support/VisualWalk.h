@@ -5,6 +5,7 @@
 #include "kt/vcl/controls/DragTypes.h"
 #include "kt/vcl/forms/FormTypes.h"
 #include "kt/vcl/grids/GridTypes.h"
+#include "kt/vcl/stdctrls/ScrollBar.h"
 #include "support/PropertyWalk.h"
 
 /// What the walk over all properties has to know of the visual platform.
@@ -31,7 +32,8 @@ inline std::vector<TClassInfo::TPublishedMethod> VisualHandlers() {
           HandlerOf<TDragDropEvent>(),
           HandlerOf<TDragOverEvent>(),
           HandlerOf<TEndDragEvent>(),
-          HandlerOf<TStartDragEvent>()};
+          HandlerOf<TStartDragEvent>(),
+          HandlerOf<TScrollEvent>()};
 }
 
 }  // namespace kt::tests

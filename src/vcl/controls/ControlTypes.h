@@ -24,9 +24,6 @@ enum TDragKind { dkDrag, dkDock };
 /// How help finds what is to be said: by the word of HelpKeyword, or the number of HelpContext.
 enum THelpType { htKeyword, htContext };
 
-/// Where in its line a text stands.
-enum TAlignment { taLeftJustify, taRightJustify, taCenter };
-
 enum TMouseButton { mbLeft, mbRight, mbMiddle };
 
 /// The keys and buttons that are held while something happens.
@@ -72,6 +69,14 @@ enum TFormBorderStyle { bsNone, bsSingle, bsSizeable, bsDialog, bsToolWindow, bs
 /// The border of a control: bsNone or bsSingle. Published with BorderStyleTypeInfo().
 using TBorderStyle = TFormBorderStyle;
 
+/// The scroll bars of a control.
+enum TScrollStyle { ssNone, ssHorizontal, ssVertical, ssBoth };
+
+/// Where a text stands in its room. From right to left the sides are exchanged.
+enum TAlignment { taLeftJustify, taRightJustify, taCenter };
+/// On which side of a sign its caption stands: taLeftJustify or taRightJustify. Published with LeftRightTypeInfo().
+using TLeftRight = TAlignment;
+
 /// `key` is a virtual key code; a handler that sets it to 0 has consumed it.
 struct TKeyEvent : TEvent<TObject*, quint16&, TShiftState> {
   using TEvent::TEvent;
@@ -115,11 +120,6 @@ struct TEnumNames<TAlign> {
   static constexpr const char* Values[] = {"alNone", "alTop", "alBottom", "alLeft", "alRight", "alClient", "alCustom"};
 };
 template <>
-struct TEnumNames<TAlignment> {
-  static constexpr char Name[] = "TAlignment";
-  static constexpr const char* Values[] = {"taLeftJustify", "taRightJustify", "taCenter"};
-};
-template <>
 struct TEnumNames<TAnchorKind> {
   static constexpr char Name[] = "TAnchorKind";
   static constexpr const char* Values[] = {"akLeft", "akTop", "akRight", "akBottom"};
@@ -152,6 +152,18 @@ struct TEnumNames<TFormBorderStyle> {
   static constexpr const char* Values[] = {"bsNone",   "bsSingle",     "bsSizeable",
                                            "bsDialog", "bsToolWindow", "bsSizeToolWin"};
 };
+template <>
+struct TEnumNames<TScrollStyle> {
+  static constexpr char Name[] = "TScrollStyle";
+  static constexpr const char* Values[] = {"ssNone", "ssHorizontal", "ssVertical", "ssBoth"};
+};
+template <>
+struct TEnumNames<TAlignment> {
+  static constexpr char Name[] = "TAlignment";
+  static constexpr const char* Values[] = {"taLeftJustify", "taRightJustify", "taCenter"};
+};
+/// "TLeftRight", the two sides of TAlignment.
+const TTypeInfo* LeftRightTypeInfo();
 /// "TBorderStyle", the two border styles that controls have.
 const TTypeInfo* BorderStyleTypeInfo();
 

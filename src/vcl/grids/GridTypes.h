@@ -4,6 +4,7 @@
 #include "kt/rtl/typeinfo/Event.h"
 #include "kt/rtl/typeinfo/Set.h"
 #include "kt/rtl/typeinfo/TypeOf.h"
+#include "kt/vcl/controls/ControlTypes.h"
 
 #include <QLatin1StringView>
 #include <QRect>
@@ -49,7 +50,6 @@ enum TGridState { gsNormal, gsSelecting, gsRowSizing, gsColSizing, gsRowMoving, 
 enum TGridDrawStateItem { gdSelected, gdFocused, gdFixed };
 using TGridDrawState = TSet<TGridDrawStateItem>;
 
-enum TScrollStyle { ssNone, ssHorizontal, ssVertical, ssBoth };
 enum TEditStyle { esSimple, esEllipsis, esPickList };
 
 /// A cell: column and row.
@@ -107,11 +107,6 @@ struct TEnumNames<TGridOption> {
                                            "goRowMoving",     "goColMoving",         "goEditing",      "goTabs",
                                            "goRowSelect",     "goAlwaysShowEditor",  "goThumbTracking"};
   static constexpr char SetName[] = "TGridOptions";
-};
-template <>
-struct TEnumNames<TScrollStyle> {
-  static constexpr char Name[] = "TScrollStyle";
-  static constexpr const char* Values[] = {"ssNone", "ssHorizontal", "ssVertical", "ssBoth"};
 };
 template <>
 struct TEnumNames<TEditStyle> {

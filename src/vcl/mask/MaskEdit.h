@@ -40,6 +40,7 @@ class TCustomMaskEdit : public TCustomEdit {
   bool CanUndo() const override;
   /// Takes back the user's last change.
   void Undo() override;
+  void ClearUndo() override;
 
   /// Raises EDBEditError when the user has changed the text and it does not fulfil the mask; then the caret stands at
   /// the fault and the keyboard comes here. At design time, EMaskError. A mask that is filled from the right first
@@ -113,6 +114,9 @@ class TMaskEdit : public TCustomMaskEdit {
 
  protected:
   explicit TMaskEdit(TComponent* owner = nullptr) : TCustomMaskEdit(owner) {}
+
+  void CreateWnd() override;
+  void CMBiDiModeChanged(TMessage& message) override;
 };
 
 }  // namespace kt

@@ -1,6 +1,6 @@
 // What masked lines of text publish.
-#include "kt/vcl/controls/Publish.h"
 #include "kt/vcl/mask/MaskEdit.h"
+#include "kt/vcl/stdctrls/PublishEdit.h"
 
 namespace kt {
 
@@ -19,9 +19,11 @@ const TClassInfo* TMaskEdit::Class() {
     Publish::Action(builder);
     Publish::Align(builder);
     Publish::Anchors(builder);
+    Publish::AutoSelect(builder);
+    Publish::AutoSize(builder);
     Publish::BiDiMode(builder);
-    builder.Property<&TCustomEdit::GetBorderStyle, &TCustomEdit::SetBorderStyle>("BorderStyle", &BorderStyleTypeInfo)
-        .Default(bsSingle);
+    Publish::EditBorderStyle(builder);
+    Publish::CharCase(builder);
     Publish::Color(builder, clWindow);
     Publish::Constraints(builder);
     Publish::DragCursor(builder);
@@ -37,8 +39,9 @@ const TClassInfo* TMaskEdit::Class() {
     Publish::ParentColor(builder, false);
     Publish::ParentFont(builder);
     Publish::ParentShowHint(builder);
+    Publish::PasswordChar(builder);
     Publish::PopupMenu(builder);
-    builder.Property<&TMaskEdit::IsReadOnly, &TMaskEdit::SetReadOnly>("ReadOnly").Default(false);
+    Publish::ReadOnly(builder);
     Publish::ShowHint(builder);
     Publish::TabOrder(builder);
     Publish::TabStop(builder, true);
@@ -52,6 +55,16 @@ const TClassInfo* TMaskEdit::Class() {
     return builder.Creatable().Done();
   }();
   return &info;
+}
+
+void TMaskEdit::CreateWnd() {
+  TCustomMaskEdit::CreateWnd();
+  UpdateDirection();
+}
+
+void TMaskEdit::CMBiDiModeChanged(TMessage& message) {
+  TCustomMaskEdit::CMBiDiModeChanged(message);
+  UpdateDirection();
 }
 
 }  // namespace kt

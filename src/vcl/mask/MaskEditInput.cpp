@@ -94,6 +94,11 @@ void TCustomMaskEdit::Undo() {
   Perform(CM_TEXTCHANGED, kTextHasChanged);
 }
 
+void TCustomMaskEdit::ClearUndo() {
+  FUndoSteps.clear();
+  TCustomEdit::ClearUndo();
+}
+
 void TCustomMaskEdit::DefaultHandler(TMessage& message) {
   if (IsMasked() && HandleKey(message)) return;
   const TLifeWatch self(this);

@@ -14,12 +14,6 @@
 
 namespace kt {
 
-const TTypeInfo* LeftRightTypeInfo() {
-  static const TEnumTypeInfo info(QStringLiteral("TLeftRight"),
-                                  {QStringLiteral("taLeftJustify"), QStringLiteral("taRightJustify")});
-  return &info;
-}
-
 const TClassInfo* TButtonControl::Class() {
   static const TClassInfo info = TClassBuilder<TButtonControl>("TButtonControl").Done();
   return &info;

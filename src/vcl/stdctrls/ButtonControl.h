@@ -6,12 +6,6 @@ class QAbstractButton;
 
 namespace kt {
 
-/// On which side of the sign the caption stands. From right to left the sides are exchanged.
-/// taLeftJustify or taRightJustify; published with LeftRightTypeInfo().
-using TLeftRight = TAlignment;
-/// "TLeftRight", the two that there are of it.
-const TTypeInfo* LeftRightTypeInfo();
-
 /// Something with a caption that is clicked by mouse or by key. Its window is one of Qt's buttons, which draws it and
 /// knows the keys; an "&" in the caption marks the letter that clicks it together with Alt.
 class TButtonControl : public TWinControl {

@@ -1,31 +1,25 @@
 #include "kt/vcl/stdctrls/CustomEdit.h"
 
-#include "kt/rtl/objects/Make.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/controls/ControlBody.h"
 #include "kt/vcl/controls/VirtualKeys.h"
-#include "kt/vcl/graphics/RealFont.h"
-#include "kt/vcl/stdctrls/WindowColors.h"
+#include "kt/vcl/stdctrls/EditLine.h"
 
+#include <QCoreApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
-#include <QPainter>
 
 #include <algorithm>
 
 namespace kt {
 
-namespace {
-
-/// What Qt's line editor takes for "any number".
-constexpr int kAnyLength = 32767;
-/// The room that it always leaves around its text, besides its margins.
-constexpr int kInnerX = 2;
-constexpr int kInnerY = 1;
-
-int WindowLength(int maxLength) { return maxLength > 0 ? maxLength : kAnyLength; }
-
-}  // namespace
+QString InCharCase(const QString& text, TEditCharCase charCase) {
+  if (charCase == ecNormal) return text;
+  QString result = text;
+  for (QChar& character : result) character = charCase == ecUpperCase ? character.toUpper() : character.toLower();
+  return result;
+}
 
 const TClassInfo* TCustomEdit::Class() {
   static const TClassInfo info = TClassBuilder<TCustomEdit>("TCustomEdit").Done();
@@ -36,12 +30,15 @@ void TCustomEdit::Construct() {
   TWinControl::Construct();
   SetParentColor(false);
   SetTabStop(true);
-  SetBounds(0, 0, 121, 25);
+  SetBounds(0, 0, 121, 21);
 }
 
+QLineEdit* TCustomEdit::LineEdit() const { return dynamic_cast<QLineEdit*>(Window()); }
+
+TEditWidget* TCustomEdit::Editor() const { return TEditWidget::Of(Window()); }
+
 QWidget* TCustomEdit::CreateBody(QWidget* parent) {
-  auto* line = new TBodyOf<QLineEdit>(this, parent);
-  FLineEdit = line;
+  auto* line = new TBodyOf<TEditLine>(this, parent);
   // What they tell may be outdated: whoever heard of the change first can have taken it back.
   QObject::connect(line, &QLineEdit::textEdited, line, [this, line] {
     if (line->Control()) GuardedCall([&] { WindowTextChanged(line->text(), true); });
@@ -54,70 +51,57 @@ QWidget* TCustomEdit::CreateBody(QWidget* parent) {
 
 void TCustomEdit::CreateWnd() {
   TWinControl::CreateWnd();
-  FLineEdit->setFrame(FBorderStyle == bsSingle);
+  TEditWidget& editor = *Editor();
+  editor.SetBordered(FBorderStyle == bsSingle);
   UpdateMaxLength();
-  FLineEdit->setReadOnly(FReadOnly);
-  FLineEdit->setAccessibleName(FAccessibleName);
-  FLineEdit->setContextMenuPolicy(Qt::DefaultContextMenu);
+  editor.SetUserReadOnly(FReadOnly);
+  editor.SetSelectionKept(!FHideSelection);
+  editor.SetSelectingAll(FAutoSelect);
+  if (auto* line = dynamic_cast<TEditLine*>(&editor); line && !FPasswordChar.isNull()) {
+    line->SetMaskCharacter(FPasswordChar);
+  }
+  Window()->setAccessibleName(FAccessibleName);
+  Window()->setContextMenuPolicy(Qt::DefaultContextMenu);
   ShowText();
-  FLineEdit->setModified(FModified);
+  editor.SetShownModified(FModified);
   Select(FSelStart, FSelStart + FSelLength);
   UpdateColors();
+  FitHeight();
 }
 
 void TCustomEdit::DestroyWnd() {
   FSelStart = GetSelStart();
   FSelLength = GetSelLength();
-  FLineEdit = nullptr;
   TWinControl::DestroyWnd();
 }
 
-void TCustomEdit::PaintWindow(const QRect& clip) {
-  TWinControl::PaintWindow(clip);
-  if (!HasOverlay()) return;
-  if (!FCanvas) FCanvas = Make<TCanvas>();
-  QPainter painter(Window());
-  FCanvas->SetPalette(Window()->palette());
-  FCanvas->Begin(painter, clip);
-  struct TEnd {
-    TCanvas& Canvas;
-    ~TEnd() { Canvas.End(); }
-  } end{*FCanvas};
-  FCanvas->SetFont(&GetFont());
-  PaintOver(*FCanvas);
+void TCustomEdit::SetAutoSelect(bool value) {
+  FAutoSelect = value;
+  if (Editor()) Editor()->SetSelectingAll(value);
 }
 
-void TCustomEdit::UpdateColors() {
-  if (!FLineEdit || !HandleAllocated()) return;
-  FLineEdit->setFont(QtFont(GetFont()));
-  const bool outer = std::exchange(FIsUpdatingColors, true);
-  FLineEdit->setPalette(PaletteOf(*FLineEdit, GetColor(), GetFont().GetColor()));
-  FIsUpdatingColors = outer;
+void TCustomEdit::SetCharCase(TEditCharCase value) {
+  if (FCharCase == value) return;
+  FCharCase = value;
+  SetText(InCharCase(GetText(), value));
 }
 
-bool TCustomEdit::WindowEvent(QEvent& event) {
-  const bool isPaletteChange = event.type() == QEvent::PaletteChange && !FIsUpdatingColors && FLineEdit;
-  // System colours are other ones now. What somebody else has set besides is left to him.
-  if (isPaletteChange && !HasColors(*FLineEdit, GetColor(), GetFont().GetColor())) UpdateColors();
-  return TWinControl::WindowEvent(event);
+bool TCustomEdit::CameByMouse() const {
+  const TControlBody* body = TControlBody::Of(Window());
+  const QEvent* event = body ? body->CurrentEvent() : nullptr;
+  return event && event->type() == QEvent::FocusIn &&
+         static_cast<const QFocusEvent*>(event)->reason() == Qt::MouseFocusReason;
 }
 
-void TCustomEdit::CMFontChanged(TMessage& message) {
-  TWinControl::CMFontChanged(message);
-  UpdateColors();
+void TCustomEdit::CMEnter(TMessage& message) {
+  if (FAutoSelect && !CameByMouse() && !HasState(csDesigning)) SelectAll();
+  TWinControl::CMEnter(message);
 }
-
-void TCustomEdit::CMColorChanged(TMessage& message) {
-  TWinControl::CMColorChanged(message);
-  UpdateColors();
-}
-
-void TCustomEdit::CMCursorChanged(TMessage&) { ShowCursor(GetCursor() == crDefault ? crIBeam : GetCursor()); }
 
 void TCustomEdit::SetAccessibleName(const QString& value) {
   if (FAccessibleName == value) return;
   FAccessibleName = value;
-  if (FLineEdit) FLineEdit->setAccessibleName(value);
+  if (Window()) Window()->setAccessibleName(value);
 }
 
 void TCustomEdit::CMTextChanged(TMessage& message) {
@@ -127,22 +111,23 @@ void TCustomEdit::CMTextChanged(TMessage& message) {
 }
 
 void TCustomEdit::SetText(const QString& value) {
-  if (GetText() == value) return;
-  SetTextSilently(value);
+  const QString text = InCharCase(value, FCharCase);
+  if (GetText() == text) return;
+  SetTextSilently(text);
   Perform(CM_TEXTCHANGED, kTextHasChanged);
 }
 
 void TCustomEdit::SetWindowText(const QString& value) {
-  StoreText(value);
+  StoreWindowText(value);
   FModified = false;
-  FSelStart = std::min<int>(FSelStart, static_cast<int>(value.size()));
+  FSelStart = std::min<int>(FSelStart, static_cast<int>(WindowText().size()));
   FSelLength = 0;
-  if (FLineEdit) ShowText();
+  if (Editor()) ShowText();
 }
 
 void TCustomEdit::ShowText() {
   const bool outer = std::exchange(FIsSettingText, true);
-  FLineEdit->setText(WindowText());
+  Editor()->ShowText(WindowText());
   FIsSettingText = outer;
 }
 
@@ -150,19 +135,28 @@ void TCustomEdit::WindowTextChanged(const QString& text, bool byUser) {
   if (byUser) FModified = true;
   // The editor says both that its text was changed, and that its user did it.
   if (WindowText() == text) return;
-  FModified = FModified || FLineEdit->isModified();
-  StoreText(text);
+  FModified = FModified || Editor()->IsShownModified();
+  StoreWindowText(InCharCase(text, FCharCase));
+  if (WindowText() != text) ShowInCharCase();
   Perform(CM_TEXTCHANGED, kTextHasChanged);
+}
+
+/// Letters came past the keys, pasted or dropped.
+void TCustomEdit::ShowInCharCase() {
+  const int caret = Editor()->GetShownCaret();
+  ShowText();
+  Editor()->SetShownModified(FModified);
+  Select(caret, caret);
 }
 
 void TCustomEdit::SetModified(bool value) {
   FModified = value;
-  if (FLineEdit) FLineEdit->setModified(value);
+  if (Editor()) Editor()->SetShownModified(value);
 }
 
 void TCustomEdit::SetReadOnly(bool value) {
   FReadOnly = value;
-  if (FLineEdit && FLineEdit->isReadOnly() != value) FLineEdit->setReadOnly(value);
+  if (Editor()) Editor()->SetUserReadOnly(value);
 }
 
 void TCustomEdit::SetMaxLength(int value) {
@@ -171,22 +165,7 @@ void TCustomEdit::SetMaxLength(int value) {
 }
 
 void TCustomEdit::UpdateMaxLength() {
-  if (FLineEdit) FLineEdit->setMaxLength(WindowLength(GetWindowMaxLength()));
-}
-
-void TCustomEdit::SetBorderStyle(TBorderStyle value) {
-  FBorderStyle = value;
-  if (FLineEdit) FLineEdit->setFrame(value == bsSingle);
-}
-
-void TCustomEdit::SetFormatRect(const QRect& rect) {
-  if (!FLineEdit) return;
-  const Qt::Alignment alignment = Qt::AlignTop | (UseRightToLeftAlignment() ? Qt::AlignRight : Qt::AlignLeft);
-  const QMargins margins(rect.left() - kInnerX, rect.top() - kInnerY, GetWidth() - rect.left() - rect.width() - kInnerX,
-                         0);
-  // Qt repaints for each of them, also when nothing is different.
-  if (FLineEdit->alignment() != alignment) FLineEdit->setAlignment(alignment);
-  if (FLineEdit->textMargins() != margins) FLineEdit->setTextMargins(margins);
+  if (Editor()) Editor()->SetUserLimit(GetWindowMaxLength());
 }
 
 bool TCustomEdit::WantsKey(quint16 key) { return (key >= VK_LEFT && key <= VK_DOWN) || TWinControl::WantsKey(key); }
@@ -198,30 +177,46 @@ void TCustomEdit::DefaultHandler(TMessage& message) {
     SetTextSilently(*MessagePointer<const QString>(message.LParam));
     return SetModified(isModified);
   }
-  if (FLineEdit && message.Msg >= WM_MOUSEMOVE && message.Msg <= WM_MBUTTONDBLCLK) {
-    return TControlBody::Of(FLineEdit)->RunInherited();
-  }
+  TControlBody* body = TControlBody::Of(Window());
+  if (!body) return;
+  if (message.Msg >= WM_MOUSEMOVE && message.Msg <= WM_MBUTTONDBLCLK) return body->RunInherited();
   const bool isCharacter = message.Msg == WM_CHAR;
-  if (!FLineEdit || (!isCharacter && message.Msg != WM_KEYDOWN && message.Msg != WM_SYSKEYDOWN)) return;
-  auto* body = TControlBody::Of(FLineEdit);
+  if (!isCharacter && message.Msg != WM_KEYDOWN && message.Msg != WM_SYSKEYDOWN) return;
   const QEvent* event = body->CurrentEvent();
   const bool isKey = event && event->type() == QEvent::KeyPress;
   const QString text = isKey ? static_cast<const QKeyEvent*>(event)->text() : QString();
   // Keys that type do it with their character, which a handler may have changed.
   if (!isCharacter && isKey && !TControlBody::TypesText(*static_cast<const QKeyEvent*>(event))) body->RunInherited();
   if (!isCharacter) return;
-  const QChar character(static_cast<char16_t>(message.WParam));
-  if (isKey && text.contains(character)) {
+  const QString typed = InCharCase(QString(QChar(static_cast<char16_t>(message.WParam))), FCharCase);
+  const auto shift = TShiftState::FromBits(static_cast<quint32>(message.LParam));
+  const bool isCommand = isKey && shift.Has(ssCtrl) && !shift.Has(ssAlt);
+  if (isKey && (isCommand || text.contains(typed)) && TypesByItself(typed.front())) {
     body->RunInherited();
   } else {
-    TypeCharacter(character);
+    TypeCharacter(typed.front());
   }
+}
+
+bool TCustomEdit::IsDesigned(const TMessage& message) const {
+  const bool isMouse = message.Msg >= WM_MOUSEMOVE && message.Msg <= WM_MBUTTONDBLCLK;
+  const bool isKey = message.Msg >= WM_KEYDOWN && message.Msg <= WM_SYSCHAR;
+  return (isMouse || isKey) && HasState(csDesigning);
 }
 
 void TCustomEdit::TypeCharacter(QChar character) {
   if (FReadOnly) return;
-  if (character == u'\b') return FLineEdit->backspace();
-  if (character.isPrint() || character.isSurrogate()) FLineEdit->insert(QString(character));
+  if (character == u'\b') return Editor()->TypeBackspace();
+  if (character.isPrint() || character.isSurrogate()) Editor()->TypeText(QString(character));
+}
+
+bool TCustomEdit::InputText(const QString& text) {
+  const QString cased = InCharCase(text, FCharCase);
+  if (cased == text || !Window()) return false;
+  QInputMethodEvent committed;
+  committed.setCommitString(cased);
+  QCoreApplication::sendEvent(Window(), &committed);
+  return true;
 }
 
 }  // namespace kt

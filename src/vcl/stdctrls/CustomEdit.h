@@ -3,12 +3,25 @@
 #include "kt/vcl/controls/WinControl.h"
 #include "kt/vcl/graphics/Canvas.h"
 
-#include <QLineEdit>
-#include <QPointer>
+#include <QPalette>
 
 #include <memory>
 
+class QLineEdit;
+
 namespace kt {
+
+class TEditWidget;
+
+/// Which letters an edit has.
+enum TEditCharCase { ecNormal, ecUpperCase, ecLowerCase };
+template <>
+struct TEnumNames<TEditCharCase> {
+  static constexpr char Name[] = "TEditCharCase";
+  static constexpr const char* Values[] = {"ecNormal", "ecUpperCase", "ecLowerCase"};
+};
+/// A text in these letters; as long as it was.
+QString InCharCase(const QString& text, TEditCharCase charCase);
 
 /// A line of text that can be edited. Its window is Qt's line editor, which brings clipboard, undo and input methods.
 class TCustomEdit : public TWinControl {
@@ -30,6 +43,24 @@ class TCustomEdit : public TWinControl {
   virtual void SetMaxLength(int value);
   TBorderStyle GetBorderStyle() const { return FBorderStyle; }
   void SetBorderStyle(TBorderStyle value);
+  /// Whether all of the text is selected when the keyboard comes here, unless the mouse brought it.
+  bool IsAutoSelect() const { return FAutoSelect; }
+  void SetAutoSelect(bool value);
+  /// Whether the height follows the font: of an edit with a border, in a parent, from when it has a window.
+  bool IsAutoSize() const { return FAutoSize; }
+  void SetAutoSize(bool value);
+  /// Which letters the text has, whoever sets or types it. What is there is turned into them. Masks go before it.
+  TEditCharCase GetCharCase() const { return FCharCase; }
+  void SetCharCase(TEditCharCase value);
+  /// Whether the selection shows only while the keyboard is here. It is there all the same.
+  bool IsHideSelection() const { return FHideSelection; }
+  void SetHideSelection(bool value);
+  /// Kept for forms that say it. Texts are Unicode: there is no other character set that they have to fit.
+  bool IsOEMConvert() const { return FOEMConvert; }
+  void SetOEMConvert(bool value) { FOEMConvert = value; }
+  /// What is shown for each character; #0 shows them. A text that does not show is not copied either.
+  QChar GetPasswordChar() const { return FPasswordChar; }
+  void SetPasswordChar(QChar value);
 
   // Selection, in characters from 0; positions outside the text are cut to it.
   int GetSelStart() const;
@@ -50,6 +81,12 @@ class TCustomEdit : public TWinControl {
   void ClearSelection() { SetSelText({}); }
   virtual bool CanUndo() const;
   virtual void Undo();
+  /// What was typed until now cannot be taken back any more.
+  virtual void ClearUndo();
+  /// Nothing happens without a selection or without a clipboard, as in a program without windows.
+  void CopyToClipboard();
+  void CutToClipboard();
+  void PasteFromClipboard();
 
   void DefaultHandler(TMessage& message) override;
 
@@ -67,12 +104,14 @@ class TCustomEdit : public TWinControl {
   explicit TCustomEdit(TComponent* owner = nullptr) : TWinControl(owner) {}
 
   void Construct() override;
+  void Loaded() override;
   QWidget* CreateBody(QWidget* parent) override;
   void CreateWnd() override;
   void DestroyWnd() override;
   void PaintWindow(const QRect& clip) override;
   bool WindowEvent(QEvent& event) override;
-  bool InputText(const QString&) override { return false; }
+  bool InputText(const QString& text) override;
+  void CMEnter(TMessage& message) override;
   void CMTextChanged(TMessage& message) override;
   void CMFontChanged(TMessage& message) override;
   void CMColorChanged(TMessage& message) override;
@@ -90,7 +129,8 @@ class TCustomEdit : public TWinControl {
   /// Sets the text without telling anybody.
   virtual void SetTextSilently(const QString& value) { SetWindowText(value); }
   /// The text as the window shows it, which selection and caret belong to.
-  const QString& WindowText() const { return TWinControl::GetText(); }
+  virtual const QString& WindowText() const { return TWinControl::GetText(); }
+  virtual void StoreWindowText(const QString& value) { StoreText(value); }
   /// Changes it without telling anybody; the text is not modified then.
   void SetWindowText(const QString& value);
   /// The text in the window has been changed, by its user or by the program; `text` is the new one.
@@ -99,17 +139,32 @@ class TCustomEdit : public TWinControl {
   virtual int GetWindowMaxLength() const { return FMaxLength; }
   /// Where a caret without selection comes to stand that is put to a position in the text.
   virtual int CaretPlace(int position) const { return position; }
+  /// Whether the window knows what to do with a key that types a character.
+  virtual bool TypesByItself(QChar) const { return true; }
+  /// What the window does with a character that no key of its own has typed.
+  virtual void TypeCharacter(QChar character);
+  virtual QPalette WindowPalette() const;
+  /// Whether the window shows the colours of that palette that may have become other ones.
+  virtual bool HasWindowColors() const;
+  /// Gives the window the font and the colours.
+  void UpdateColors();
+  /// Whether it is a key or the mouse in a designer, who does not type in what is designed.
+  bool IsDesigned(const TMessage& message) const;
+  /// Which side the text of a line begins at.
+  void UpdateDirection();
   /// Null without a window.
-  QLineEdit* LineEdit() const { return FLineEdit; }
+  QLineEdit* LineEdit() const;
+  TEditWidget* Editor() const;
+  /// The window is being told its text.
+  bool IsSettingText() const { return FIsSettingText; }
 
  private:
   void ShowText();
+  void ShowInCharCase();
   void UpdateMaxLength();
-  void UpdateColors();
-  void TypeCharacter(QChar character);
+  void FitHeight();
+  bool CameByMouse() const;
 
-  /// Goes with the window, which somebody else may destroy.
-  QPointer<QLineEdit> FLineEdit;
   QString FAccessibleName;
   /// From the first overlay on.
   std::unique_ptr<TCanvas> FCanvas;
@@ -117,6 +172,12 @@ class TCustomEdit : public TWinControl {
   int FSelLength = 0;
   int FMaxLength = 0;
   TBorderStyle FBorderStyle = bsSingle;
+  TEditCharCase FCharCase = ecNormal;
+  QChar FPasswordChar;
+  bool FAutoSelect = true;
+  bool FAutoSize = true;
+  bool FHideSelection = true;
+  bool FOEMConvert = false;
   bool FModified = false;
   bool FReadOnly = false;
   bool FIsSettingText = false;

@@ -1,20 +1,20 @@
-// Selection and undo of TCustomEdit.
+// Selection, undo and clipboard of TCustomEdit.
 #include "kt/vcl/stdctrls/CustomEdit.h"
+#include "kt/vcl/stdctrls/EditWidget.h"
 
-#include <QLineEdit>
+#include <QClipboard>
+#include <QGuiApplication>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace kt {
 
-int TCustomEdit::GetSelStart() const {
-  if (!FLineEdit) return FSelStart;
-  return FLineEdit->hasSelectedText() ? FLineEdit->selectionStart() : FLineEdit->cursorPosition();
-}
+int TCustomEdit::GetSelStart() const { return Editor() ? Editor()->GetShownStart() : FSelStart; }
 
 void TCustomEdit::SetSelStart(int value) { Select(value, value); }
 
-int TCustomEdit::GetSelLength() const { return FLineEdit ? FLineEdit->selectionLength() : FSelLength; }
+int TCustomEdit::GetSelLength() const { return Editor() ? Editor()->GetShownLength() : FSelLength; }
 
 void TCustomEdit::SetSelLength(int value) {
   const int start = GetSelStart();
@@ -28,43 +28,54 @@ void TCustomEdit::Select(int anchor, int caret) {
   if (anchor == caret) anchor = caret = CaretPlace(caret);
   FSelStart = std::min(anchor, caret);
   FSelLength = std::abs(caret - anchor);
-  if (!FLineEdit) return;
-  if (anchor == caret) {
-    FLineEdit->setCursorPosition(caret);
-  } else {
-    FLineEdit->setSelection(anchor, caret - anchor);
-  }
+  if (Editor()) Editor()->Select(anchor, caret);
 }
 
 QString TCustomEdit::GetSelText() const { return WindowText().mid(GetSelStart(), GetSelLength()); }
 
 void TCustomEdit::SetSelText(const QString& value) {
-  if (FLineEdit) {
-    // Typed, so that it can be undone.
-    FLineEdit->insert(value);
-    return;
-  }
+  const QString cased = InCharCase(value, FCharCase);
+  // Typed, so that it can be undone.
+  if (Editor()) return Editor()->TypeText(cased);
   QString text = WindowText();
-  text.replace(FSelStart, FSelLength, value);
-  const int caret = FSelStart + static_cast<int>(value.size());
+  text.replace(FSelStart, FSelLength, cased);
+  const int caret = FSelStart + static_cast<int>(cased.size());
   SetWindowText(text);
   FModified = true;
-  Perform(CM_TEXTCHANGED);
+  // Now: a handler may free the edit.
   SetSelStart(caret);
+  Perform(CM_TEXTCHANGED);
 }
 
-void TCustomEdit::SelectAll() {
-  if (FLineEdit) return FLineEdit->selectAll();
-  FSelStart = 0;
-  FSelLength = static_cast<int>(WindowText().size());
-}
+void TCustomEdit::SelectAll() { Select(0, static_cast<int>(WindowText().size())); }
 
-int TCustomEdit::GetCaretPos() const { return FLineEdit ? FLineEdit->cursorPosition() : FSelStart + FSelLength; }
+int TCustomEdit::GetCaretPos() const { return Editor() ? Editor()->GetShownCaret() : FSelStart + FSelLength; }
 
-bool TCustomEdit::CanUndo() const { return FLineEdit && FLineEdit->isUndoAvailable(); }
+bool TCustomEdit::CanUndo() const { return Editor() && Editor()->CanUndoTyping(); }
 
 void TCustomEdit::Undo() {
-  if (FLineEdit) FLineEdit->undo();
+  if (Editor()) Editor()->UndoTyping();
+}
+
+void TCustomEdit::ClearUndo() {
+  if (Editor()) Editor()->ForgetUndo();
+}
+
+// The clipboard.
+
+void TCustomEdit::CopyToClipboard() {
+  if (!qGuiApp || GetSelLength() == 0 || !FPasswordChar.isNull()) return;
+  QGuiApplication::clipboard()->setText(GetSelText());
+}
+
+void TCustomEdit::CutToClipboard() {
+  if (!qGuiApp || GetSelLength() == 0 || FReadOnly || !FPasswordChar.isNull()) return;
+  CopyToClipboard();
+  SetSelText({});
+}
+
+void TCustomEdit::PasteFromClipboard() {
+  if (qGuiApp && !FReadOnly) SetSelText(QGuiApplication::clipboard()->text());
 }
 
 }  // namespace kt

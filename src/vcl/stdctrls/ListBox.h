@@ -39,6 +39,9 @@ class TCustomListBox : public TWinControl {
   /// Lines that are added find their place by the alphabet.
   bool IsSorted() const { return FSorted; }
   void SetSorted(bool value);
+  /// Whether typing finds the line that begins so.
+  bool IsAutoComplete() const { return FAutoComplete; }
+  void SetAutoComplete(bool value) { FAutoComplete = value; }
   TBorderStyle GetBorderStyle() const { return FBorderStyle; }
   void SetBorderStyle(TBorderStyle value);
   /// The first line in view.
@@ -106,6 +109,7 @@ class TCustomListBox : public TWinControl {
   int FItemHeight = 16;
   int FTopIndex = 0;
   TBorderStyle FBorderStyle = bsSingle;
+  bool FAutoComplete = true;
   bool FIntegralHeight = false;
   bool FSorted = false;
   bool FIsTracking = false;

@@ -17,6 +17,7 @@ const TClassInfo* TListBox::Class() {
     Publish::Action(builder);
     Publish::Align(builder);
     Publish::Anchors(builder);
+    builder.Property<&T::IsAutoComplete, &T::SetAutoComplete>("AutoComplete").Default(true);
     Publish::BiDiMode(builder);
     builder.Property<&T::GetBorderStyle, &T::SetBorderStyle>("BorderStyle", &BorderStyleTypeInfo).Default(bsSingle);
     Publish::Color(builder, clWindow);

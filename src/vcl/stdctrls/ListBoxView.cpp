@@ -67,6 +67,8 @@ TCustomListBox::TView::TView(TCustomListBox& box, QWidget* parent)
     : QListView(parent), TControlBody(&box, this), FModel(box, nullptr) {
   setModel(&FModel);
   setUniformItemSizes(true);
+  setBackgroundRole(QPalette::Base);
+  setAutoFillBackground(true);
   setEditTriggers(NoEditTriggers);
   setTextElideMode(Qt::ElideNone);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -17,6 +17,8 @@ TCustomListBox::TView* TCustomListBox::View() const { return static_cast<TView*>
 
 void TCustomListBox::CreateWnd() {
   TWinControl::CreateWnd();
+  // Between the border of the style and the lines there may be a pixel that nobody paints.
+  Window()->setAttribute(Qt::WA_OpaquePaintEvent, false);
   UpdateLook();
   // Lines have another height from now on.
   View()->Model().Reset();
@@ -134,7 +136,7 @@ bool TCustomListBox::MoveByKey(quint16 key) {
 void TCustomListBox::DefaultHandler(TMessage& message) {
   if (message.Msg == WM_KEYDOWN && MoveByKey(static_cast<quint16>(message.WParam))) return;
   const QChar character(static_cast<char16_t>(message.WParam));
-  if (message.Msg == WM_CHAR && character.isPrint() && View()) {
+  if (message.Msg == WM_CHAR && FAutoComplete && character.isPrint() && View()) {
     // Finds the next line that begins so.
     View()->keyboardSearch(QString(character));
     return;

@@ -2,6 +2,7 @@
 
 #include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/controls/Publish.h"
+#include "kt/vcl/controls/VirtualKeys.h"
 #include "kt/vcl/stdctrls/ButtonBody.h"
 
 #include <QRadioButton>
@@ -84,6 +85,35 @@ void TRadioButton::TurnSiblingsOff() {
     auto* sibling = dynamic_cast<TRadioButton*>(parent->GetControls(i));
     if (sibling && sibling != this) sibling->SetChecked(false);
   }
+}
+
+TRadioButton* TRadioButton::FindNeighbour(bool next) const {
+  if (!GetParent()) return nullptr;
+  const auto tabs = GetParent()->GetTabList();
+  const auto count = static_cast<int>(tabs.size());
+  const int here = GetTabOrder();
+  for (int i = 1; i < count; ++i) {
+    TWinControl* const control = tabs[static_cast<std::size_t>((here + (next ? i : count - i)) % count)];
+    auto* radio = dynamic_cast<TRadioButton*>(control);
+    if (radio && radio->CanFocus()) return radio;
+  }
+  return nullptr;
+}
+
+void TRadioButton::GoToNeighbour(bool next) {
+  TRadioButton* const neighbour = FindNeighbour(next);
+  if (!neighbour) return;
+  const TLifeWatch life(neighbour);
+  neighbour->SetFocus();
+  if (life.IsAlive() && neighbour->Focused()) neighbour->SetChecked(true);
+}
+
+void TRadioButton::DefaultHandler(TMessage& message) {
+  const bool isArrow = message.Msg == WM_KEYDOWN && message.WParam >= VK_LEFT && message.WParam <= VK_DOWN;
+  const bool isPlain = TShiftState::FromBits(static_cast<quint32>(message.LParam)).IsEmpty();
+  if (!isArrow || !isPlain || HasState(csDesigning)) return TButtonControl::DefaultHandler(message);
+  // Right leads on as well where texts are read from the right: the buttons stand below each other as a rule.
+  GoToNeighbour(message.WParam == VK_RIGHT || message.WParam == VK_DOWN);
 }
 
 void TRadioButton::Clicked() {

@@ -4,7 +4,8 @@
 
 namespace kt {
 
-/// A caption with a sign that is set at one at most of the radio buttons of a parent.
+/// A caption with a sign that is set at one at most of the radio buttons of a parent. The arrow keys take it from one
+/// to the next, in the order of the tabs and from the last to the first.
 class TRadioButton : public TButtonControl {
  public:
   using Inherited = TButtonControl;
@@ -15,6 +16,8 @@ class TRadioButton : public TButtonControl {
   bool IsChecked() const { return FChecked; }
   /// Takes the sign from the others. Getting it is a click, whoever does it; TabStop goes along.
   void SetChecked(bool value);
+
+  void DefaultHandler(TMessage& message) override;
 
  protected:
   explicit TRadioButton(TComponent* owner = nullptr) : TButtonControl(owner) {}
@@ -27,6 +30,8 @@ class TRadioButton : public TButtonControl {
  private:
   void ShowState();
   void TurnSiblingsOff();
+  TRadioButton* FindNeighbour(bool next) const;
+  void GoToNeighbour(bool next);
 
   bool FChecked = false;
 };

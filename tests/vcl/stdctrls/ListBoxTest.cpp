@@ -178,6 +178,22 @@ TEST_F(ListBoxTest, TypingFindsALine) {
   EXPECT_EQ("click(2)", TakeLog());
 }
 
+TEST_F(ListBoxTest, WithoutAutoCompleteTypingFindsNone) {
+  Fill({"red", "green", "blue"});
+  Box.SetAutoComplete(false);
+  Show();
+  TWindowProbe::Type(QStringLiteral("b"));
+  EXPECT_EQ("red green blue", Lines());
+}
+
+TEST_F(ListBoxTest, EveryPixelIsPainted) {
+  Show();
+  QImage image(Box.GetHandle()->size(), QImage::Format_RGB32);
+  image.fill(Qt::magenta);
+  Box.GetHandle()->render(&image);
+  EXPECT_NE(QColor(Qt::magenta), image.pixelColor(1, 1));
+}
+
 TEST_F(ListBoxTest, HandlersCanTakeKeysAway) {
   Fill({"a", "b"});
   Show();

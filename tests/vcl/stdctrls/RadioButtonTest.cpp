@@ -1,3 +1,4 @@
+#include "kt/vcl/stdctrls/CheckBox.h"
 #include "kt/vcl/stdctrls/RadioButton.h"
 #include "vcl/stdctrls/ButtonFixture.h"
 
@@ -77,6 +78,54 @@ TEST_F(RadioButtonTest, AHandlerThatFreesTheSiblingsIsSurvived) {
   };
   Click(*FRadios[1]);
   EXPECT_TRUE(FRadios[1]->IsChecked());
+}
+
+// The arrow keys.
+
+TEST_F(RadioButtonTest, TheArrowsTakeTheSignToTheNextOneAndAround) {
+  AddThree();
+  Show();
+  FRadios[0]->SetFocus();
+  FRadios[0]->SetChecked(true);
+  TakeLog();
+  TWindowProbe::Key(Qt::Key_Down);
+  EXPECT_EQ("-x-", Checked());
+  TWindowProbe::Key(Qt::Key_Right);
+  TWindowProbe::Key(Qt::Key_Right);
+  EXPECT_EQ("x--", Checked());
+  TWindowProbe::Key(Qt::Key_Up);
+  EXPECT_EQ("--x", Checked());
+  EXPECT_TRUE(FRadios[2]->Focused());
+  EXPECT_EQ("b c a c", TakeLog());
+}
+
+TEST_F(RadioButtonTest, TheArrowsPassByWhatCannotBeClickedAndByOtherControls) {
+  AddThree();
+  Add<TCheckBox>("box", 70).SetTabOrder(1);
+  FRadios[1]->SetEnabled(false);
+  Show();
+  FRadios[0]->SetFocus();
+  TWindowProbe::Key(Qt::Key_Down);
+  EXPECT_EQ("--x", Checked());
+  EXPECT_TRUE(FRadios[2]->Focused());
+}
+
+TEST_F(RadioButtonTest, AnArrowThatAHandlerTakesLeadsNowhere) {
+  AddThree();
+  Show();
+  FRadios[0]->SetFocus();
+  FRadios[0]->OnKeyDown = [](TObject*, quint16& key, TShiftState) { key = 0; };
+  TWindowProbe::Key(Qt::Key_Down);
+  EXPECT_EQ("---", Checked());
+}
+
+TEST_F(RadioButtonTest, TheFormMayGoAsAnArrowLeadsOn) {
+  AddThree();
+  Show();
+  FRadios[0]->SetFocus();
+  FRadios[1]->OnClick = [this](TObject*) { FForm.reset(); };
+  QTest::keyPress(FRadios[0]->GetHandle(), Qt::Key_Down);
+  EXPECT_EQ(nullptr, FForm);
 }
 
 }  // namespace
