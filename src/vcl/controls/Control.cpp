@@ -37,6 +37,12 @@ const TTypeInfo* BorderStyleTypeInfo() {
   return &info;
 }
 
+const TTypeInfo* LeftRightTypeInfo() {
+  static const TEnumTypeInfo info(QStringLiteral("TLeftRight"),
+                                  {QStringLiteral("taLeftJustify"), QStringLiteral("taRightJustify")});
+  return &info;
+}
+
 TControl::TControl(TComponent* owner) : TComponent(owner) {}
 
 TControl::~TControl() = default;

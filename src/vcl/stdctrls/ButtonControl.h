@@ -6,14 +6,6 @@ class QAbstractButton;
 
 namespace kt {
 
-/// On which side of the sign the caption stands. From right to left the sides are exchanged.
-enum TLeftRight { taLeftJustify, taRightJustify };
-template <>
-struct TEnumNames<TLeftRight> {
-  static constexpr char Name[] = "TLeftRight";
-  static constexpr const char* Values[] = {"taLeftJustify", "taRightJustify"};
-};
-
 /// Something with a caption that is clicked by mouse or by key. Its window is one of Qt's buttons, which draws it and
 /// knows the keys; an "&" in the caption marks the letter that clicks it together with Alt.
 class TButtonControl : public TWinControl {

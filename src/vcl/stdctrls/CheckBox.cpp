@@ -25,7 +25,8 @@ const TClassInfo* TCheckBox::Class() {
   static const TClassInfo info = [] {
     TClassBuilder<TCheckBox> builder("TCheckBox");
     Publish::Action(builder);
-    builder.Property<&TCheckBox::GetAlignment, &TCheckBox::SetAlignment>("Alignment").Default(taRightJustify);
+    builder.Property<&TCheckBox::GetAlignment, &TCheckBox::SetAlignment>("Alignment", &LeftRightTypeInfo)
+        .Default(taRightJustify);
     builder.Property<&TCheckBox::IsAllowGrayed, &TCheckBox::SetAllowGrayed>("AllowGrayed").Default(false);
     Publish::Anchors(builder);
     Publish::BiDiMode(builder);

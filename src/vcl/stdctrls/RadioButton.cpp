@@ -12,7 +12,8 @@ const TClassInfo* TRadioButton::Class() {
   static const TClassInfo info = [] {
     TClassBuilder<TRadioButton> builder("TRadioButton");
     Publish::Action(builder);
-    builder.Property<&TRadioButton::GetAlignment, &TRadioButton::SetAlignment>("Alignment").Default(taRightJustify);
+    builder.Property<&TRadioButton::GetAlignment, &TRadioButton::SetAlignment>("Alignment", &LeftRightTypeInfo)
+        .Default(taRightJustify);
     Publish::Anchors(builder);
     Publish::BiDiMode(builder);
     Publish::Caption(builder);
