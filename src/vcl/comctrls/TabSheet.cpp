@@ -8,6 +8,8 @@
 
 #include <QLatin1StringView>
 
+#include <utility>
+
 namespace kt {
 
 namespace {
@@ -111,8 +113,19 @@ void TTabSheet::CMTextChanged(TMessage& message) {
 
 void TTabSheet::CMShowingChanged(TMessage& message) {
   TWinControl::CMShowingChanged(message);
-  if (HasState(csDesigning) || HasState(csDestroying)) return;
-  IsShowing() ? OnShow(this) : OnHide(this);
+  UpdateShown();
+}
+
+void TTabSheet::CMVisibleChanged(TMessage& message) {
+  const TLifeWatch self(this);
+  TWinControl::CMVisibleChanged(message);
+  if (self.IsAlive()) UpdateShown();
+}
+
+void TTabSheet::UpdateShown() {
+  const bool isShown = IsVisible() && (IsShowing() || FIsShown);
+  if (HasState(csDestroying) || std::exchange(FIsShown, isShown) == isShown || HasState(csDesigning)) return;
+  isShown ? OnShow(this) : OnHide(this);
 }
 
 }  // namespace kt

@@ -36,7 +36,8 @@ class TTabSheet : public TWinControl {
   bool IsHighlighted() const { return FHighlighted; }
   void SetHighlighted(bool value);
 
-  /// The page has disappeared from the screen, or appeared there; not in a designer.
+  /// Another page takes its place on the screen, or it has appeared there; not when the form disappears and comes back,
+  /// and not in a designer.
   TNotifyEvent OnHide;
   TNotifyEvent OnShow;
 
@@ -45,13 +46,17 @@ class TTabSheet : public TWinControl {
 
   void Construct() override;
   void CMShowingChanged(TMessage& message) override;
+  void CMVisibleChanged(TMessage& message) override;
   void CMTextChanged(TMessage& message) override;
 
  private:
   void TabChanged();
+  void UpdateShown();
 
   int FImageIndex = 0;
   bool FHighlighted = false;
+  /// Whether it has appeared and not been replaced since.
+  bool FIsShown = false;
   bool FTabVisible = true;
 };
 

@@ -93,6 +93,20 @@ TEST_F(PageControlWindowTest, AClickOnATabTellsInOrder) {
   EXPECT_EQ("", Log());
 }
 
+TEST_F(PageControlWindowTest, AFormThatGoesAndComesBackHasTheSamePages) {
+  Show();
+  FForm->Hide();
+  FForm->Show();
+  EXPECT_EQ("", Log());
+  FForm->Hide();
+  Pages.SetActivePageIndex(1);
+  EXPECT_EQ("hide aaa", Log());
+  FForm->Show();
+  EXPECT_EQ("show bbb", Log());
+  Pages.SetActivePageIndex(0);
+  EXPECT_EQ("show aaa, hide bbb", Log());
+}
+
 TEST_F(PageControlWindowTest, AHandlerKeepsTheUserWhereHeIs) {
   Pages.OnChanging = TTabChangingEvent([](TObject*, bool& isAllowed) { isAllowed = false; });
   Show();
