@@ -48,6 +48,8 @@ void FixEnvironment(const QString& runtimeFolder) {
   qputenv("LC_ALL", "C.UTF-8");
   qputenv("TZ", "UTC");
   qputenv("XDG_RUNTIME_DIR", runtimeFolder.toLocal8Bit());
+  // Qt's dialogs remember things.
+  qputenv("XDG_CONFIG_HOME", runtimeFolder.toLocal8Bit());
   qputenv("QT_QPA_PLATFORMTHEME", "");
 }
 

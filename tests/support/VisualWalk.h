@@ -1,10 +1,13 @@
 #pragma once
 
 #include "kt/vcl/actions/ActionTypes.h"
+#include "kt/vcl/comctrls/TabTypes.h"
 #include "kt/vcl/controls/ControlTypes.h"
 #include "kt/vcl/controls/DragTypes.h"
+#include "kt/vcl/dialogs/FontDialog.h"
 #include "kt/vcl/forms/FormTypes.h"
 #include "kt/vcl/grids/GridTypes.h"
+#include "kt/vcl/menus/MenuTypes.h"
 #include "kt/vcl/stdctrls/ScrollBar.h"
 #include "support/PropertyWalk.h"
 
@@ -33,7 +36,11 @@ inline std::vector<TClassInfo::TPublishedMethod> VisualHandlers() {
           HandlerOf<TDragOverEvent>(),
           HandlerOf<TEndDragEvent>(),
           HandlerOf<TStartDragEvent>(),
-          HandlerOf<TScrollEvent>()};
+          HandlerOf<TScrollEvent>(),
+          HandlerOf<TFDApplyEvent>(),
+          HandlerOf<TMenuChangeEvent>(),
+          HandlerOf<TTabChangingEvent>(),
+          HandlerOf<TTabGetImageEvent>()};
 }
 
 }  // namespace kt::tests

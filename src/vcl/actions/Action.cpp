@@ -1,6 +1,7 @@
 #include "kt/vcl/actions/Action.h"
 
 #include "kt/rtl/objects/LifeWatch.h"
+#include "kt/rtl/objects/Make.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/actions/ActionLink.h"
 #include "kt/vcl/actions/ActionList.h"
@@ -60,6 +61,15 @@ void TCustomAction::UncheckGroup() {
     auto* other = dynamic_cast<TCustomAction*>(list.GetActions(i));
     if (other && other != this && other->FGroupIndex == FGroupIndex) other->SetChecked(false);
   }
+}
+
+TShortCutList& TCustomAction::GetSecondaryShortCuts() {
+  if (!FSecondaryShortCuts) FSecondaryShortCuts = Make<TShortCutList>();
+  return *FSecondaryShortCuts;
+}
+
+void TCustomAction::SetSecondaryShortCuts(const TShortCutList& value) {
+  GetSecondaryShortCuts().Assign(const_cast<TShortCutList*>(&value));
 }
 
 void TCustomAction::SetName(const QString& value) {
@@ -125,6 +135,11 @@ void TCustomAction::Assign(TPersistent* source) {
       [](TCustomAction& to, TCustomAction& of) { to.SetHint(of.FHint); },
       [](TCustomAction& to, TCustomAction& of) { to.SetImageIndex(of.FImageIndex); },
       [](TCustomAction& to, TCustomAction& of) { to.SetShortCut(of.FShortCut); },
+      [](TCustomAction& to, TCustomAction& of) {
+        if (to.HasSecondaryShortCuts() || of.HasSecondaryShortCuts()) {
+          to.SetSecondaryShortCuts(of.GetSecondaryShortCuts());
+        }
+      },
       [](TCustomAction& to, TCustomAction& of) { to.SetVisible(of.FVisible); },
       [](TCustomAction& to, TCustomAction& of) { to.SetOnExecute(of.GetOnExecute()); },
       [](TCustomAction& to, TCustomAction& of) { to.OnUpdate = of.OnUpdate; },
@@ -153,6 +168,8 @@ const TClassInfo* TAction::Class() {
     builder.Property<&T::GetHint, &T::SetHint>("Hint");
     builder.Property<&T::GetImageIndex, &T::SetImageIndex>("ImageIndex").Default(-1);
     builder.Property<&T::GetShortCut, &T::SetShortCut>("ShortCut", &ShortCutTypeInfo).Default(0);
+    builder.Property<&T::GetSecondaryShortCuts, &T::SetSecondaryShortCuts>("SecondaryShortCuts")
+        .Stored(&T::HasSecondaryShortCuts);
     builder.Property<&T::IsVisible, &T::SetVisible>("Visible").Default(true);
     builder.Property<&T::GetOnExecute, &T::SetOnExecute>("OnExecute");
     builder.Property<&T::OnHint>("OnHint");

@@ -2,8 +2,11 @@
 
 #include "kt/vcl/actions/ActionTypes.h"
 #include "kt/vcl/actions/BasicAction.h"
+#include "kt/vcl/actions/ShortCutList.h"
 #include "kt/vcl/controls/ControlTypes.h"
 #include "kt/vcl/menus/ShortCut.h"
+
+#include <memory>
 
 namespace kt {
 
@@ -87,6 +90,10 @@ class TCustomAction : public TContainedAction {
   void SetImageIndex(int value);
   TShortCut GetShortCut() const { return FShortCut; }
   void SetShortCut(TShortCut value);
+  /// More keys that do the action; clients do not show them.
+  TShortCutList& GetSecondaryShortCuts();
+  void SetSecondaryShortCuts(const TShortCutList& value);
+  bool HasSecondaryShortCuts() const { return FSecondaryShortCuts && FSecondaryShortCuts->GetCount() > 0; }
   bool IsVisible() const { return FVisible; }
   void SetVisible(bool value);
 
@@ -115,6 +122,8 @@ class TCustomAction : public TContainedAction {
   void UncheckGroup();
   void ListStateChanged(TActionListState before, TActionListState now);
 
+  /// From the first time that somebody asks for them.
+  std::unique_ptr<TShortCutList> FSecondaryShortCuts;
   QString FCaption;
   QString FHelpKeyword;
   QString FHint;

@@ -6,6 +6,7 @@
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/actions/Action.h"
+#include "kt/vcl/imagelist/ImageList.h"
 
 #include <algorithm>
 
@@ -19,6 +20,7 @@ const TClassInfo* TCustomActionList::Class() {
 const TClassInfo* TActionList::Class() {
   using T = TActionList;
   static const TClassInfo info = TClassBuilder<T>("TActionList")
+                                     .Property<&T::GetImages, &T::SetImages>("Images")
                                      .Property<&T::GetState, &T::SetState>("State")
                                      .Default(asNormal)
                                      .Property<&T::OnChange>("OnChange")
@@ -32,6 +34,7 @@ const TClassInfo* TActionList::Class() {
 
 void TCustomActionList::Destruct() {
   Destroying();
+  FImages.reset();
   while (!FActions.empty()) delete FActions.back();
   TComponent::Destruct();
 }
@@ -64,6 +67,12 @@ void TCustomActionList::Change() {
   if (!HasState(csDestroying)) OnChange(this);
 }
 
+void TCustomActionList::SetImages(TCustomImageList* value) {
+  if (GetImages() == value) return;
+  FollowImages(FImages, value, TNotifyEvent([this](TObject*) { Change(); }));
+  Change();
+}
+
 void TCustomActionList::SetState(TActionListState value) {
   if (FState == value) return;
   const TActionListState before = std::exchange(FState, value);
@@ -93,7 +102,10 @@ bool TCustomActionList::IsShortCut(quint16 key, TShiftState shift) {
   const TLifeWatch self(this);
   for (int i = 0; self.IsAlive() && i < GetActionCount(); ++i) {
     auto* action = dynamic_cast<TCustomAction*>(FActions[i]);
-    if (action && action->GetShortCut() == shortCut && action->HandleShortCut()) return true;
+    const bool isMine =
+        action && (action->GetShortCut() == shortCut ||
+                   (action->HasSecondaryShortCuts() && action->GetSecondaryShortCuts().IndexOfShortCut(shortCut) >= 0));
+    if (isMine && action->HandleShortCut()) return true;
   }
   return false;
 }

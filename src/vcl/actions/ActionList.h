@@ -3,12 +3,15 @@
 #include "kt/rtl/objects/Component.h"
 #include "kt/vcl/actions/ActionTypes.h"
 #include "kt/vcl/controls/ControlTypes.h"
+#include "kt/vcl/imagelist/ChangeLink.h"
 
+#include <memory>
 #include <vector>
 
 namespace kt {
 
 class TContainedAction;
+class TCustomImageList;
 
 /// Actions kept together: in an order, streamed as children, done and brought up to date by common handlers first. A
 /// form listens for the short cuts of the lists that it owns.
@@ -24,6 +27,9 @@ class TCustomActionList : public TComponent {
   int GetActionCount() const { return static_cast<int>(FActions.size()); }
   /// Raises EListError for an index outside 0..GetActionCount()-1.
   TContainedAction* GetActions(int index) const;
+  /// Where the pictures that actions have numbers of are from, for those who show them. Not owned.
+  TCustomImageList* GetImages() const { return ImagesOf(FImages); }
+  void SetImages(TCustomImageList* value);
   TActionListState GetState() const { return FState; }
   void SetState(TActionListState value);
 
@@ -56,6 +62,7 @@ class TCustomActionList : public TComponent {
   void MoveAction(TContainedAction* action, int index);
 
   std::vector<TContainedAction*> FActions;
+  std::unique_ptr<TChangeLink> FImages;
   TActionListState FState = asNormal;
 };
 

@@ -2,7 +2,7 @@
 
 namespace kt {
 
-/// Registers the common controls for streams. Calling it again changes nothing.
+/// Registers page controls, status bars, progress bars and track bars; a share of RegisterVisualPlatform().
 void RegisterComCtrls();
 
 }  // namespace kt

@@ -54,6 +54,8 @@ inline constexpr quint32 CM_MOUSELEAVE = CM_BASE + 20;
 inline constexpr quint32 CM_SHOWINGCHANGED = CM_BASE + 25;
 inline constexpr quint32 CM_ENTER = CM_BASE + 26;
 inline constexpr quint32 CM_EXIT = CM_BASE + 27;
+/// LParam: MessagePoint(); Result 1: the control itself has a use for the mouse there, in a designer too
+inline constexpr quint32 CM_DESIGNHITTEST = CM_BASE + 28;
 inline constexpr quint32 CM_WANTSPECIALKEY = CM_BASE + 30;  ///< WParam: virtual key code; Result 1: wanted
 inline constexpr quint32 CM_RELEASE = CM_BASE + 33;
 inline constexpr quint32 CM_SHOWHINTCHANGED = CM_BASE + 34;
@@ -68,5 +70,7 @@ inline constexpr quint32 CM_RECREATEWND = CM_BASE + 51;
 inline constexpr quint32 CM_BIDIMODECHANGED = CM_BASE + 60;
 inline constexpr quint32 CM_PARENTBIDIMODECHANGED = CM_BASE + 61;
 inline constexpr quint32 CM_ORDERTABS = CM_BASE + 200;  ///< the windows are to be visited in another order
+/// To all of a form; LParam: const QString*, the long hint of what the mouse is over; Result 1: somebody shows it
+inline constexpr quint32 CM_APPLICATIONHINT = CM_BASE + 201;
 
 }  // namespace kt

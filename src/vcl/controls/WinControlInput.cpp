@@ -52,6 +52,7 @@ void TWinControl::Dispatch(TMessage& message) {
       return;
     case CM_DIALOGKEY:
     case CM_FOCUSCHANGED:
+    case CM_APPLICATIONHINT:
       return DispatchDown(message);
     case CM_DRAG:
       return CMDrag(message);

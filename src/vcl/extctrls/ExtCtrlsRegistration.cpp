@@ -6,11 +6,19 @@
 #include "kt/vcl/extctrls/PaintBox.h"
 #include "kt/vcl/extctrls/Panel.h"
 #include "kt/vcl/extctrls/Shape.h"
+#include "kt/vcl/extctrls/Timer.h"
 
 namespace kt {
 
 void RegisterExtCtrls() {
-  RegisterClasses({TBevel::Class(), TImage::Class(), TPaintBox::Class(), TPanel::Class(), TShape::Class()});
+  RegisterClasses({
+      TBevel::Class(),
+      TImage::Class(),
+      TPaintBox::Class(),
+      TPanel::Class(),
+      TShape::Class(),
+      TTimer::Class(),
+  });
 }
 
 }  // namespace kt

@@ -2,7 +2,7 @@
 
 namespace kt {
 
-/// Registers panels, images, bevels, paint boxes and shapes for streams. Calling it again changes nothing.
+/// Registers timers and other additional controls; a share of RegisterVisualPlatform().
 void RegisterExtCtrls();
 
 }  // namespace kt

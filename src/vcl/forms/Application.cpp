@@ -4,6 +4,7 @@
 #include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/forms/Form.h"
+#include "kt/vcl/forms/Screen.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -45,7 +46,11 @@ void TApplication::SetTitle(const QString& value) {
 void TApplication::SetHint(const QString& value) {
   if (FHint == value) return;
   FHint = value;
-  OnHint(this);
+  if (OnHint) return OnHint(this);
+  // Without a handler it is for the status bar of the form that the user is in.
+  TCustomForm* form = Screen().GetActiveForm();
+  if (!form) form = FMainForm;
+  if (form) form->Perform(CM_APPLICATIONHINT, 0, PointerMessage(&value));
 }
 
 void TApplication::SetShowHint(bool value) {

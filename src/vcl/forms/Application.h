@@ -37,7 +37,7 @@ class TApplication : public TComponent {
   void SetMainForm(TCustomForm* value);
   /// The long hint of what the mouse is over.
   const QString& GetHint() const { return FHint; }
-  /// Raises OnHint.
+  /// Raises OnHint; without a handler, status bars with AutoHint show it.
   void SetHint(const QString& value);
   bool IsTerminated() const { return FTerminated; }
 

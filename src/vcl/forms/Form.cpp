@@ -9,12 +9,18 @@
 #include "kt/vcl/actions/ActionList.h"
 #include "kt/vcl/controls/KeyCodes.h"
 #include "kt/vcl/forms/Application.h"
+#include "kt/vcl/forms/FormMenuBar.h"
 #include "kt/vcl/forms/Screen.h"
+#include "kt/vcl/menus/MainMenu.h"
 
 #include <QBuffer>
 #include <QLatin1StringView>
 
 namespace kt {
+
+TCustomForm::TCustomForm(TComponent* owner) : TCustomControl(owner) {}
+
+TCustomForm::~TCustomForm() = default;
 
 void TCustomForm::Construct() {
   TCustomControl::Construct();
@@ -39,6 +45,7 @@ void TCustomForm::BeforeDestruction() {
 
 void TCustomForm::Destruct() {
   Screen().RemoveForm(this);
+  FMenuBar.reset();
   TCustomControl::Destruct();
 }
 
@@ -46,12 +53,17 @@ void TCustomForm::Notification(TComponent* component, TOperation operation) {
   TCustomControl::Notification(component, operation);
   if (operation == opRemove && component == FActiveControl) FActiveControl = nullptr;
   if (operation == opRemove) std::erase(FActionLists, component);
+  if (operation == opRemove && component == FMenu) SetMenu(nullptr);
   auto* list = operation == opInsert ? dynamic_cast<TCustomActionList*>(component) : nullptr;
   if (list && list->GetOwnerComponent() == this) FActionLists.push_back(list);
+  const bool isNewInDesigner = operation == opInsert && HasState(csDesigning) && !HasState(csLoading);
+  auto* menu = isNewInDesigner && !FMenu ? dynamic_cast<TMainMenu*>(component) : nullptr;
+  if (menu && menu->GetOwnerComponent() == this) SetMenu(menu);
 }
 
 bool TCustomForm::IsActionKey(quint16 key, TShiftState shift) {
   const TLifeWatch self(this);
+  if (FMenu && FMenu->IsShortCut(key, shift)) return true;
   for (size_t i = 0; self.IsAlive() && i < FActionLists.size(); ++i) {
     if (FActionLists[i]->IsShortCut(key, shift)) return true;
   }

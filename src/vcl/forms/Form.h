@@ -3,6 +3,7 @@
 #include "kt/vcl/controls/CustomControl.h"
 #include "kt/vcl/forms/FormTypes.h"
 
+#include <memory>
 #include <vector>
 
 class QEventLoop;
@@ -10,6 +11,8 @@ class QEventLoop;
 namespace kt {
 
 class TCustomActionList;
+class TFormMenuBar;
+class TMainMenu;
 
 /// A window of its own with controls in it.
 ///
@@ -21,6 +24,7 @@ class TCustomForm : public TCustomControl {
 
   static const TClassInfo* Class();
   const TClassInfo* ClassType() const override { return Class(); }
+  ~TCustomForm() override;
 
   const QString& GetCaption() const { return GetText(); }
   void SetCaption(const QString& value) { SetText(value); }
@@ -41,6 +45,15 @@ class TCustomForm : public TCustomControl {
   void SetPixelsPerInch(int value) { FPixelsPerInch = value; }
   int GetTextHeight() const { return FTextHeight; }
   void SetTextHeight(int value) { FTextHeight = value; }
+
+  /// The menu that is shown at the top, above the client area, and whose short cuts work on the form; the Height of the
+  /// form is that of the whole. A dialog (bsDialog) shows none, nor does a menu without visible items show. The first
+  /// main menu that a designer puts on a form without one becomes its menu. Not owned. Raises EInvalidOperation "Menu
+  /// '%s' is already being used by another form".
+  TMainMenu* GetMenu() const { return FMenu; }
+  void SetMenu(TMainMenu* value);
+  /// What a form file says holds for the form with its menu, which comes later.
+  void SetClientHeight(int value);
 
   /// The control with the focus, or the one that gets it when the form is shown. Raises EInvalidOperation for one that
   /// is not on the form.
@@ -73,7 +86,9 @@ class TCustomForm : public TCustomControl {
   TNotifyEvent OnShow;
 
  protected:
-  explicit TCustomForm(TComponent* owner = nullptr) : TCustomControl(owner) {}
+  friend class TFormMenuBar;
+
+  explicit TCustomForm(TComponent* owner = nullptr);
 
   void Construct() override;
   void AfterConstruction() override;
@@ -82,6 +97,10 @@ class TCustomForm : public TCustomControl {
   void Notification(TComponent* component, TOperation operation) override;
   void GetChildren(const TGetChildProc& proc, TComponent* root) override;
   void CreateWnd() override;
+  void DestroyWnd() override;
+  QMargins GetClientMargins() const override;
+  void BoundsUpdated() override;
+  void CMBiDiModeChanged(TMessage& message) override;
   QWidget* CreateBody(QWidget* parent) override;
   bool WindowEvent(QEvent& event) override;
   bool StandsAlone() const override { return true; }
@@ -98,6 +117,11 @@ class TCustomForm : public TCustomControl {
  private:
   Qt::WindowFlags WindowFlags() const;
   void PlaceWindow();
+  bool ShowsMenu() const;
+  /// Has the menu bar keep up with the menu, and the client area with the menu bar.
+  void UpdateMenuBar() { UpdateMenuBar(GetClientMargins().top()); }
+  /// `before`: the margin above the client area that the children stand below.
+  void UpdateMenuBar(int before);
   void BecomeActive();
   void FocusActiveControl();
 
@@ -108,6 +132,11 @@ class TCustomForm : public TCustomControl {
   TWinControl* FActiveControl = nullptr;
   /// The lists of actions that the form owns.
   std::vector<TCustomActionList*> FActionLists;
+  TMainMenu* FMenu = nullptr;
+  /// As long as a menu is to be shown.
+  std::unique_ptr<TFormMenuBar> FMenuBar;
+  /// What the form file says of ClientHeight, while it is being loaded; -1 for nothing.
+  int FLoadedClientHeight = -1;
   QEventLoop* FModalLoop = nullptr;
   TModalResult FModalResult = mrNone;
   int FPixelsPerInch = 96;

@@ -1,6 +1,7 @@
 // What forms publish.
 #include "kt/vcl/controls/Publish.h"
 #include "kt/vcl/forms/Form.h"
+#include "kt/vcl/menus/MainMenu.h"
 
 #include <limits>
 
@@ -29,7 +30,7 @@ const TClassInfo* TForm::Class() {
         .Default(TBorderIcons{biSystemMenu, biMinimize, biMaximize});
     builder.Property<&TForm::GetBorderStyle, &TForm::SetBorderStyle>("BorderStyle").Default(bsSizeable);
     Publish::Caption(builder);
-    builder.Property<&TControl::GetClientHeight, &TControl::SetClientHeight>("ClientHeight");
+    builder.Property<&TForm::GetClientHeight, &TForm::SetClientHeight>("ClientHeight");
     builder.Property<&TControl::GetClientWidth, &TControl::SetClientWidth>("ClientWidth");
     Publish::Color(builder);
     Publish::Constraints(builder);
@@ -38,6 +39,7 @@ const TClassInfo* TForm::Class() {
     Publish::Enabled(builder);
     Publish::Font(builder);
     builder.Property<&TForm::IsKeyPreview, &TForm::SetKeyPreview>("KeyPreview").Default(false);
+    builder.Property<&TForm::GetMenu, &TForm::SetMenu>("Menu");
     builder.Property<&TForm::IsOldCreateOrder, &TForm::SetOldCreateOrder>("OldCreateOrder");
     Publish::ParentBiDiMode(builder);
     Publish::ParentFont(builder, false);

@@ -4,6 +4,7 @@
 #include "kt/vcl/controls/ControlBody.h"
 #include "kt/vcl/forms/Application.h"
 #include "kt/vcl/forms/Form.h"
+#include "kt/vcl/forms/FormMenuBar.h"
 #include "kt/vcl/forms/Screen.h"
 
 #include <QApplication>
@@ -34,14 +35,18 @@ Qt::WindowFlags TCustomForm::WindowFlags() const {
 }
 
 void TCustomForm::CreateWnd() {
+  // The client area lies below it already when the windows in it are made.
+  UpdateMenuBar();
   TCustomControl::CreateWnd();
   Window()->setWindowTitle(GetText());
+  if (FMenuBar) FMenuBar->Place();
 }
 
 void TCustomForm::SetBorderStyle(TFormBorderStyle value) {
   if (FBorderStyle == value) return;
   FBorderStyle = value;
   if (HandleAllocated() && !IsShowing()) Window()->setWindowFlags(WindowFlags());
+  UpdateMenuBar();
 }
 
 void TCustomForm::SetBorderIcons(TBorderIcons value) {
@@ -75,6 +80,8 @@ void TCustomForm::CMVisibleChanged(TMessage& message) {
 }
 
 void TCustomForm::Loaded() {
+  UpdateMenuBar();
+  FLoadedClientHeight = -1;
   TCustomControl::Loaded();
   // What the file says of Visible waits until all is read.
   if (IsVisible()) Perform(CM_VISIBLECHANGED, 1);

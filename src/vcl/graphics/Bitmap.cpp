@@ -148,10 +148,12 @@ const QImage& TBitmap::Masked() {
   return FMasked;
 }
 
-void TBitmap::DrawOn(TCanvas& canvas, const QRect& rect) {
+QImage TBitmap::GetVisibleImage() {
   Flush();
-  DrawImageOn(canvas, rect, IsTransparent() ? Masked() : FImage);
+  return IsTransparent() && !FImage.isNull() ? Masked() : FImage;
 }
+
+void TBitmap::DrawOn(TCanvas& canvas, const QRect& rect) { DrawImageOn(canvas, rect, GetVisibleImage()); }
 
 void TBitmap::Assign(TPersistent* source) {
   if (!source) return Store({});

@@ -45,6 +45,8 @@ class TBitmap : public TGraphic {
   const QImage& GetImage() const;
   void SetImage(const QImage& image);
   QImage ToImage() const override { return GetImage(); }
+  /// The pixels as they are drawn: without the transparent colour, when the bitmap is transparent.
+  QImage GetVisibleImage();
   /// Copies another bitmap, what a picture shows as pixels, or nothing: null empties it.
   void Assign(TPersistent* source) override;
 

@@ -40,6 +40,11 @@ bool TMenuActionLink::IsHintLinked() const {
   return action && FClient.GetHint() == action->GetHint();
 }
 
+bool TMenuActionLink::IsImageIndexLinked() const {
+  const TCustomAction* action = GetCustomAction();
+  return action && FClient.GetImageIndex() == action->GetImageIndex();
+}
+
 bool TMenuActionLink::IsShortCutLinked() const {
   const TCustomAction* action = GetCustomAction();
   return action && FClient.GetShortCut() == action->GetShortCut();
@@ -80,6 +85,10 @@ void TMenuActionLink::SetHelpContext(int value) {
 
 void TMenuActionLink::SetHint(const QString& value) {
   if (IsHintLinked()) FClient.SetHint(value);
+}
+
+void TMenuActionLink::SetImageIndex(int value) {
+  if (IsImageIndexLinked()) FClient.SetImageIndex(value);
 }
 
 void TMenuActionLink::SetShortCut(TShortCut value) {

@@ -18,6 +18,7 @@ class TMenuActionLink : public TActionLink {
   bool IsGroupIndexLinked() const override;
   bool IsHelpContextLinked() const override;
   bool IsHintLinked() const override;
+  bool IsImageIndexLinked() const override;
   bool IsShortCutLinked() const override;
   bool IsVisibleLinked() const override;
   bool IsOnExecuteLinked() const override;
@@ -32,6 +33,7 @@ class TMenuActionLink : public TActionLink {
   void SetGroupIndex(int value) override;
   void SetHelpContext(int value) override;
   void SetHint(const QString& value) override;
+  void SetImageIndex(int value) override;
   void SetShortCut(TShortCut value) override;
   void SetVisible(bool value) override;
   void SetOnExecute(const TNotifyEvent& value) override;

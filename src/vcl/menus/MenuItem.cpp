@@ -1,7 +1,10 @@
 #include "kt/vcl/menus/MenuItem.h"
 
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/actions/BasicAction.h"
+#include "kt/vcl/graphics/Bitmap.h"
+#include "kt/vcl/imagelist/ImageList.h"
 #include "kt/vcl/menus/Menu.h"
 #include "kt/vcl/menus/MenuActionLink.h"
 
@@ -25,13 +28,19 @@ const TClassInfo* TMenuItem::Class() {
     TClassBuilder<T> builder("TMenuItem");
     builder.Property<&T::GetAction, &T::SetAction>("Action");
     builder.Property<&T::IsAutoCheck, &T::SetAutoCheck>("AutoCheck").Default(false).Stored(&T::IsAutoCheckStored);
+    builder.Property<&T::GetAutoHotkeys, &T::SetAutoHotkeys>("AutoHotkeys").Default(maParent);
+    builder.Property<&T::GetAutoLineReduction, &T::SetAutoLineReduction>("AutoLineReduction").Default(maParent);
+    builder.Property<&T::GetBitmap, &T::SetBitmap>("Bitmap").Stored(&T::IsBitmapStored);
+    builder.Property<&T::GetBreak, &T::SetBreak>("Break").Default(mbNone);
     builder.Property<&T::GetCaption, &T::SetCaption>("Caption").Stored(&T::IsCaptionStored);
     builder.Property<&T::IsChecked, &T::SetChecked>("Checked").Default(false).Stored(&T::IsCheckedStored);
+    builder.Property<&T::GetSubMenuImages, &T::SetSubMenuImages>("SubMenuImages");
     builder.Property<&T::IsDefault, &T::SetDefault>("Default").Default(false);
     builder.Property<&T::IsEnabled, &T::SetEnabled>("Enabled").Default(true).Stored(&T::IsEnabledStored);
     builder.Property<&T::GetGroupIndex, &T::SetGroupIndex>("GroupIndex").Default(0).Stored(&T::IsGroupIndexStored);
     builder.Property<&T::GetHelpContext, &T::SetHelpContext>("HelpContext").Default(0).Stored(&T::IsHelpContextStored);
     builder.Property<&T::GetHint, &T::SetHint>("Hint").Stored(&T::IsHintStored);
+    builder.Property<&T::GetImageIndex, &T::SetImageIndex>("ImageIndex").Default(-1).Stored(&T::IsImageIndexStored);
     builder.Property<&T::IsRadioItem, &T::SetRadioItem>("RadioItem").Default(false);
     builder.Property<&T::GetShortCut, &T::SetShortCut>("ShortCut", &ShortCutTypeInfo)
         .Default(0)
@@ -50,6 +59,7 @@ TMenuItem::~TMenuItem() = default;
 void TMenuItem::Destruct() {
   Destroying();
   FActionLink.reset();
+  FSubMenuImages.reset();
   if (FParent) FParent->Remove(this);
   Clear();
   TComponent::Destruct();
@@ -69,11 +79,13 @@ void TMenuItem::Insert(int index, TMenuItem* item) {
   if (item->FParent) throw EMenuError(SMenuReinserted);
   FItems.insert(FItems.begin() + index, item);
   item->FParent = this;
+  MenuChanged(true);
 }
 
 void TMenuItem::Delete(int index) {
   GetItems(index)->FParent = nullptr;
   FItems.erase(FItems.begin() + index);
+  MenuChanged(true);
 }
 
 void TMenuItem::Remove(TMenuItem* item) {
@@ -83,10 +95,12 @@ void TMenuItem::Remove(TMenuItem* item) {
 }
 
 void TMenuItem::Clear() {
-  while (!FItems.empty()) {
+  const TLifeWatch self(this);
+  while (self.IsAlive() && !FItems.empty()) {
     TMenuItem* last = FItems.back();
+    const TLifeWatch item(last);
     Delete(GetCount() - 1);
-    delete last;
+    if (item.IsAlive()) delete last;
   }
 }
 
@@ -116,34 +130,15 @@ TMenuItem* TMenuItem::FindShortCut(TShortCut shortCut) {
   return nullptr;
 }
 
-void TMenuItem::UncheckGroup() {
-  if (!FParent) return;
-  for (TMenuItem* item : FParent->FItems) {
-    if (item != this && item->FRadioItem && item->FGroupIndex == FGroupIndex) item->FChecked = false;
-  }
-}
-
-void TMenuItem::SetChecked(bool value) {
-  FChecked = value;
-  if (value && FRadioItem) UncheckGroup();
-}
-
-void TMenuItem::SetRadioItem(bool value) {
-  FRadioItem = value;
-  if (FChecked && value) UncheckGroup();
-}
-
-void TMenuItem::SetGroupIndex(quint8 value) {
-  FGroupIndex = value;
-  if (FChecked && FRadioItem) UncheckGroup();
-}
-
 void TMenuItem::SetDefault(bool value) {
+  if (FDefault == value) return;
   FDefault = value;
-  if (!value || !FParent) return;
-  for (TMenuItem* item : FParent->FItems) {
-    if (item != this) item->FDefault = false;
+  if (value && FParent) {
+    for (TMenuItem* item : FParent->FItems) {
+      if (item != this) item->FDefault = false;
+    }
   }
+  MenuChanged(false);
 }
 
 TComponent* TMenuItem::GetParentComponent() {
@@ -168,6 +163,7 @@ void TMenuItem::SetChildOrder(TComponent* child, int order) {
   auto* item = dynamic_cast<TMenuItem*>(child);
   if (std::erase(FItems, item) == 0) return;
   FItems.insert(FItems.begin() + std::clamp(order, 0, GetCount()), item);
+  MenuChanged(true);
 }
 
 }  // namespace kt

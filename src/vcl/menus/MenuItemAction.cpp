@@ -28,21 +28,26 @@ void TMenuItem::DoActionChange(TObject* sender) {
   if (sender == GetAction()) ActionChange(sender, false);
 }
 
-/// Setters of entries run no handlers.
 void TMenuItem::ActionChange(TObject* action, bool onlyDefaults) {
   const auto* custom = dynamic_cast<TCustomAction*>(action);
   if (!custom) return;
-  const auto takes = [onlyDefaults](bool isDefault) { return !onlyDefaults || isDefault; };
-  if (takes(!FAutoCheck)) SetAutoCheck(custom->IsAutoCheck());
-  if (takes(FCaption.isEmpty())) SetCaption(custom->GetCaption());
-  if (takes(!FChecked)) SetChecked(custom->IsChecked());
-  if (takes(FEnabled)) SetEnabled(custom->IsEnabled());
-  if (takes(FGroupIndex == 0)) SetGroupIndex(static_cast<quint8>(custom->GetGroupIndex()));
-  if (takes(FHelpContext == 0)) SetHelpContext(custom->GetHelpContext());
-  if (takes(FHint.isEmpty())) SetHint(custom->GetHint());
-  if (takes(FShortCut == scNone)) SetShortCut(custom->GetShortCut());
-  if (takes(FVisible)) SetVisible(custom->IsVisible());
-  if (takes(OnClick.IsEmpty())) OnClick = custom->GetOnExecute();
+  const TLifeWatch self(this);
+  const TLifeWatch source(custom);
+  // Each setter tells the menu, whose handler may free either.
+  const auto take = [&](const auto& isDefault, const auto& set) {
+    if (self.IsAlive() && source.IsAlive() && (!onlyDefaults || isDefault())) set();
+  };
+  take([&] { return !FAutoCheck; }, [&] { SetAutoCheck(custom->IsAutoCheck()); });
+  take([&] { return FCaption.isEmpty(); }, [&] { SetCaption(custom->GetCaption()); });
+  take([&] { return !FChecked; }, [&] { SetChecked(custom->IsChecked()); });
+  take([&] { return FEnabled; }, [&] { SetEnabled(custom->IsEnabled()); });
+  take([&] { return FGroupIndex == 0; }, [&] { SetGroupIndex(static_cast<quint8>(custom->GetGroupIndex())); });
+  take([&] { return FHelpContext == 0; }, [&] { SetHelpContext(custom->GetHelpContext()); });
+  take([&] { return FHint.isEmpty(); }, [&] { SetHint(custom->GetHint()); });
+  take([&] { return FImageIndex == -1; }, [&] { SetImageIndex(custom->GetImageIndex()); });
+  take([&] { return FShortCut == scNone; }, [&] { SetShortCut(custom->GetShortCut()); });
+  take([&] { return FVisible; }, [&] { SetVisible(custom->IsVisible()); });
+  take([&] { return OnClick.IsEmpty(); }, [&] { OnClick = custom->GetOnExecute(); });
 }
 
 void TMenuItem::InitiateActions() {
@@ -56,7 +61,9 @@ void TMenuItem::Click() {
   // The action checks itself, and with it the entry. A radio item that is checked stays so: another one of its group
   // has to take the check over.
   const bool isCheckedByAction = FActionLink && FActionLink->IsAutoCheckLinked();
+  const TLifeWatch self(this);
   if (FAutoCheck && !isCheckedByAction && !(FRadioItem && FChecked)) SetChecked(!FChecked);
+  if (!self.IsAlive()) return;
   TBasicAction* action = GetAction();
   // A handler of its own goes before the action's.
   const bool isOwn = OnClick && action && !(OnClick == action->GetOnExecute());
@@ -73,6 +80,7 @@ bool TMenuItem::IsEnabledStored() const { return !FActionLink || !FActionLink->I
 bool TMenuItem::IsGroupIndexStored() const { return !FActionLink || !FActionLink->IsGroupIndexLinked(); }
 bool TMenuItem::IsHelpContextStored() const { return !FActionLink || !FActionLink->IsHelpContextLinked(); }
 bool TMenuItem::IsHintStored() const { return !FActionLink || !FActionLink->IsHintLinked(); }
+bool TMenuItem::IsImageIndexStored() const { return !FActionLink || !FActionLink->IsImageIndexLinked(); }
 bool TMenuItem::IsShortCutStored() const { return !FActionLink || !FActionLink->IsShortCutLinked(); }
 bool TMenuItem::IsVisibleStored() const { return !FActionLink || !FActionLink->IsVisibleLinked(); }
 bool TMenuItem::IsOnClickStored() const { return !FActionLink || !FActionLink->IsOnExecuteLinked(); }

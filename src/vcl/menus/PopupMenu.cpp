@@ -1,63 +1,33 @@
 #include "kt/vcl/menus/PopupMenu.h"
 
 #include "kt/rtl/objects/LifeWatch.h"
-#include "kt/rtl/objects/UnhandledExceptions.h"
+#include "kt/rtl/objects/ObjectRef.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
-#include "kt/vcl/controls/Hints.h"
 #include "kt/vcl/controls/WinControl.h"
-#include "kt/vcl/forms/Application.h"
+#include "kt/vcl/imagelist/ImageList.h"
+#include "kt/vcl/menus/MenuContents.h"
 
-#include <QActionGroup>
-#include <QHash>
 #include <QMenu>
 
 namespace kt {
-
-namespace {
-
-using TChoices = QHash<const QAction*, TMenuItem*>;
-
-QString TextOf(const TMenuItem& item) {
-  const QString key = ShortCutToText(item.GetShortCut());
-  return key.isEmpty() ? item.GetCaption() : item.GetCaption() + u'\t' + key;
-}
-
-void ShowCheck(QAction& action, const TMenuItem& item) {
-  if (!item.IsChecked()) return;
-  action.setCheckable(true);
-  action.setChecked(true);
-  // What makes the mark a round one.
-  if (item.IsRadioItem()) (new QActionGroup(&action))->addAction(&action);
-}
-
-void Fill(QMenu& menu, const TMenuItem& items, TChoices& choices) {
-  for (int i = 0; i < items.GetCount(); ++i) {
-    TMenuItem* const item = items.GetItems(i);
-    if (!item->IsVisible()) continue;
-    if (item->IsLine()) {
-      menu.addSeparator();
-      continue;
-    }
-    QAction* const action =
-        item->GetCount() > 0 ? menu.addMenu(item->GetCaption())->menuAction() : menu.addAction(TextOf(*item));
-    action->setEnabled(item->IsEnabled());
-    action->setStatusTip(GetLongHint(item->GetHint()));
-    ShowCheck(*action, *item);
-    if (item->IsDefault()) menu.setDefaultAction(action);
-    if (item->GetCount() > 0) Fill(*action->menu(), *item, choices);
-    choices.insert(action, item);
-  }
-}
-
-}  // namespace
 
 const TClassInfo* TPopupMenu::Class() {
   using T = TPopupMenu;
   static const TClassInfo info = [] {
     TClassBuilder<T> builder("TPopupMenu");
     builder.Property<&T::GetAlignment, &T::SetAlignment>("Alignment").Default(paLeft);
+    builder.Property<&T::GetAutoHotkeys, &T::SetAutoHotkeys>("AutoHotkeys", &MenuAutoFlagTypeInfo).Default(maAutomatic);
+    builder.Property<&T::GetAutoLineReduction, &T::SetAutoLineReduction>("AutoLineReduction", &MenuAutoFlagTypeInfo)
+        .Default(maAutomatic);
     builder.Property<&T::IsAutoPopup, &T::SetAutoPopup>("AutoPopup").Default(true);
+    builder.Property<&T::GetBiDiMode, &T::SetBiDiMode>("BiDiMode").Stored(&T::IsBiDiModeStored);
     builder.Property<&T::GetHelpContext, &T::SetHelpContext>("HelpContext").Default(0);
+    builder.Property<&T::GetImages, &T::SetImages>("Images");
+    builder.Property<&T::GetMenuAnimation, &T::SetMenuAnimation>("MenuAnimation").Default(TMenuAnimation{});
+    builder.Property<&T::IsOwnerDraw, &T::SetOwnerDraw>("OwnerDraw").Default(false);
+    builder.Property<&T::IsParentBiDiMode, &T::SetParentBiDiMode>("ParentBiDiMode").Default(true);
+    builder.Property<&T::GetTrackButton, &T::SetTrackButton>("TrackButton").Default(tbRightButton);
+    builder.Property<&T::OnChange>("OnChange");
     builder.Property<&T::OnPopup>("OnPopup");
     return builder.Creatable().Done();
   }();
@@ -100,23 +70,28 @@ void TPopupMenu::Popup(int x, int y) {
   if (TMenuItem* const item = Choose()) item->Click();
 }
 
+bool TPopupMenu::IsRightToLeft() const {
+  const auto* control = IsParentBiDiMode() ? dynamic_cast<TControl*>(FPopupComponent) : nullptr;
+  return control ? control->UseRightToLeftReading() : GetBiDiMode() != bdLeftToRight;
+}
+
 TMenuItem* TPopupMenu::Choose() {
   CloseMenu();
-  const auto* control = dynamic_cast<TWinControl*>(FPopupComponent);
+  auto* control = dynamic_cast<TWinControl*>(FPopupComponent);
   const TLifeWatch self(this);
   // Goes with the window that it is opened for.
-  const QPointer<QMenu> menu = new QMenu(
-      control && control->HandleAllocated() ? const_cast<TWinControl*>(control)->GetHandle()->window() : nullptr);
+  const QPointer<QMenu> menu =
+      new QMenu(control && control->HandleAllocated() ? control->GetHandle()->window() : nullptr);
   FMenu = menu;
-  TChoices choices;
-  Fill(*menu, GetItems(), choices);
-  if (control && control->UseRightToLeftReading()) menu->setLayoutDirection(Qt::RightToLeft);
-  QObject::connect(menu, &QMenu::hovered, menu,
-                   [](const QAction* action) { GuardedCall([=] { Application().SetHint(action->statusTip()); }); });
-  TMenuItem* const chosen = choices.value(menu->exec(PlaceOf(*menu)));
+  if (IsRightToLeft()) menu->setLayoutDirection(Qt::RightToLeft);
+  TObjectRef chosen;
+  ShowMenuItems(*menu, GetItems(), [&chosen](TMenuItem& item) { chosen = &item; });
+  TellMenuHints(*menu);
+  menu->exec(PlaceOf(*menu));
   delete menu;
   // While the menu was open anything may have been freed.
-  return chosen && self.IsAlive() && GetItems().Contains(chosen) ? chosen : nullptr;
+  auto* item = static_cast<TMenuItem*>(chosen.Get());
+  return item && self.IsAlive() && GetItems().Contains(item) ? item : nullptr;
 }
 
 }  // namespace kt

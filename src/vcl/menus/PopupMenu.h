@@ -35,6 +35,10 @@ class TPopupMenu : public TMenu {
   void SetAutoPopup(bool value) { FAutoPopup = value; }
   int GetHelpContext() const { return FItemsHelpContext; }
   void SetHelpContext(int value) { FItemsHelpContext = value; }
+  TMenuAnimation GetMenuAnimation() const { return FMenuAnimation; }
+  void SetMenuAnimation(TMenuAnimation value) { FMenuAnimation = value; }
+  TTrackButton GetTrackButton() const { return FTrackButton; }
+  void SetTrackButton(TTrackButton value) { FTrackButton = value; }
   /// What it was opened for; null when nobody said so.
   TComponent* GetPopupComponent() const { return FPopupComponent; }
   void SetPopupComponent(TComponent* value);
@@ -58,6 +62,7 @@ class TPopupMenu : public TMenu {
  private:
   /// The item that was chosen, or null.
   TMenuItem* Choose();
+  bool IsRightToLeft() const;
   QPoint PlaceOf(const QMenu& menu) const;
 
   QPointer<QMenu> FMenu;
@@ -65,6 +70,8 @@ class TPopupMenu : public TMenu {
   QPoint FPopupPoint{-1, -1};
   int FItemsHelpContext = 0;
   TPopupAlignment FAlignment = paLeft;
+  TMenuAnimation FMenuAnimation;
+  TTrackButton FTrackButton = tbRightButton;
   bool FAutoPopup = true;
 };
 

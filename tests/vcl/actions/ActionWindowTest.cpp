@@ -120,7 +120,7 @@ TEST_F(ActionWindowTest, AMenuThatOpensHasItsActionsBroughtUpToDate) {
     open->close();
   });
   menu.Popup(5, 5);
-  EXPECT_EQ(shown, "Now");
+  EXPECT_EQ(shown, "&Now");
 }
 
 class THintedControl : public TControlProbe {

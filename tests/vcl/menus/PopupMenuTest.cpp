@@ -97,12 +97,12 @@ class PopupMenuTest : public testing::Test {
   std::unique_ptr<TWindowProbe> FWindow;
 };
 
-TEST_F(PopupMenuTest, ShowsItsItemsWithTheirShortCuts) { EXPECT_EQ(EntriesOfPopup(), "&Open~Ctrl+O|-|Save"); }
+TEST_F(PopupMenuTest, ShowsItsItemsWithTheirShortCuts) { EXPECT_EQ(EntriesOfPopup(), "&Open~Ctrl+O|-|&Save"); }
 
 TEST_F(PopupMenuTest, DoesNotShowWhatIsInvisible) {
   Get(2).SetVisible(false);
   Add("Close");
-  EXPECT_EQ(EntriesOfPopup(), "&Open~Ctrl+O|-|Close");
+  EXPECT_EQ(EntriesOfPopup(), "&Open~Ctrl+O|-|&Close");
 }
 
 TEST_F(PopupMenuTest, ShowsStatesOfItsItems) {
@@ -133,7 +133,7 @@ TEST_F(PopupMenuTest, ItemsBelowAnItemAreAMenuOfTheirOwn) {
   QString entries;
   WhenOpen([&](QMenu& menu) { entries = Entries(*menu.actions()[2]->menu()); });
   Menu.Popup(100, 100);
-  EXPECT_EQ(entries, "As...");
+  EXPECT_EQ(entries, "&As...");
 }
 
 TEST_F(PopupMenuTest, WhatIsChosenIsClickedWhenTheMenuHasGone) {
