@@ -18,11 +18,6 @@ using TAnchors = TSet<TAnchorKind>;
 /// The reading direction, and what of the control is mirrored with it.
 enum TBiDiMode { bdLeftToRight, bdRightToLeft, bdRightToLeftNoAlign, bdRightToLeftReadingOnly };
 
-/// Where a text stands in its room. From right to left the sides are exchanged.
-enum TAlignment { taLeftJustify, taRightJustify, taCenter };
-/// Without taCenter: on which side of a sign its caption stands. Published with LeftRightTypeInfo().
-using TLeftRight = TAlignment;
-
 enum TDragMode { dmManual, dmAutomatic };
 enum TDragKind { dkDrag, dkDock };
 
@@ -125,11 +120,6 @@ struct TEnumNames<TAlign> {
   static constexpr const char* Values[] = {"alNone", "alTop", "alBottom", "alLeft", "alRight", "alClient", "alCustom"};
 };
 template <>
-struct TEnumNames<TAlignment> {
-  static constexpr char Name[] = "TAlignment";
-  static constexpr const char* Values[] = {"taLeftJustify", "taRightJustify", "taCenter"};
-};
-template <>
 struct TEnumNames<TAnchorKind> {
   static constexpr char Name[] = "TAnchorKind";
   static constexpr const char* Values[] = {"akLeft", "akTop", "akRight", "akBottom"};
@@ -176,7 +166,5 @@ struct TEnumNames<TAlignment> {
 const TTypeInfo* LeftRightTypeInfo();
 /// "TBorderStyle", the two border styles that controls have.
 const TTypeInfo* BorderStyleTypeInfo();
-/// "TLeftRight", the two sides.
-const TTypeInfo* LeftRightTypeInfo();
 
 }  // namespace kt
