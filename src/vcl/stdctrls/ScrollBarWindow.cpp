@@ -25,6 +25,8 @@ QScrollBar* TScrollBar::Bar() const { return static_cast<QScrollBar*>(Window());
 
 QWidget* TScrollBar::CreateBody(QWidget* parent) {
   auto* bar = new TBodyOf<QScrollBar>(this, parent);
+  // One that stands by itself takes the keyboard, with it the wheel, when it is clicked; Qt's never does.
+  if (IsTabStop()) bar->setFocusPolicy(Qt::StrongFocus);
   QObject::connect(bar, &QScrollBar::actionTriggered, bar, [this, bar](int action) {
     // An arrow or the bar beside the thumb that is held goes on by a timer.
     const TControlBody::TInEvent running;

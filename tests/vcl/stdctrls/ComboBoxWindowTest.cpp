@@ -217,6 +217,8 @@ TEST_F(ComboBoxWindowTest, TheWheelPicksOnlyWithTheKeyboard) {
   other.SetFocus();
   EXPECT_FALSE(Turn(&View(), -120));
   EXPECT_EQ(" (-1)", State());
+  // Nor does the keyboard come with the wheel, as it does to Qt's own.
+  EXPECT_EQ(Qt::StrongFocus, View().focusPolicy());
   Box.SetFocus();
   EXPECT_TRUE(Turn(&View(), -120));
   EXPECT_EQ("red (0)", State());

@@ -141,6 +141,15 @@ TEST_F(ScrollBarWindowTest, TheWheelScrollsOnlyWithTheKeyboard) {
   EXPECT_EQ("LineDown(1) =1 LineDown(2) =2 LineDown(3) =3 EndScroll(3)", TakeLog());
 }
 
+TEST_F(ScrollBarWindowTest, AClickTakesTheKeyboard) {
+  TScrollBar& other = Add<TScrollBar>(8, 60);
+  ShowBar();
+  other.SetFocus();
+  QWidget* const window = FForm->GetHandle();
+  QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, View().mapTo(window, QPoint(60, 8)));
+  EXPECT_TRUE(Bar.Focused());
+}
+
 TEST_F(ScrollBarWindowTest, FromRightToLeftTheArrowsAreExchanged) {
   Bar.SetBiDiMode(bdRightToLeft);
   ShowBar();
