@@ -97,6 +97,7 @@ class TCustomForm : public TCustomControl {
 
  private:
   Qt::WindowFlags WindowFlags() const;
+  void UpdateWindowFlags();
   void PlaceWindow();
   void BecomeActive();
   void FocusActiveControl();
