@@ -26,7 +26,6 @@ TPaletteList::TPaletteList(QWidget* parent) : QTreeWidget(parent) {
   setHeaderHidden(true);
   setRootIsDecorated(true);
   setIndentation(14);
-  setUniformRowHeights(true);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   Fill();
   expandAll();

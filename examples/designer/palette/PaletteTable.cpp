@@ -37,8 +37,8 @@ constexpr TListedGroup kGroups[] = {
      "TPrinterSetupDialog TFindDialog TReplaceDialog"},
 };
 
-/// What only stands on, or in, something of its own kind.
-constexpr const char* kParts[] = {"TMenuItem", "TAction", "TTabSheet", "TFrame", "TToolButton"};
+/// What is nothing by itself: stands only on, or in, something of its own kind.
+constexpr const char* kParts[] = {"TComponent", "TMenuItem", "TAction", "TTabSheet", "TFrame", "TToolButton"};
 
 bool IsOffered(const TClassInfo* info) {
   return info && info->IsCreatable() && info->InheritsFrom(TComponent::Class()) &&

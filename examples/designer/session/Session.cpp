@@ -115,9 +115,16 @@ void TSession::Edited(const QString& text, const QString& mergeKey) {
 
 void TSession::Revert() { FDocument->Revert(); }
 
-void TSession::Undo() { FDocument->Undo(); }
+void TSession::Undo() {
+  FDocument->Undo();
+  // Only now the stack of steps knows where it is.
+  Tell(nwEdited);
+}
 
-void TSession::Redo() { FDocument->Redo(); }
+void TSession::Redo() {
+  FDocument->Redo();
+  Tell(nwEdited);
+}
 
 void TSession::Leave() {
   KeepKeys();

@@ -9,8 +9,10 @@ using namespace kt;
 
 namespace {
 
-/// `edge` plus `by`, on the grid, and not beyond `limit`.
-int MovedEdge(int edge, int by, bool isFree) { return isFree ? edge + by : Snapped(edge + by); }
+/// An edge that was dragged; along the grid that begins at `origin`.
+int MovedEdge(int edge, int by, int origin, bool isFree) {
+  return isFree ? edge + by : Snapped(edge + by - origin) + origin;
+}
 
 class TSizeDrag final : public TDrag {
  public:
@@ -40,10 +42,12 @@ class TSizeDrag final : public TDrag {
     int top = FBounds.y();
     int right = left + FBounds.width();
     int bottom = top + FBounds.height();
-    if (FHandle.MovesLeft) left = std::min(MovedEdge(left, by.x(), isFree), right);
-    if (FHandle.MovesRight) right = std::max(MovedEdge(right, by.x(), isFree), left);
-    if (FHandle.MovesTop) top = std::min(MovedEdge(top, by.y(), isFree), bottom);
-    if (FHandle.MovesBottom) bottom = std::max(MovedEdge(bottom, by.y(), isFree), top);
+    // A form has its own grid, wherever it stands.
+    const QPoint origin = Control()->GetParent() ? QPoint() : FBounds.topLeft();
+    if (FHandle.MovesLeft) left = std::min(MovedEdge(left, by.x(), origin.x(), isFree), right);
+    if (FHandle.MovesRight) right = std::max(MovedEdge(right, by.x(), origin.x(), isFree), left);
+    if (FHandle.MovesTop) top = std::min(MovedEdge(top, by.y(), origin.y(), isFree), bottom);
+    if (FHandle.MovesBottom) bottom = std::max(MovedEdge(bottom, by.y(), origin.y(), isFree), top);
     Control()->SetBounds(left, top, right - left, bottom - top);
     // Its constraints have the last word on the size; the side that is not dragged stays.
     if (FHandle.MovesLeft) left = right - Control()->GetWidth();

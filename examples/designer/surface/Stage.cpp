@@ -5,7 +5,6 @@
 
 #include <QEvent>
 #include <QPainter>
-#include <QStyle>
 
 namespace designer {
 
@@ -20,28 +19,34 @@ bool IsTool(const TCustomForm& form) {
   return form.GetBorderStyle() == bsToolWindow || form.GetBorderStyle() == bsSizeToolWin;
 }
 
+enum TCaptionButton { cbClose, cbMaximize, cbMinimize, cbHelp };
+
 /// From the outside inwards.
-std::vector<QStyle::StandardPixmap> ButtonsOf(const TCustomForm& form) {
+std::vector<TCaptionButton> ButtonsOf(const TCustomForm& form) {
   const TBorderIcons icons = form.GetBorderIcons();
   const bool hasAll = form.GetBorderStyle() == bsSingle || form.GetBorderStyle() == bsSizeable;
-  std::vector<QStyle::StandardPixmap> buttons;
+  std::vector<TCaptionButton> buttons;
   if (!icons.Has(biSystemMenu)) return buttons;
-  buttons.push_back(QStyle::SP_TitleBarCloseButton);
-  if (hasAll && icons.Has(biMaximize)) buttons.push_back(QStyle::SP_TitleBarMaxButton);
-  if (hasAll && icons.Has(biMinimize)) buttons.push_back(QStyle::SP_TitleBarMinButton);
-  if (icons.Has(biHelp)) buttons.push_back(QStyle::SP_TitleBarContextHelpButton);
+  buttons.push_back(cbClose);
+  if (hasAll && icons.Has(biMaximize)) buttons.push_back(cbMaximize);
+  if (hasAll && icons.Has(biMinimize)) buttons.push_back(cbMinimize);
+  if (icons.Has(biHelp)) buttons.push_back(cbHelp);
   return buttons;
 }
 
-/// The style's own picture in the colour of the caption's text, which it may not go with.
-QPixmap Tinted(const QPixmap& picture, const QColor& color) {
-  QPixmap tinted(picture.size());
-  tinted.setDevicePixelRatio(picture.devicePixelRatio());
-  tinted.fill(color);
-  QPainter painter(&tinted);
-  painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-  painter.drawPixmap(0, 0, picture);
-  return tinted;
+/// With the present pen. Styles have pictures of their own, but for the colours of their own captions.
+void PaintButton(QPainter& painter, TCaptionButton button, const QRectF& box) {
+  switch (button) {
+    case cbClose:
+      painter.drawLine(box.topLeft(), box.bottomRight());
+      return painter.drawLine(box.topRight(), box.bottomLeft());
+    case cbMaximize:
+      return painter.drawRect(box);
+    case cbMinimize:
+      return painter.drawLine(box.bottomLeft(), box.bottomRight());
+    case cbHelp:
+      return painter.drawText(box.adjusted(-4, -4, 4, 4), Qt::AlignCenter, QStringLiteral("?"));
+  }
 }
 
 }  // namespace
@@ -121,13 +126,15 @@ void TStage::PaintCaption(QPainter& painter, const QRect& place) {
   const QColor text = isActive ? palette().color(QPalette::HighlightedText) : QColor(Qt::white);
   const TCustomForm& form = FSession.Form();
   QRect rest = place.adjusted(8, 0, -4, 0);
-  for (const QStyle::StandardPixmap button : ButtonsOf(form)) {
-    const int size = fontMetrics().height();
-    const QRect box(rest.right() - size, rest.center().y() - size / 2, size, size);
-    const QIcon icon = style()->standardIcon(button, nullptr, this);
-    painter.drawPixmap(box, Tinted(icon.pixmap(box.size(), devicePixelRatioF()), text));
-    rest.setRight(box.left() - 6);
+  painter.setPen(QPen(text, 1.5));
+  painter.setRenderHint(QPainter::Antialiasing);
+  const int size = fontMetrics().height() * 2 / 3;
+  for (const TCaptionButton button : ButtonsOf(form)) {
+    const QRectF box(rest.right() - size, rest.center().y() - size / 2, size, size);
+    PaintButton(painter, button, box);
+    rest.setRight(qRound(box.left()) - size);
   }
+  painter.setRenderHint(QPainter::Antialiasing, false);
   QFont bold = font();
   bold.setBold(true);
   painter.setFont(bold);

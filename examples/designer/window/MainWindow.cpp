@@ -139,8 +139,8 @@ void TMainWindow::UpdateStatus() {
 
 void TMainWindow::ShowOff() {
   const std::vector<TComponent*> all = FSession.Components();
-  const auto isWindow = [](TComponent* component) { return dynamic_cast<TWinControl*>(component) != nullptr; };
-  const auto found = std::find_if(all.begin() + 1, all.end(), isWindow);
+  const auto hasCaption = [](TComponent* component) { return component->ClassType()->FindProp(u"Caption") != nullptr; };
+  const auto found = std::find_if(all.begin() + 1, all.end(), hasCaption);
   FSession.Select(found == all.end() ? all.front() : *found);
   TDesignInspector& inspector = FPanel->Inspector();
   inspector.Rescan();

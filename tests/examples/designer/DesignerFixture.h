@@ -5,7 +5,8 @@
 #include "designer/surface/Surface.h"
 #include "designer/tree/ComponentTree.h"
 #include "designer/window/MainWindow.h"
-#include "kt/vcl/grids/InplaceEdit.h"
+#include "kt/rtl/strings/StringList.h"
+#include "support/Print.h"
 
 #include <QAction>
 #include <QApplication>
@@ -192,10 +193,9 @@ class TDesignerTest : public testing::Test {
   void Pick(const QString& path, const QString& value) {
     GoToRow(path);
     Key(Qt::Key_Down, Qt::AltModifier);
-    Key(Qt::Key_Home);
-    auto* edit = Inspector().InplaceEditor();
-    for (int i = 0; i < 200 && edit->GetText() != value; ++i) Key(Qt::Key_Down);
-    EXPECT_EQ(edit->GetText(), value);
+    kt::TStringList& list = Item(path).GetPickList();
+    const int steps = list.IndexOf(value) - list.IndexOf(Value(path));
+    for (int i = 0; i < std::abs(steps); ++i) Key(steps > 0 ? Qt::Key_Down : Qt::Key_Up);
     Key(Qt::Key_Return);
   }
 
