@@ -1,5 +1,7 @@
 #include "inspectdump/InspectedForm.h"
 
+#include "inspectdump/InspectedText.h"
+
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Make.h"
 #include "kt/rtl/streams/FileSaving.h"
@@ -16,28 +18,6 @@ TStreamOriginalFormat FormatOf(const QString& fileName) {
   if (!file.open(QIODevice::ReadOnly)) return sofUnknown;
   const TStreamOriginalFormat format = TestStreamFormat(file.readAll());
   return format == sofUnknown ? sofText : format;
-}
-
-/// A value as part of a line: line breaks show as \r and \n, and a backslash as two.
-QString InOneLine(QString value) {
-  value.replace(u'\\', QLatin1StringView("\\\\"));
-  return value.replace(u'\r', QLatin1StringView("\\r")).replace(u'\n', QLatin1StringView("\\n"));
-}
-
-QString TextOfItems(TKTItemProperties& items, int level) {
-  QString text;
-  for (int i = 0; i < items.GetCount(); ++i) {
-    TKTItemProperty& item = *items.GetItem(i);
-    const QString indent(2 * level, u' ');
-    if (item.GetCategory()) {
-      text += QStringLiteral("%1[%2]\n").arg(indent, item.GetName());
-    } else {
-      const QString mark = item.IsModified() ? QStringLiteral("* ") : QStringLiteral("  ");
-      text += QStringLiteral("%1%2%3 = %4\n").arg(indent, mark, item.GetName(), InOneLine(item.GetValueLine(0)));
-    }
-    if (item.HasItems()) text += TextOfItems(item.GetItems(), level + 1);
-  }
-  return text;
 }
 
 }  // namespace
@@ -63,10 +43,9 @@ void TInspectedForm::Inspect(TComponent* component) {
 }
 
 QString TInspectedForm::TextOf(TComponent* component, int level) {
-  Inspect(component);
   const QString indent(2 * level, u' ');
   QString text = QStringLiteral("%1%2: %3\n").arg(indent, component->GetName(), component->ClassName());
-  text += TextOfItems(FInspector->GetItems(), level + 1);
+  text += TextOfProperties(*FInspector, component, level + 1);
   for (int i = 0; i < component->GetComponentCount(); ++i) {
     TComponent* child = component->GetComponents(i);
     if (!child->GetComponentStyle().Has(csSubComponent)) text += TextOf(child, level + 1);

@@ -1,6 +1,6 @@
 #include "kt/rtl/objects/Exceptions.h"
-#include "kt/rtl/streams/BinaryFormParser.h"
 #include "kt/rtl/streams/FormConversion.h"
+#include "kt/rtl/streams/FormTextEdit.h"
 #include "kt/rtl/streams/Reader.h"
 #include "kt/rtl/streams/TextPlaces.h"
 #include "kt/rtl/streams/UnknownComponent.h"
@@ -9,11 +9,8 @@
 #include "ktform/Commands.h"
 #include "ktform/EncodingOption.h"
 #include "ktform/FormFile.h"
-#include "ktform/FormTextEdit.h"
 #include "ktform/KeptValue.h"
 #include "ktform/PublishedValue.h"
-
-#include <QtEndian>
 
 #include <memory>
 
@@ -73,33 +70,6 @@ void Assign(kt::TComponent* root, const QString& assignment) {
   }
 }
 
-/// The binary form `original` with the changes, and else as it was.
-QByteArray EditBinaryForm(const QByteArray& original, const QByteArray& before, const QByteArray& after) {
-  QByteArray text;
-  kt::ObjectBinaryToText(original, text);
-  QByteArray binary;
-  kt::ObjectTextToBinary(EditFormText(text, before, after), binary);
-  return binary;
-}
-
-/// The file `original` with another form in it: the name, number and flags of a resource header stay, and so does what
-/// follows the form.
-QByteArray WithForm(const QByteArray& original, const QByteArray& form, kt::TEightBitEncoding encoding) {
-  kt::TBinaryReader reader(original);
-  reader.SetEncoding(encoding);
-  const bool isResource = reader.IsAtResourceHeader();
-  const qint64 oldSize = isResource ? reader.ReadResourceHeader() : 0;
-  QByteArray result = original.first(reader.Position());
-  kt::TIdleFormSink nowhere;
-  kt::TBinaryFormParser(reader, nowhere).ParseForm();
-  const qint64 oldForm = reader.Position() - result.size();
-  if (isResource) {
-    const auto size = static_cast<quint32>(oldSize - oldForm + form.size());
-    qToLittleEndian(size, result.data() + result.size() - sizeof(size));
-  }
-  return result + form + original.sliced(reader.Position());
-}
-
 /// A form as the writer writes it, without and with the changes.
 struct TWrittenForms {
   QByteArray Before;
@@ -119,13 +89,7 @@ TWrittenForms WrittenForms(const QByteArray& form, const QByteArray& binary, con
 QByteArray Changed(const QByteArray& form, const QStringList& assignments, kt::TEightBitEncoding encoding) {
   const QByteArray binary = BinaryOf(form, encoding);
   const auto [before, after] = WrittenForms(form, binary, assignments, encoding);
-  switch (kt::TestStreamFormat(form)) {
-    case kt::sofBinary:
-    case kt::sofResource:
-      return WithForm(form, EditBinaryForm(binary, before, after), encoding);
-    default:
-      return EditFormText(form, before, after, encoding);
-  }
+  return kt::EditFormFile(form, before, after, encoding);
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include "designer/document/DocumentErrors.h"
 
 #include "kt/rtl/conversions/EightBit.h"
-#include "kt/rtl/typeinfo/Event.h"
 #include "kt/vcl/forms/Form.h"
 
 #include <QByteArray>
@@ -11,6 +10,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <exception>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -85,7 +85,8 @@ class TFormDocument {
   std::function<void()> OnFormLeaving;
   std::function<void()> OnFormReplaced;
 
-  /// The steps, with their texts; for menus and for signals. Undoing through it is the same as Undo().
+  /// The steps, with their texts; for menus and for signals. Undoing through it is the same as Undo(), but what is
+  /// raised goes to the exception handler (kt::HandleException()).
   QUndoStack& UndoStack() const { return *FUndoStack; }
   /// Makes what changed in the live form since the last commit one step named `text`; false when nothing changed. Steps
   /// with the same key, unless it is empty, that follow each other become one: arrow keys, typing into one property.
@@ -125,18 +126,26 @@ class TFormDocument {
  private:
   class TStep;
 
-  explicit TFormDocument(const QByteArray& file, kt::TEightBitEncoding encoding);
-  void ReplaceForm(const QByteArray& snapshot);
-  void GoTo(const QByteArray& snapshot);
+  TFormDocument(const QByteArray& file, kt::TEightBitEncoding encoding);
+  void Walk(void (QUndoStack::*step)());
+  void RunStep(const QByteArray& state);
+  void ReplaceForm(const QByteArray& state);
+  void RequireOnForm(const kt::TComponent* component) const;
+  QString NewNameBeside(const QString& className, const QStringList& others) const;
+  kt::TComponent* TakesControls(kt::TComponent* component) const;
 
   QString FFileName;
-  QByteArray FFile;
   kt::TEightBitEncoding FEncoding;
-  std::unique_ptr<kt::TCustomForm> FForm;
-  std::unique_ptr<QUndoStack> FUndoStack;
-  /// The form as it was written when the file was opened or saved, and at the last step.
+  /// The file as it was opened or saved last, and the form as it was written then.
+  QByteArray FFile;
   QByteArray FFileState;
+  std::unique_ptr<kt::TCustomForm> FForm;
+  /// The form as it was written after the last step.
   QByteArray FState;
+  /// What a step has raised below Undo() or Redo(); outside of these it goes to the exception handler.
+  std::exception_ptr FStepError;
+  bool FKeepsStepErrors = false;
+  std::unique_ptr<QUndoStack> FUndoStack;
 };
 
 }  // namespace designer

@@ -56,6 +56,7 @@ class TReader : public TFiler {
   using TFindClassEvent = std::function<const TClassInfo*(const QString& className)>;
   using TCreateComponentEvent = std::function<TComponent*(const TClassInfo* classInfo, TComponent* owner)>;
   using TSetNameEvent = std::function<void(TComponent* component, QString& name)>;
+  using TReferenceNameEvent = std::function<void(QString& name)>;
   using TErrorEvent = std::function<bool(const QString& message)>;
 
   /// Reads from `data`, which is shared, not copied.
@@ -68,12 +69,15 @@ class TReader : public TFiler {
   TUnknownPolicy UnknownClasses = upRaise;
   TUnknownPolicy UnknownProperties = upRaise;
   /// Finds the handler of an event by name; asked when the root has no published method of that name. An empty answer
-  /// is a property that cannot be read.
+  /// is a property that cannot be read, unless the root is what a designer edits (csDesignInstance): it gets a method
+  /// that is known by its name only.
   TFindMethodEvent OnFindMethod;
   /// Finds a class, in place of the registered one too; null for that one.
   TFindClassEvent OnFindComponentClass;
   /// Creates a component in another way; null for the usual one.
   TCreateComponentEvent OnCreateComponent;
+  /// May change the name by which a property refers to a component.
+  TReferenceNameEvent OnReferenceName;
   /// May change the name that a component gets.
   TSetNameEvent OnSetName;
   /// Asked for every property that cannot be read; true passes over it, false stops the load.

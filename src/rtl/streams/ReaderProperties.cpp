@@ -221,7 +221,10 @@ void TReader::ReadReference(TPersistent* instance, const TPropInfo* property) {
     FInput.ReadValue();
     return SetInterfaceProp(instance, property, nullptr);
   }
-  FLoad->Fixups().Add({instance, property, FScope, FInput.ReadIdent(), FPropPath.Instance, FPropPath.Path,
+  QString name = FInput.ReadIdent();
+  if (OnReferenceName) OnReferenceName(name);
+  CheckNothingLost();
+  FLoad->Fixups().Add({instance, property, FScope, name, FPropPath.Instance, FPropPath.Path,
                        UnknownClasses == upKeep, FPropPath.Start});
 }
 
@@ -234,6 +237,9 @@ void TReader::ReadMethodValue(TPersistent* instance, const TPropInfo* property) 
   const QString name = FInput.ReadIdent();
   TMethod method = FRoot ? FRoot->ClassType()->FindMethod(name, FRoot) : TMethod();
   if (method.IsEmpty() && OnFindMethod) method = OnFindMethod(name);
+  // The code of a form that is being designed is elsewhere.
+  if (method.IsEmpty() && FRoot && FRoot->HasState(csDesignInstance))
+    method = NamedMethod(property->PropType(), FRoot, name);
   CheckNothingLost();
   if (!method.IsEmpty()) return SetMethodProp(instance, property, method);
   // A handler that the application does not have is as unknown as a property.

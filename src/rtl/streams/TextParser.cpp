@@ -31,12 +31,23 @@ void TTextParser::Push(TFrameKind kind) {
 }
 
 void TTextParser::ParseForm() {
-  FFrames.clear();
   FLexer.Next();
+  ParseObject();
+  if (FLexer.Kind() != ttEnd) Fail(SDataAfterForm);
+}
+
+void TTextParser::ParseObjects() {
+  FLexer.Next();
+  do {
+    ParseObject();
+  } while (FLexer.Kind() != ttEnd);
+}
+
+void TTextParser::ParseObject() {
+  FFrames.clear();
   if (!IsObjectNext()) Fail(SSymbolExpected, u"OBJECT");
   BeginObject();
   while (!FFrames.empty()) Step();
-  if (FLexer.Kind() != ttEnd) Fail(SDataAfterForm);
 }
 
 void TTextParser::Step() {

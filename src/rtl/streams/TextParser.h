@@ -32,12 +32,16 @@ class TTextParser {
   /// The root object and then the end of the text.
   void ParseForm();
 
+  /// One object or several, one behind the other, and then the end of the text: what a clipboard holds.
+  void ParseObjects();
+
   /// Where the object, item or property begins that was the last to begin. For sinks that tell the user.
   TTextPosition Place() const { return FLexer.PositionOf(FPlace); }
 
  private:
   enum TFrameKind : quint8 { fkProperties, fkChildren, fkList, fkCollection, fkItem };
 
+  void ParseObject();
   void Step();
   void StepProperties();
   void StepChildren();

@@ -155,28 +155,35 @@ std::vector<TComponent*> TWriter::AncestorChildren() {
   return children;
 }
 
-/// The children that the component names, with the stand-ins among them at the places they had in the stream.
-void TWriter::WriteChildren(TComponent* instance) {
-  const TKeptData* kept = FindKeptData(instance);
+std::vector<TComponent*> TWriter::ChildrenOf(TComponent* parent, TComponent* root) {
+  const TKeptData* kept = FindKeptData(parent);
   std::vector<TKeptData::TChild> standIns;
   if (kept) standIns = kept->Children;
-  TChildOrder order(AncestorChildren());
+  std::vector<TComponent*> children;
   size_t next = 0;
-  int position = 0;
-  const auto writeStandIns = [&] {
+  const auto takeStandIns = [&](int position) {
     for (; next < standIns.size() && standIns[next].Position <= position; ++next, ++position) {
-      WriteComponent(standIns[next].Component);
+      children.push_back(standIns[next].Component);
     }
   };
-  instance->GetChildren(
+  parent->GetChildren(
       [&](TComponent* child) {
-        if (IsWrittenElsewhere(child, instance) || child->GetComponentStyle().Has(csSubComponent)) return;
-        writeStandIns();
-        WriteComponent(child, order.Next(FindAncestor(child)));
-        ++position;
+        if (IsWrittenElsewhere(child, parent) || child->GetComponentStyle().Has(csSubComponent)) return;
+        takeStandIns(static_cast<int>(children.size()));
+        children.push_back(child);
       },
-      FRoot);
-  for (; next < standIns.size(); ++next) WriteComponent(standIns[next].Component);
+      root);
+  takeStandIns(std::numeric_limits<int>::max() - static_cast<int>(standIns.size()));
+  return children;
+}
+
+void TWriter::WriteChildren(TComponent* instance) {
+  TChildOrder order(AncestorChildren());
+  for (TComponent* child : ChildrenOf(instance, FRoot)) {
+    // A stand-in has no counterpart: what it would be in the ancestor is not known.
+    const bool isStandIn = AsUnknown(child) && child->HasParent() && !AsUnknown(instance);
+    WriteComponent(child, isStandIn ? std::nullopt : order.Next(FindAncestor(child)));
+  }
 }
 
 /// The counterpart, looked for where a reader would: in that of the form or nested form that owns the component.

@@ -44,6 +44,9 @@ class TWriter : public TFiler {
   void WriteComponents(const std::vector<TComponent*>& components, TComponent* root);
   /// What has been written.
   QByteArray Data();
+  /// The children that are written below a component, in that order; stand-ins for unknown classes stand where they had
+  /// their places. `root` is the form.
+  static std::vector<TComponent*> ChildrenOf(TComponent* parent, TComponent* root);
 
   void DefineProperty(QStringView name, const TReaderProc& read, const TWriterProc& write, bool hasData) override;
   void DefineBinaryProperty(QStringView name, const TReadBinaryProc& read, const TWriteBinaryProc& write,

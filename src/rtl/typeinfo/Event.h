@@ -3,6 +3,7 @@
 #include "kt/rtl/objects/Object.h"
 
 #include <QSharedData>
+#include <QString>
 
 #include <concepts>
 #include <functional>
@@ -24,6 +25,8 @@ class TEventHandler : public QSharedData {
   TObject* Instance() const { return FInstance; }
   /// True when both call the same method of the same object.
   virtual bool IsSameAs(const TEventHandler& other) const { return this == &other; }
+  /// What a method is called that is known by its name only, as those of a form in a designer; empty for others.
+  virtual QString MethodName() const { return QString(); }
 
  private:
   const std::type_info* FSignature;
@@ -87,6 +90,22 @@ class TMemberHandler final : public TTypedHandler<A...> {
   TMember FMember;
 };
 
+/// Stands for a method whose code is not here. Calling it does nothing.
+template <class... A>
+class TNamedHandler final : public TTypedHandler<A...> {
+ public:
+  TNamedHandler(TObject* object, QString name) : TTypedHandler<A...>(object), FName(std::move(name)) {}
+  void Call(A...) const override {}
+  bool IsSameAs(const TEventHandler& other) const override {
+    const auto* same = dynamic_cast<const TNamedHandler*>(&other);
+    return same && same->Instance() == this->Instance() && same->FName.compare(FName, Qt::CaseInsensitive) == 0;
+  }
+  QString MethodName() const override { return FName; }
+
+ private:
+  QString FName;
+};
+
 }  // namespace Events
 
 /// An event: a place for one handler with the parameters `A`. Empty when unset; calling an empty event does nothing.
@@ -114,6 +133,13 @@ class TEvent : public TMethod {
   template <class F>
   requires(std::invocable<F&, A...> && !std::derived_from<std::remove_cvref_t<F>, TMethod>) TEvent(F function)
       : TMethod(new Events::TFunctionHandler<F, A...>(std::move(function))) {}
+
+  /// A method of `object` that is known by its name only: a designer shows and streams it, and nothing runs.
+  static TMethod Named(TObject* object, const QString& name) {
+    TEvent event;
+    event.FHandler = new Events::TNamedHandler<A...>(object, name);
+    return event;
+  }
 
   static const std::type_info& Signature() { return typeid(void(A...)); }
   static bool Accepts(const TMethod& method) {

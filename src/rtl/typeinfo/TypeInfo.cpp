@@ -105,6 +105,11 @@ const TClassInfo* ClassOf(const TTypeInfo* type) {
   return classType ? classType->ClassType() : nullptr;
 }
 
+TMethod NamedMethod(const TTypeInfo* type, TObject* object, const QString& name) {
+  const auto* methods = dynamic_cast<const TMethodTypeInfo*>(type);
+  return methods ? methods->Namer()(object, name) : TMethod();
+}
+
 bool IsBoolType(const TTypeInfo* type) {
   const TEnumTypeInfo* enumeration = EnumTypeOf(type);
   return enumeration && enumeration->BaseType() == TypeInfoOf<bool>();

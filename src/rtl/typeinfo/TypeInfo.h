@@ -9,6 +9,8 @@
 namespace kt {
 
 class TClassInfo;
+class TMethod;
+class TObject;
 
 /// A type that published properties can have: its kind, its declared name and, in the descendants, what belongs to the
 /// kind. A type of a kind that has a descendant must be one: whoever needs what belongs to the kind raises
@@ -141,6 +143,21 @@ class TArrayTypeInfo : public TTypeInfo {
   const TTypeInfo* FElement;
 };
 
+/// tkMethod: the events of C++ classes; a type made at run time may be a plain TTypeInfo.
+class TMethodTypeInfo : public TTypeInfo {
+ public:
+  using TNamer = TMethod (*)(TObject* object, const QString& name);
+
+  TMethodTypeInfo(QString name, TNamer namer) : TTypeInfo(tkMethod, std::move(name)), FNamer(namer) {}
+  TNamer Namer() const { return FNamer; }
+
+ private:
+  TNamer FNamer;
+};
+
+/// A method of `object` that an event of this type can hold and that is known by its name only, for form designers.
+/// Empty when the type cannot make one.
+TMethod NamedMethod(const TTypeInfo* type, TObject* object, const QString& name);
 /// Raises EPropertyError when the type is not made of the class that its kind says.
 void CheckTypeInfo(const TTypeInfo* type);
 /// The ordinal data of a type, or null for types that are not ordinal.

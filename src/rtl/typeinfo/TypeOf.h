@@ -174,7 +174,7 @@ requires(!std::derived_from<I, TObject>) struct TTypeOf<I*> {
 template <IsEvent T>
 struct TTypeOf<T> {
   static const TTypeInfo* Info() {
-    static const TTypeInfo info(tkMethod, QString::fromLatin1(T::TypeName));
+    static const TMethodTypeInfo info(QString::fromLatin1(T::TypeName), &T::Named);
     return &info;
   }
 };

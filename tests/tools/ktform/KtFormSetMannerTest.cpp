@@ -1,7 +1,7 @@
 // What an edit leaves of the file as it was: everything but the value.
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/streams/FormConversion.h"
-#include "ktform/FormTextEdit.h"
+#include "kt/rtl/streams/FormTextEdit.h"
 #include "tools/ktform/KtFormFixture.h"
 
 namespace {
@@ -112,7 +112,7 @@ TEST_F(KtFormSetMannerTest, AnOld8BitFileCannotTakeANameThatItLacks) {
   kt::ObjectTextToBinary(original, before);
   const QByteArray after = QByteArray(before).replace("\3red", "\2\xD0\xB6");
   EXPECT_EQ(QStringLiteral("the encoding of the file lacks a character of a name"),
-            kt::tests::MessageOf<kt::EWriteError>([&] { ktform::EditFormText(original, before, after); }));
+            kt::tests::MessageOf<kt::EWriteError>([&] { kt::EditFormText(original, before, after); }));
 }
 
 /// As no program would write it.

@@ -225,10 +225,10 @@ TEST_F(KtFormSetPublishedTest, ANewNameIsPutIntoTheHeaderAndTheReferences) {
   EXPECT_EQ(QByteArray(kPublishedForm).replace("Other1", "Renamed"), Set(kPublishedForm, {"Other1.Name=Renamed"}));
 }
 
-TEST_F(KtFormSetPublishedTest, ObjectsThatAreSavedInAnotherOrderAreWrittenAnew) {
+TEST_F(KtFormSetPublishedTest, ObjectsThatAreSavedInAnotherOrderStayInThatOfTheFile) {
   EXPECT_EQ(
-      "object Root: TBackwards\r\n  object B: TBackwards\r\n    Tag = 1\r\n  end\r\n"
-      "  object A: TBackwards\r\n    Tag = 2\r\n  end\r\nend\r\n",
+      "object Root: TBackwards\r\n object A: TBackwards\r\n  Tag=2\r\n end\r\n"
+      " object B: TBackwards\r\n  Tag=1\r\n end\r\nend\r\n",
       Set("object Root: TBackwards\r\n object A: TBackwards\r\n  Tag=1\r\n end\r\n"
           " object B: TBackwards\r\n  Tag=1\r\n end\r\nend\r\n",
           {"A.Tag=2"}));
@@ -259,12 +259,10 @@ TEST_F(KtFormSetPublishedTest, APropertyBeforeACollectionStaysThere) {
                 {"Foreign=2"}));
 }
 
-/// Then nobody can tell which item is which.
-TEST_F(KtFormSetPublishedTest, CollectionsInAnotherOrderAreWrittenAnew) {
+TEST_F(KtFormSetPublishedTest, CollectionsInAnotherOrderStayInThatOfTheFile) {
   EXPECT_EQ(
-      "object Sample1: TSample\n  Whole = 1\n  Small = 0\n  Color = 0\n  Items = <\n    item\n      Caption = 'y'\n"
-      "      Children = <>\n    end>\n"
-      "  Foreign = <\n    item\n      Caption = 'x'\n    end>\nend\n",
+      "object Sample1: TSample\n  Whole = 1\n  Foreign = <\n    item\n      Caption = 'x'\n    end>\n  Items = <\n"
+      "    item\n      Caption = 'y'\n    end>\nend\n",
       Set("object Sample1: TSample\n  Foreign = <\n    item\n      Caption = 'x'\n    end>\n  Items = <\n"
           "    item\n      Caption = 'y'\n    end>\nend\n",
           {"Whole=1"}));

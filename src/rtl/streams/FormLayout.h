@@ -5,10 +5,11 @@
 #include <QString>
 #include <QStringView>
 
+#include <limits>
 #include <span>
 #include <vector>
 
-namespace ktform {
+namespace kt {
 
 /// Numbers for the names and paths of several texts, so that these are kept once and compared as numbers. ASCII letters
 /// are the same in either case, as names in forms are.
@@ -29,6 +30,9 @@ struct TPropertyKey {
   friend auto operator<=>(const TPropertyKey&, const TPropertyKey&) = default;
 };
 
+/// Stands for an object or number that is not there.
+inline constexpr quint32 kNoPlace = std::numeric_limits<quint32>::max();
+
 /// Where one property stands in the text of a form. All places are offsets in its bytes. A form has many of them.
 struct TPropertyPlace {
   TPropertyKey Key;
@@ -37,17 +41,23 @@ struct TPropertyPlace {
   quint32 AfterSign;  ///< Behind the equals sign.
   quint32 ValueFrom;
   quint32 To;         ///< Behind the value.
-  bool IsCollection;  ///< The items stand in the list of objects.
+  quint32 FirstItem;  ///< Of a collection: the place of its first item in the list of objects, if it has any; else kNoPlace.
+
+  bool IsCollection() const { return FirstItem != kNoPlace; }
 };
 
 /// Where one object stands, or one item of a collection.
 struct TObjectPlace {
-  quint32 Name;       ///< Its number; of an item: that of its collection's path.
-  quint32 Number;     ///< Of an item: which of several collections with that path, from 1; else 0.
-  quint32 ClassName;  ///< Its number; of an item: that of "item".
+  quint32 Name;       ///< Its number; of an item kNoPlace.
+  quint32 ClassName;  ///< Its number; of an item that of "item".
   quint32 From;       ///< The header.
   quint32 To;
+  quint32 End;   ///< Behind its last word.
+  quint32 Next;  ///< The object that follows it and all that is in it.
   quint32 FirstProperty;
+
+  bool IsItem() const { return Name == kNoPlace; }
+  bool IsSameObject(const TObjectPlace& other) const { return Name == other.Name && ClassName == other.ClassName; }
 };
 
 /// What stands where in the text of a form.
@@ -58,9 +68,13 @@ struct TFormLayout {
   bool HasCodedStrings = false;            ///< A string has them as numbers only.
 
   std::span<const TPropertyPlace> PropertiesOf(std::size_t object) const;
+  /// The objects below one, as places in the list; not its items.
+  std::vector<quint32> ChildrenOf(std::size_t object) const;
+  /// The items of a collection, as places in the list.
+  std::vector<quint32> ItemsOf(const TPropertyPlace& collection) const;
 };
 
 /// `utf8` must be a form that a parser has taken. Raises EReadError when it has 4 GiB or more.
 TFormLayout FindLayout(const QByteArray& utf8, TFormWords& words);
 
-}  // namespace ktform
+}  // namespace kt

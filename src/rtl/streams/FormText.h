@@ -6,7 +6,7 @@
 
 #include <optional>
 
-namespace ktform {
+namespace kt {
 
 /// How the bytes of a text file stand for its characters.
 enum TTextEncoding : quint8 { teUtf8, teUtf8Marked, teUtf16Little, teUtf16Big, teEightBit };
@@ -15,7 +15,7 @@ enum TTextEncoding : quint8 { teUtf8, teUtf8Marked, teUtf16Little, teUtf16Big, t
 struct TFormText {
   TTextEncoding Encoding;
   /// What the bytes from 128 up mean where Encoding is teEightBit.
-  kt::TEightBitEncoding EightBit;
+  TEightBitEncoding EightBit;
   /// The line end that most lines have; LF where there is none.
   QByteArray LineEnd;
   /// UTF-8 without a mark, lines ended as in the file.
@@ -23,9 +23,9 @@ struct TFormText {
 };
 
 /// `eightBit` counts for what is neither marked nor UTF-8. Throws EParserError for bytes that are no text.
-TFormText DecodeText(const QByteArray& file, kt::TEightBitEncoding eightBit);
+TFormText DecodeText(const QByteArray& file, TEightBitEncoding eightBit);
 
 /// The bytes of a file in the encoding of `manner` that holds `utf8`, or none when it lacks one of the characters.
 std::optional<QByteArray> EncodeText(const QByteArray& utf8, const TFormText& manner);
 
-}  // namespace ktform
+}  // namespace kt

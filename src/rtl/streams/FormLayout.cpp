@@ -1,4 +1,4 @@
-#include "ktform/FormLayout.h"
+#include "kt/rtl/streams/FormLayout.h"
 
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/streams/TextLexer.h"
@@ -7,7 +7,7 @@
 #include <limits>
 #include <utility>
 
-namespace ktform {
+namespace kt {
 namespace {
 
 bool HasBeyondAscii(QStringView text) {
@@ -29,7 +29,7 @@ class TLayoutScan {
 
   TFormLayout Run() {
     FLexer.Next();
-    while (FLexer.Kind() != kt::ttEnd) Step();
+    while (FLexer.Kind() != ttEnd) Step();
     GroupProperties();
     return std::move(FLayout);
   }
@@ -47,7 +47,7 @@ class TLayoutScan {
 
   void Step() {
     if (FLexer.IsWord("end"))
-      Take();
+      EndObject();
     else if (FLexer.IsWord("object") || FLexer.IsWord("inherited") || FLexer.IsWord("inline"))
       Object();
     else
@@ -62,11 +62,24 @@ class TLayoutScan {
     if (FLexer.IsSymbol('[')) object.To = Index();
     FCounts.clear();
     FObject = Add(object);
+    FOpen.push_back(FObject);
+  }
+
+  void EndObject() {
+    const quint32 end = Take();
+    if (FOpen.empty()) return;
+    Close(FOpen.back(), end);
+    FOpen.pop_back();
   }
 
   quint32 Add(const TObjectPlace& object) {
     FLayout.Objects.push_back(object);
     return quint32(FLayout.Objects.size() - 1);
+  }
+
+  void Close(quint32 object, quint32 end) {
+    FLayout.Objects[object].End = end;
+    FLayout.Objects[object].Next = quint32(FLayout.Objects.size());
   }
 
   void Names(TObjectPlace& object) {
@@ -78,7 +91,7 @@ class TLayoutScan {
     if (!FLexer.IsSymbol(':')) return;
     std::swap(object.Name, object.ClassName);
     object.To = Take();
-    if (FLexer.IsOnNewLine() || FLexer.Kind() != kt::ttIdentifier) return;
+    if (FLexer.IsOnNewLine() || FLexer.Kind() != ttIdentifier) return;
     object.ClassName = FWords.NumberOf(FLexer.Text());
     object.To = Take();
   }
@@ -98,34 +111,35 @@ class TLayoutScan {
     property.Key.Number = counts[property.Key.Path]++;
     property.AfterSign = Take();
     property.ValueFrom = From();
-    property.IsCollection = FLexer.IsSymbol('<');
-    property.To = property.IsCollection ? Collection(property.Key) : Value();
+    const bool isCollection = FLexer.IsSymbol('<');
+    property.FirstItem = isCollection ? quint32(FLayout.Objects.size()) : kNoPlace;
+    property.To = isCollection ? Collection() : Value();
     FLayout.Properties.push_back(property);
   }
 
   quint32 Path() {
     FPath.resize(0);
     while (!FLexer.IsSymbol('=')) {
-      FPath += FLexer.Kind() == kt::ttIdentifier ? FLexer.Text() : QStringView(u".");
+      FPath += FLexer.Kind() == ttIdentifier ? FLexer.Text() : QStringView(u".");
       Take();
     }
     return FWords.NumberOf(FPath);
   }
 
-  quint32 Collection(const TPropertyKey& key) {
+  quint32 Collection() {
     Take();
-    while (!FLexer.IsSymbol('>')) Item(key);
+    while (!FLexer.IsSymbol('>')) Item();
     return Take();
   }
 
-  void Item(const TPropertyKey& collection) {
-    TObjectPlace item{collection.Path, collection.Number + 1, FItemWord, From(), 0, 0};
+  void Item() {
+    TObjectPlace item{kNoPlace, FItemWord, From(), 0, 0, 0, 0};
     item.To = Take();
     if (FLexer.IsSymbol('[')) item.To = Index();
     const quint32 object = Add(item);
     TPathCounts counts;
     while (!FLexer.IsWord("end")) Property(object, counts);
-    Take();
+    Close(object, Take());
   }
 
   /// So far they came as their values ended.
@@ -149,7 +163,7 @@ class TLayoutScan {
       if (FLexer.IsSymbol('(') || FLexer.IsSymbol('[')) ++depth;
       if (FLexer.IsSymbol(')') || FLexer.IsSymbol(']')) --depth;
       if (FLexer.IsSymbol('{')) FLexer.ReadHex();
-      if (FLexer.Kind() == kt::ttString) NoteString();
+      if (FLexer.Kind() == ttString) NoteString();
       end = Take();
     } while (depth > 0);
     return end;
@@ -162,14 +176,15 @@ class TLayoutScan {
       FLayout.HasCodedStrings = true;
   }
 
-  kt::TTextLexer FLexer;
+  TTextLexer FLexer;
   const char* FBase;
   TFormWords& FWords;
   const quint32 FItemWord;
   TFormLayout FLayout;
   QString FPath;
-  quint32 FObject = 0;  ///< Whose properties stand outside of collections.
-  TPathCounts FCounts;  ///< Of that object.
+  std::vector<quint32> FOpen;  ///< Objects, the innermost last.
+  quint32 FObject = 0;         ///< Whose properties stand outside of collections.
+  TPathCounts FCounts;         ///< Of that object.
 };
 
 QChar AsciiLower(QChar c) { return c >= u'A' && c <= u'Z' ? QChar(c.unicode() + (u'a' - u'A')) : c; }
@@ -192,10 +207,24 @@ std::span<const TPropertyPlace> TFormLayout::PropertiesOf(std::size_t object) co
   return std::span(Properties).subspan(first, end - first);
 }
 
+std::vector<quint32> TFormLayout::ChildrenOf(std::size_t object) const {
+  std::vector<quint32> children;
+  for (quint32 at = quint32(object) + 1; at < Objects[object].Next; at = Objects[at].Next)
+    if (!Objects[at].IsItem()) children.push_back(at);
+  return children;
+}
+
+std::vector<quint32> TFormLayout::ItemsOf(const TPropertyPlace& collection) const {
+  std::vector<quint32> items;
+  quint32 at = collection.FirstItem;
+  for (; at < Objects.size() && Objects[at].From < collection.To; at = Objects[at].Next) items.push_back(at);
+  return items;
+}
+
 TFormLayout FindLayout(const QByteArray& utf8, TFormWords& words) {
   if (utf8.size() > qsizetype(std::numeric_limits<quint32>::max()))
-    throw kt::EReadError(QStringLiteral("the text of the form is too long"));
+    throw EReadError(QStringLiteral("the text of the form is too long"));
   return TLayoutScan(utf8, words).Run();
 }
 
-}  // namespace ktform
+}  // namespace kt

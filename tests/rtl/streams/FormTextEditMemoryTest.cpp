@@ -1,6 +1,6 @@
 // How much memory changing a form takes: a constant times the size of the form, however many objects it has.
 #include "kt/rtl/streams/FormConversion.h"
-#include "ktform/FormTextEdit.h"
+#include "kt/rtl/streams/FormTextEdit.h"
 #include "support/AllocationWatch.h"
 
 #include <QByteArray>
@@ -30,7 +30,7 @@ double BytesForEachByte(const QByteArray& form) {
   const QByteArray before = BinaryOf(form);
   const QByteArray after = BinaryOf(changed);
   const TAllocationWatch watch;
-  EXPECT_EQ(changed, ktform::EditFormText(form, before, after, kt::eeWindows1252));
+  EXPECT_EQ(changed, kt::EditFormText(form, before, after, kt::eeWindows1252));
   return double(watch.Peak()) / double(form.size());
 }
 
@@ -38,23 +38,23 @@ double BytesForEachByte(const QByteArray& form) {
 /// a property of no less than 12, 24 for an item of no less than 17, in tables that grow to double size.
 constexpr double kMost = 24;
 
-class KtFormMemoryTest : public ::testing::Test {
+class FormTextEditMemoryTest : public ::testing::Test {
  protected:
   void SetUp() override {
     if (!TAllocationWatch::IsPossible()) GTEST_SKIP() << "this C library does not let its allocations be watched";
   }
 };
 
-TEST_F(KtFormMemoryTest, ManyEmptyItemsTakeAConstantTimesTheForm) {
+TEST_F(FormTextEditMemoryTest, ManyEmptyItemsTakeAConstantTimesTheForm) {
   EXPECT_GT(kMost, BytesForEachByte(FormWithItems(20'000, {})));
 }
 
-TEST_F(KtFormMemoryTest, ManyItemsWithPropertiesTakeAConstantTimesTheForm) {
+TEST_F(FormTextEditMemoryTest, ManyItemsWithPropertiesTakeAConstantTimesTheForm) {
   EXPECT_GT(kMost, BytesForEachByte(FormWithItems(20'000, "\n      A = 1")));
   EXPECT_GT(kMost, BytesForEachByte(FormWithItems(10'000, "\n      A = 1\n      B = 1\n      C = 1\n      D = 1")));
 }
 
-TEST_F(KtFormMemoryTest, ManyPropertiesOfOneObjectTakeAConstantTimesTheForm) {
+TEST_F(FormTextEditMemoryTest, ManyPropertiesOfOneObjectTakeAConstantTimesTheForm) {
   QByteArray properties;
   for (int i = 0; i < 20'000; ++i) properties += "\n      P" + QByteArray::number(i) + " = 1";
   EXPECT_GT(kMost, BytesForEachByte(FormWithItems(1, properties)));

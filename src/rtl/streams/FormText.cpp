@@ -1,4 +1,4 @@
-#include "ktform/FormText.h"
+#include "kt/rtl/streams/FormText.h"
 
 #include "kt/rtl/streams/TextEncoding.h"
 
@@ -8,14 +8,14 @@
 #include <algorithm>
 #include <numeric>
 
-namespace ktform {
+namespace kt {
 namespace {
 
 TTextEncoding EncodingOf(const QByteArray& file) {
   if (file.startsWith("\xEF\xBB\xBF")) return teUtf8Marked;
   if (file.startsWith("\xFF\xFE")) return teUtf16Little;
   if (file.startsWith("\xFE\xFF")) return teUtf16Big;
-  return kt::FindInvalidUtf8(file) < 0 ? teUtf8 : teEightBit;
+  return FindInvalidUtf8(file) < 0 ? teUtf8 : teEightBit;
 }
 
 QByteArray LineEndOf(const QByteArray& utf8) {
@@ -26,17 +26,17 @@ QByteArray LineEndOf(const QByteArray& utf8) {
   return pairs >= returns ? "\r\n" : "\r";
 }
 
-QHash<QChar, char> EightBitCodes(kt::TEightBitEncoding encoding) {
+QHash<QChar, char> EightBitCodes(TEightBitEncoding encoding) {
   QByteArray bytes(256, Qt::Uninitialized);
   std::iota(bytes.begin(), bytes.end(), char(0));
   QString characters;
-  kt::DecodeEightBit(bytes, encoding, characters);
+  DecodeEightBit(bytes, encoding, characters);
   QHash<QChar, char> codes;
   for (qsizetype i = 0; i < bytes.size(); ++i) codes.insert(characters[i], bytes[i]);
   return codes;
 }
 
-std::optional<QByteArray> EncodeEightBit(const QString& text, kt::TEightBitEncoding encoding) {
+std::optional<QByteArray> EncodeEightBit(const QString& text, TEightBitEncoding encoding) {
   const QHash<QChar, char> codes = EightBitCodes(encoding);
   QByteArray bytes;
   bytes.reserve(text.size());
@@ -55,8 +55,8 @@ QByteArray EncodeUtf16(const QString& text, QStringConverter::Encoding encoding)
 
 }  // namespace
 
-TFormText DecodeText(const QByteArray& file, kt::TEightBitEncoding eightBit) {
-  const QByteArray utf8 = kt::DecodeFormText(file, eightBit);
+TFormText DecodeText(const QByteArray& file, TEightBitEncoding eightBit) {
+  const QByteArray utf8 = DecodeFormText(file, eightBit);
   return {EncodingOf(file), eightBit, LineEndOf(utf8), utf8};
 }
 
@@ -76,4 +76,4 @@ std::optional<QByteArray> EncodeText(const QByteArray& utf8, const TFormText& ma
   return std::nullopt;
 }
 
-}  // namespace ktform
+}  // namespace kt
