@@ -1,7 +1,6 @@
 #include "inspectdump/InspectedForm.h"
 
 #include "inspectdump/InspectedText.h"
-
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Make.h"
 #include "kt/rtl/streams/FileSaving.h"

@@ -2,7 +2,6 @@
 
 #include "designer/document/ComponentTree.h"
 #include "designer/document/PastedNames.h"
-
 #include "kt/rtl/objects/Component.h"
 #include "kt/rtl/objects/KeptData.h"
 #include "kt/rtl/streams/BinaryFormParser.h"

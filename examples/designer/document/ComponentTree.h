@@ -20,8 +20,8 @@ void SetParentComponent(kt::TComponent* component, kt::TComponent* parent);
 /// `component` and all below it, each before what is in it, in the order of the file.
 std::vector<kt::TComponent*> WithDescendants(kt::TComponent* root, kt::TComponent* component);
 
-/// Those of `components` that are not below another one of them, once each and in the order of the file; the form itself
-/// is left out.
+/// Those of `components` that are not below another one of them, once each and in the order of the file; the form
+/// itself is left out.
 std::vector<kt::TComponent*> Outermost(kt::TComponent* root, const std::vector<kt::TComponent*>& components);
 
 // Stand-ins know their places among their siblings as numbers.

@@ -2,7 +2,6 @@
 #include "designer/document/FormDocument.h"
 
 #include "designer/document/FormLoading.h"
-
 #include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/rtl/streams/FileSaving.h"
 #include "kt/rtl/streams/FormConversion.h"

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "designer/document/DocumentErrors.h"
-
 #include "kt/rtl/conversions/EightBit.h"
 #include "kt/vcl/forms/Form.h"
 
@@ -28,9 +27,9 @@ namespace designer {
 /// be undone.
 ///
 /// The live form is in design mode: it carries the class name and the handler names of the file, although no such class
-/// exists here, and no handler ever runs. Classes and properties that nobody knows are kept (kt::upKeep), so that a file
-/// loses nothing. A root that is no form, a frame or data module for example, is shown as a form too, under its own
-/// class name.
+/// exists here, and no handler ever runs. Classes and properties that nobody knows are kept (kt::upKeep), so that a
+/// file loses nothing. A root that is no form, a frame or data module for example, is shown as a form too, under its
+/// own class name.
 ///
 /// Whoever changes the live form calls Commit() when a step is complete; undoing and redoing replace the live form by
 /// another. So hold no pointer to any of it across OnFormLeaving, only names.
@@ -69,8 +68,8 @@ class TFormDocument {
 
   /// The live form in the binary format.
   QByteArray Written() const;
-  /// The file that was opened with all changes since, in its own format and manner: what is untouched keeps its bytes. A
-  /// new form is text.
+  /// The file that was opened with all changes since, in its own format and manner: what is untouched keeps its bytes.
+  /// A new form is text.
   QByteArray FileBytes() const;
   /// Replaces the file as a whole, or leaves it as it was and raises kt::EFCreateError or kt::EWriteError. Afterwards
   /// the document is not modified.
@@ -110,8 +109,8 @@ class TFormDocument {
   /// The components, each with its children, as text objects one behind the other, in the order of the form. Those on
   /// other ones of the list come with these alone; the form itself does not come.
   QString CopyText(const std::vector<kt::TComponent*>& components) const;
-  /// Creates the components of such a text on `parent`, or what is around it, and answers the outermost ones. Names that
-  /// are taken change, and so do references among the new components.
+  /// Creates the components of such a text on `parent`, or what is around it, and answers the outermost ones. Names
+  /// that are taken change, and so do references among the new components.
   std::vector<kt::TComponent*> Paste(const QString& text, kt::TComponent* parent);
 
   // Event handlers: names of methods that exist elsewhere, in the code that the form belongs to.

@@ -2,7 +2,6 @@
 #include "designer/document/ClipboardText.h"
 #include "designer/document/ComponentTree.h"
 #include "designer/document/FormDocument.h"
-
 #include "kt/rtl/streams/TextLexer.h"
 #include "kt/rtl/streams/Writer.h"
 #include "kt/rtl/typeinfo/ClassInfo.h"
@@ -42,8 +41,9 @@ void PlaceControl(kt::TControl& control, kt::TWinControl* parent, const QRect& p
 
 void TFormDocument::RequireOnForm(const kt::TComponent* component) const {
   if (component && component != FForm.get() && IsOn(FForm.get(), component)) return;
-  throw EDocumentError(component == FForm.get() ? QStringLiteral("The form itself (%1) cannot be deleted").arg(FForm->GetName())
-                                                : QStringLiteral("The component is not on %1").arg(FForm->GetName()));
+  throw EDocumentError(component == FForm.get()
+                           ? QStringLiteral("The form itself (%1) cannot be deleted").arg(FForm->GetName())
+                           : QStringLiteral("The component is not on %1").arg(FForm->GetName()));
 }
 
 kt::TComponent* TFormDocument::Find(QStringView name) const {
@@ -79,7 +79,8 @@ kt::TComponent* TFormDocument::TakesControls(kt::TComponent* component) const {
 
 kt::TComponent* TFormDocument::Add(const kt::TClassInfo* classInfo, kt::TComponent* parent, const QRect& place) {
   if (!classInfo || !classInfo->InheritsFrom(kt::TComponent::Class()) || !classInfo->IsCreatable())
-    throw EDocumentError(QStringLiteral("A %1 cannot be put on a form").arg(classInfo ? classInfo->ClassName() : QString()));
+    throw EDocumentError(
+        QStringLiteral("A %1 cannot be put on a form").arg(classInfo ? classInfo->ClassName() : QString()));
   if (!parent) parent = FForm.get();
   auto* component = static_cast<kt::TComponent*>(classInfo->CreateInstance(FForm.get()));
   try {

@@ -1,7 +1,6 @@
 #include "designer/document/FormLoading.h"
 
 #include "designer/document/DesignForm.h"
-
 #include "kt/KTObjectInspector.h"
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Exceptions.h"

@@ -1,7 +1,6 @@
 // The handlers of events, as names.
 #include "designer/document/ComponentTree.h"
 #include "designer/document/FormDocument.h"
-
 #include "kt/rtl/streams/TextLexer.h"
 #include "kt/rtl/typeinfo/ClassInfo.h"
 #include "kt/rtl/typeinfo/PropValues.h"

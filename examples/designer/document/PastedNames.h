@@ -1,7 +1,6 @@
 #pragma once
 
 #include "designer/document/ClipboardText.h"
-
 #include "kt/rtl/streams/BinaryFormWriter.h"
 #include "kt/rtl/streams/FormErrors.h"
 

@@ -1,7 +1,6 @@
 // The form as an object inspector shows it, as text.
 #include "designer/document/FormDocument.h"
 #include "inspectdump/InspectedText.h"
-
 #include "kt/KTObjectInspector.h"
 #include "kt/rtl/objects/Make.h"
 #include "kt/rtl/streams/UnknownComponent.h"

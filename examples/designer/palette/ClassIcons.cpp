@@ -1,5 +1,6 @@
 #include "designer/palette/ClassIcons.h"
 
+#include "kt/rtl/streams/UnknownComponent.h"
 #include "kt/rtl/typeinfo/ClassInfo.h"
 
 #include <QGuiApplication>
@@ -184,12 +185,15 @@ const std::map<QString, TDraw>& Drawings() {
   return drawings;
 }
 
+TDraw DrawingNamed(const QString& className) {
+  const auto found = Drawings().find(className);
+  return found == Drawings().end() ? nullptr : found->second;
+}
+
 TDraw DrawingOf(const TClassInfo& info) {
-  for (const TClassInfo* at = &info; at; at = at->ClassParent()) {
-    const auto found = Drawings().find(at->ClassName());
-    if (found != Drawings().end()) return found->second;
-  }
-  return nullptr;
+  const TClassInfo* at = &info;
+  while (at->ClassParent() && !DrawingNamed(at->ClassName())) at = at->ClassParent();
+  return DrawingNamed(at->ClassName());
 }
 
 /// The first two letters, without the T that all names begin with.
@@ -199,7 +203,7 @@ QString Initials(const QString& className) {
 
 class TClassIconEngine final : public QIconEngine {
  public:
-  explicit TClassIconEngine(const TClassInfo& info) : FDraw(DrawingOf(info)), FInitials(Initials(info.ClassName())) {}
+  TClassIconEngine(TDraw draw, const QString& className) : FDraw(draw), FInitials(Initials(className)) {}
 
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
     const QPalette palette = QGuiApplication::palette();
@@ -232,6 +236,13 @@ class TClassIconEngine final : public QIconEngine {
 
 }  // namespace
 
-QIcon ClassIcon(const TClassInfo& info) { return QIcon(new TClassIconEngine(info)); }
+QIcon ClassIcon(const TClassInfo& info) { return QIcon(new TClassIconEngine(DrawingOf(info), info.ClassName())); }
+
+QIcon ComponentIcon(const TComponent& component) {
+  const TUnknownComponent* unknown = AsUnknown(const_cast<TComponent*>(&component));
+  if (!unknown) return ClassIcon(*component.ClassType());
+  const QString className = unknown->GetHeader().ClassName;
+  return QIcon(new TClassIconEngine(DrawingNamed(className), className));
+}
 
 }  // namespace designer

@@ -1,5 +1,7 @@
 #include "designer/session/Session.h"
 
+#include "kt/rtl/streams/UnknownComponent.h"
+
 #include <algorithm>
 
 namespace designer {
@@ -150,11 +152,16 @@ QString StepText(const QString& verb, const std::vector<TComponent*>& components
 }
 
 QString NameOf(const TComponent& component) {
-  return component.GetName().isEmpty() ? QStringLiteral("(%1)").arg(component.ClassName()) : component.GetName();
+  return component.GetName().isEmpty() ? QStringLiteral("(%1)").arg(ClassNameOf(component)) : component.GetName();
+}
+
+QString ClassNameOf(const TComponent& component) {
+  const TUnknownComponent* unknown = AsUnknown(const_cast<TComponent*>(&component));
+  return unknown ? unknown->GetHeader().ClassName : component.ClassName();
 }
 
 QString TitleOf(const TComponent& component) {
-  return QStringLiteral("%1: %2").arg(NameOf(component), component.ClassName());
+  return QStringLiteral("%1: %2").arg(NameOf(component), ClassNameOf(component));
 }
 
 }  // namespace designer

@@ -1,6 +1,7 @@
 #include "designer/surface/Places.h"
 
 #include "designer/surface/Grid.h"
+#include "designer/surface/StandIns.h"
 #include "kt/vcl/controls/WinControl.h"
 
 #include <QWidget>
@@ -35,6 +36,7 @@ QRect TPlaces::ClientOf(TWinControl& control) const {
 }
 
 QRect TPlaces::RectOf(TComponent& component) const {
+  if (IsStandIn(component)) return StandInRect(component);
   auto* control = dynamic_cast<TControl*>(&component);
   if (!control) return {ClientOf(FForm).topLeft() + IconPlace(component), QSize(kIconSize, kIconSize)};
   TWinControl* parent = control->GetParent();
@@ -42,13 +44,35 @@ QRect TPlaces::RectOf(TComponent& component) const {
   return control->GetBoundsRect().translated(ClientOf(*parent).topLeft());
 }
 
+QRect TPlaces::StandInRect(TComponent& component) const {
+  TComponent* around = component.GetParentComponent();
+  auto* window = dynamic_cast<TWinControl*>(around);
+  const bool isNested = around && IsStandIn(*around);
+  const QPoint origin = isNested ? RectOf(*around).topLeft() : ClientOf(window ? *window : FForm).topLeft();
+  const QRect bounds = StandInBounds(component).value_or(QRect());
+  return {origin + bounds.topLeft(), bounds.size().isEmpty() ? QSize(kIconSize, kIconSize) : bounds.size()};
+}
+
+std::vector<TComponent*> TPlaces::StandIns() const {
+  std::vector<TComponent*> found;
+  for (int i = 0; i < FForm.GetComponentCount(); ++i) {
+    TComponent* component = FForm.GetComponents(i);
+    if (IsStandIn(*component) && IsShown(*component)) found.push_back(component);
+  }
+  return found;
+}
+
 bool TPlaces::IsIcon(TComponent& component) {
-  return !dynamic_cast<TControl*>(&component) && component.GetOwnerComponent() && !component.HasParent() &&
-         !component.GetComponentStyle().Has(csSubComponent);
+  return !dynamic_cast<TControl*>(&component) && !IsStandIn(component) && component.GetOwnerComponent() &&
+         !component.HasParent() && !component.GetComponentStyle().Has(csSubComponent);
 }
 
 bool TPlaces::IsShown(TComponent& component) const {
   if (&component == &FForm) return true;
+  if (IsStandIn(component)) {
+    TComponent* around = component.GetParentComponent();
+    return StandInBounds(component) && (!around || IsShown(*around));
+  }
   auto* control = dynamic_cast<TControl*>(&component);
   if (!control) return IsIcon(component);
   auto* window = dynamic_cast<TWinControl*>(control);
@@ -102,6 +126,10 @@ TComponent* TPlaces::ComponentAt(QPoint point) const {
   const auto icon = std::find_if(icons.rbegin(), icons.rend(),
                                  [&](TComponent* component) { return RectOf(*component).contains(point); });
   if (icon != icons.rend()) return *icon;
+  const std::vector<TComponent*> boxes = StandIns();
+  const auto box = std::find_if(boxes.rbegin(), boxes.rend(),
+                                [&](TComponent* component) { return RectOf(*component).contains(point); });
+  if (box != boxes.rend()) return *box;
   return RectOf(FForm).contains(point) ? Selectable(ControlAt(FForm, point)) : nullptr;
 }
 
@@ -134,6 +162,7 @@ std::vector<TComponent*> TPlaces::On(TWinControl& container) const {
   }
   if (&container != &FForm) return found;
   for (TComponent* icon : Icons()) found.push_back(icon);
+  for (TComponent* box : StandIns()) found.push_back(box);
   return found;
 }
 
@@ -155,6 +184,7 @@ QRegion TPlaces::Ground(TWinControl& container) const {
     TControl* control = container.GetControls(i);
     if (IsShown(*control)) ground -= RectOf(*control);
   }
+  for (TComponent* box : StandIns()) ground -= RectOf(*box);
   return ground;
 }
 

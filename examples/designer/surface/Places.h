@@ -15,7 +15,8 @@ namespace designer {
 /// Where the components of a live form are on the surface that lies over it, and what is at a place there. Lives on the
 /// stack.
 ///
-/// A component without a place of its own on the form, such as a menu or a timer, shows as an icon with its name.
+/// A component without a place of its own on the form, such as a menu or a timer, shows as an icon with its name; one
+/// of an unknown class as a box where its file has it.
 class TPlaces {
  public:
   TPlaces(kt::TCustomForm& form, const QWidget& surface) : FForm(form), FSurface(surface) {}
@@ -30,6 +31,8 @@ class TPlaces {
   static bool IsIcon(kt::TComponent& component);
   /// The components with an icon, the lowest first.
   std::vector<kt::TComponent*> Icons() const;
+  /// Those of unknown classes that show as boxes, what is around others before these.
+  std::vector<kt::TComponent*> StandIns() const;
 
   /// What is at a place: the form itself where there is nothing else on it; null beside it.
   kt::TComponent* ComponentAt(QPoint point) const;
@@ -51,6 +54,7 @@ class TPlaces {
   kt::TControl* ControlAt(kt::TWinControl& parent, QPoint point) const;
   kt::TComponent* Selectable(kt::TControl* control) const;
   QPoint IconPlace(kt::TComponent& component) const;
+  QRect StandInRect(kt::TComponent& component) const;
 
   kt::TCustomForm& FForm;
   const QWidget& FSurface;

@@ -54,6 +54,8 @@ void PaintButton(QPainter& painter, TCaptionButton button, const QRectF& box) {
 TStage::TStage(TSession& session)
     : FSession(session), FInside(new QWidget(this, Qt::SubWindow)), FSurface(new TSurface(session, this)) {
   setObjectName(QStringLiteral("stage"));
+  // How the form reads is its own business, not the designer's.
+  FInside->setLayoutDirection(Qt::LeftToRight);
   setBackgroundRole(QPalette::Mid);
   setAutoFillBackground(true);
   FSurface->OnFocusChanged = [this] { update(); };

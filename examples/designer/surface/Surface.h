@@ -59,6 +59,7 @@ class TSurface : public QWidget {
 
   // Painting.
   void PaintGrid(QPainter& painter);
+  void PaintStandIns(QPainter& painter);
   void PaintIcons(QPainter& painter);
   void PaintSelection(QPainter& painter);
   void PaintHandles(QPainter& painter, kt::TControl& control);

@@ -35,6 +35,7 @@ void TSurface::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   GuardedCall([&] {
     PaintGrid(painter);
+    PaintStandIns(painter);
     PaintIcons(painter);
     PaintSelection(painter);
     if (!FDrag || FDrag->Frame().isEmpty()) return;
@@ -54,6 +55,25 @@ void TSurface::PaintGrid(QPainter& painter) {
   painter.setClipping(false);
 }
 
+/// Boxes with what is known of them.
+void TSurface::PaintStandIns(QPainter& painter) {
+  const TPlaces places = Places();
+  for (TComponent* component : places.StandIns()) {
+    const QRect box = places.RectOf(*component);
+    painter.fillRect(box, palette().color(QPalette::Base));
+    painter.fillRect(box, QBrush(palette().color(QPalette::Mid), Qt::BDiagPattern));
+    painter.setPen(QPen(palette().color(QPalette::Dark), 1, Qt::DashLine));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(box.adjusted(0, 0, -1, -1));
+    const QRect inside = box.adjusted(4, 2, -4, -2);
+    const QString title = painter.fontMetrics().elidedText(TitleOf(*component), Qt::ElideRight, inside.width());
+    painter.fillRect(painter.fontMetrics().boundingRect(inside, Qt::AlignLeft | Qt::AlignTop, title) & inside,
+                     palette().color(QPalette::Base));
+    painter.setPen(palette().color(QPalette::Text));
+    painter.drawText(inside, Qt::AlignLeft | Qt::AlignTop, title);
+  }
+}
+
 void TSurface::PaintIcons(QPainter& painter) {
   const TPlaces places = Places();
   QFont small = font();
@@ -66,7 +86,7 @@ void TSurface::PaintIcons(QPainter& painter) {
     painter.setPen(palette().color(QPalette::Mid));
     painter.setBrush(palette().color(QPalette::Button));
     painter.drawRoundedRect(QRectF(box).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-    ClassIcon(*component->ClassType()).paint(&painter, box.adjusted(3, 3, -3, -3));
+    ComponentIcon(*component).paint(&painter, box.adjusted(3, 3, -3, -3));
     const bool isDark = ground.palette().color(QPalette::Window).lightness() < 128;
     painter.setPen(isDark ? Qt::white : Qt::black);
     const QString name = NameOf(*component);

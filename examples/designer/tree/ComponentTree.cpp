@@ -71,7 +71,7 @@ void TComponentTree::Refresh() {
 
 void TComponentTree::Fill(QTreeWidgetItem* item, TComponent* component) {
   item->setText(0, TitleOf(*component));
-  item->setIcon(0, ClassIcon(*component->ClassType()));
+  item->setIcon(0, ComponentIcon(*component));
   item->setData(0, kComponentRole, QVariant::fromValue(static_cast<void*>(component)));
   for (TComponent* child : FSession.Document().ChildrenOf(component)) Fill(new QTreeWidgetItem(item), child);
   item->setExpanded(!FCollapsed.contains(component->GetName()));

@@ -41,7 +41,8 @@ struct TPropertyPlace {
   quint32 AfterSign;  ///< Behind the equals sign.
   quint32 ValueFrom;
   quint32 To;         ///< Behind the value.
-  quint32 FirstItem;  ///< Of a collection: the place of its first item in the list of objects, if it has any; else kNoPlace.
+  quint32 FirstItem;  ///< Of a collection: the place of its first item in the list of objects, if it has any; else
+                      ///< kNoPlace.
 
   bool IsCollection() const { return FirstItem != kNoPlace; }
 };

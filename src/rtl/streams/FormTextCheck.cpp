@@ -79,8 +79,8 @@ class TCheck {
 
   bool HasProperty(const TPropertyPlace& after, const TPropertyPlace* merged, const TPropertyPlace* original,
                    const TPropertyPlace* before) {
-    const bool hasItems = merged && original && before && merged->IsCollection() &&
-                          FVersions.HasKnownItems(*original, *before, after);
+    const bool hasItems =
+        merged && original && before && merged->IsCollection() && FVersions.HasKnownItems(*original, *before, after);
     if (hasItems) return PairItems(*merged, after);
     const bool isChanged = !before || !HasSameTokens(FVersions.Before.Value(*before), FVersions.After.Value(after));
     if (!isChanged && !original) return !merged;

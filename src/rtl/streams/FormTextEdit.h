@@ -16,8 +16,9 @@ namespace kt {
 /// went, and of the headers of renamed ones. What is new stands behind the sibling before it, indented as its
 /// surroundings; what moved takes its lines along. An object is the same when it has its name and class, at first below
 /// the same parent, then anywhere; one without a name by its order; an item by what it says, else by its place between
-/// others. New lines are written in the manner of the file: encoding, byte-order mark, line ends, and whether characters
-/// beyond ASCII stand as they are or as numbers. A character that the file's 8-bit encoding lacks becomes a number.
+/// others. New lines are written in the manner of the file: encoding, byte-order mark, line ends, and whether
+/// characters beyond ASCII stand as they are or as numbers. A character that the file's 8-bit encoding lacks becomes a
+/// number.
 ///
 /// Siblings that the file has in another order than they are written in stay where they are, unless their order has
 /// changed. The result is parsed and compared before it is answered; a file that this way does not fit, or that does

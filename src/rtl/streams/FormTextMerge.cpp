@@ -164,8 +164,8 @@ class TMerge {
   }
 
   void Children(quint32 original, quint32 before, quint32 after) {
-    Siblings({FOriginal.Layout.ChildrenOf(original), FBefore.Layout.ChildrenOf(before),
-              FAfter.Layout.ChildrenOf(after), FOriginal.BodyEnd(original), IndentOfBody(original)});
+    Siblings({FOriginal.Layout.ChildrenOf(original), FBefore.Layout.ChildrenOf(before), FAfter.Layout.ChildrenOf(after),
+              FOriginal.BodyEnd(original), IndentOfBody(original)});
   }
 
   /// How the first thing in an object is indented that has a line of its own.

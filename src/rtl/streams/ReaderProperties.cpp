@@ -224,8 +224,8 @@ void TReader::ReadReference(TPersistent* instance, const TPropInfo* property) {
   QString name = FInput.ReadIdent();
   if (OnReferenceName) OnReferenceName(name);
   CheckNothingLost();
-  FLoad->Fixups().Add({instance, property, FScope, name, FPropPath.Instance, FPropPath.Path,
-                       UnknownClasses == upKeep, FPropPath.Start});
+  FLoad->Fixups().Add({instance, property, FScope, name, FPropPath.Instance, FPropPath.Path, UnknownClasses == upKeep,
+                       FPropPath.Start});
 }
 
 void TReader::ReadMethodValue(TPersistent* instance, const TPropInfo* property) {

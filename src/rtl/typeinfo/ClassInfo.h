@@ -66,8 +66,8 @@ class TClassInfo {
 
   /// The named published method bound to `instance` (an object of this class); empty when there is none.
   TMethod FindMethod(QStringView name, TObject* instance) const;
-  /// The name of the published method that `method` calls on its instance, or that it is known by (NamedMethod()); empty
-  /// when it is neither.
+  /// The name of the published method that `method` calls on its instance, or that it is known by (NamedMethod());
+  /// empty when it is neither.
   QString MethodName(const TMethod& method) const;
 
  private:

@@ -130,8 +130,7 @@ class TTextEditMachine {
   QString LostLines(const TEditedNode& node, const QByteArray& indent, bool isHere, const QByteArray& edited) const {
     const bool isKept = !FTouched.contains(node.Id) && !node.Name.isEmpty();
     isHere = isHere && !FMoved.contains(node.Id);
-    if (isKept && isHere && !edited.contains(OwnText(node, indent)))
-      return Told("lost", edited, OwnText(node, indent));
+    if (isKept && isHere && !edited.contains(OwnText(node, indent))) return Told("lost", edited, OwnText(node, indent));
     if (isKept && !edited.contains("object  " + node.Name + " : " + node.ClassName + "\n"))
       return Told("wrote anew", edited, node.Name);
     for (const TNodePtr& child : node.Children) {
@@ -253,7 +252,9 @@ class TTextEditMachine {
 
 TEST(FormTextEditModelTest, RandomEditsChangeWhatTheySayAndNothingElse) {
   for (quint32 seed = 1; seed <= 12; ++seed)
-    TModelRun(ModelSeed(seed), [] { return std::make_unique<TTextEditMachine>(); }, 5000).Run(40);
+    TModelRun(
+        ModelSeed(seed), [] { return std::make_unique<TTextEditMachine>(); }, 5000)
+        .Run(40);
 }
 
 }  // namespace

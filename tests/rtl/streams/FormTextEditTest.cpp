@@ -1,7 +1,6 @@
 // What a changed form does to the text that somebody wrote.
-#include "kt/rtl/streams/FormTextEdit.h"
-
 #include "kt/rtl/streams/FormConversion.h"
+#include "kt/rtl/streams/FormTextEdit.h"
 #include "support/FormText.h"
 #include "support/Print.h"
 
@@ -41,17 +40,20 @@ TEST(FormTextEditTest, WithoutAChangeEveryByteStays) { EXPECT_EQ(kEditedForm, Ed
 
 TEST(FormTextEditTest, AnAddedObjectComesBehindTheSiblingBeforeItInItsIndentation) {
   EXPECT_EQ(QByteArray(kEditedForm)
-                .replace("\tobject  Button2", "\tobject New1: TNew\n\t  A = 1\n\t  object Sub1: TSub\n\t  end\n\tend\n"
-                                              "\tobject  Button2"),
-            Edit(kEditedForm, "object Form1: TForm1 Caption='f'\nobject Panel1: TPanel Left=1\n"
-                              "object Edit1: TEdit Text='ef' end end\nobject Button1: TButton Left=2 end\n"
-                              "object New1: TNew A=1 object Sub1: TSub\nend end\nobject Button2: TButton Left=3 end end"));
+                .replace("\tobject  Button2",
+                         "\tobject New1: TNew\n\t  A = 1\n\t  object Sub1: TSub\n\t  end\n\tend\n"
+                         "\tobject  Button2"),
+            Edit(kEditedForm,
+                 "object Form1: TForm1 Caption='f'\nobject Panel1: TPanel Left=1\n"
+                 "object Edit1: TEdit Text='ef' end end\nobject Button1: TButton Left=2 end\n"
+                 "object New1: TNew A=1 object Sub1: TSub\nend end\nobject Button2: TButton Left=3 end end"));
 }
 
 TEST(FormTextEditTest, AFirstObjectComesBehindThePropertiesInTheirIndentation) {
   EXPECT_EQ("object A: TA\n\tX=1\n\tobject B: TB\n\t  Y = 2\n\tend\nend\n",
             Edit("object A: TA\n\tX=1\nend\n", "object A: TA X=1 object B: TB Y=2 end end"));
-  EXPECT_EQ("object A: TA\n  object B: TB\n  end\nend\n", Edit("object A: TA\nend\n", "object A: TA\nobject B: TB\nend end"));
+  EXPECT_EQ("object A: TA\n  object B: TB\n  end\nend\n",
+            Edit("object A: TA\nend\n", "object A: TA\nobject B: TB\nend end"));
 }
 
 TEST(FormTextEditTest, AnObjectBeforeAllOthersComesThere) {
@@ -62,23 +64,26 @@ TEST(FormTextEditTest, AnObjectBeforeAllOthersComesThere) {
 
 TEST(FormTextEditTest, OfADeletedObjectExactlyItsLinesGo) {
   EXPECT_EQ(QByteArray(kEditedForm).replace("\tobject  Button1 : TButton\n\t\tLeft=2\n\tend\n", ""),
-            Edit(kEditedForm, "object Form1: TForm1 Caption='f'\nobject Panel1: TPanel Left=1\n"
-                              "object Edit1: TEdit Text='ef' end end object Button2: TButton Left=3 end end"));
+            Edit(kEditedForm,
+                 "object Form1: TForm1 Caption='f'\nobject Panel1: TPanel Left=1\n"
+                 "object Edit1: TEdit Text='ef' end end object Button2: TButton Left=3 end end"));
 }
 
 TEST(FormTextEditTest, ADeletedParentTakesItsChildrenAlong) {
   QByteArray wanted(kEditedForm);
   const qsizetype from = wanted.indexOf("\tobject  Panel1");
   wanted.remove(from, wanted.indexOf("\n\tobject  Button1") - from);
-  EXPECT_EQ(wanted, Edit(kEditedForm, "object Form1: TForm1 Caption='f'\nobject Button1: TButton Left=2 end\n"
-                                      "object Button2: TButton Left=3 end end"));
+  EXPECT_EQ(wanted, Edit(kEditedForm,
+                         "object Form1: TForm1 Caption='f'\nobject Button1: TButton Left=2 end\n"
+                         "object Button2: TButton Left=3 end end"));
 }
 
 TEST(FormTextEditTest, ARenamedObjectChangesItsNameAlone) {
   EXPECT_EQ(QByteArray(kEditedForm).replace("Panel1", "Other"),
-            Edit(kEditedForm, "object Form1: TForm1 Caption='f'\nobject Other: TPanel Left=1\n"
-                              "object Edit1: TEdit Text='ef' end end object Button1: TButton Left=2 end\n"
-                              "object Button2: TButton Left=3 end end"));
+            Edit(kEditedForm,
+                 "object Form1: TForm1 Caption='f'\nobject Other: TPanel Left=1\n"
+                 "object Edit1: TEdit Text='ef' end end object Button1: TButton Left=2 end\n"
+                 "object Button2: TButton Left=3 end end"));
 }
 
 TEST(FormTextEditTest, ARenamedRootChangesItsNameAndClass) {
@@ -91,9 +96,10 @@ TEST(FormTextEditTest, ASiblingThatMovesTakesItsLinesAlong) {
   const QByteArray moved("\tobject  Button2 : TButton\n\t\tLeft=3\n\tend\n");
   wanted.replace(moved, "").replace("\tobject  Button1", moved + "\tobject  Button1");
   wanted.replace("\tend\n\n" + moved, "\tend\n" + moved + "\n");
-  EXPECT_EQ(wanted, Edit(kEditedForm, "object Form1: TForm1 Caption='f'\nobject Panel1: TPanel Left=1\n"
-                                      "object Edit1: TEdit Text='ef' end end object Button2: TButton Left=3 end\n"
-                                      "object Button1: TButton Left=2 end end"));
+  EXPECT_EQ(wanted, Edit(kEditedForm,
+                         "object Form1: TForm1 Caption='f'\nobject Panel1: TPanel Left=1\n"
+                         "object Edit1: TEdit Text='ef' end end object Button2: TButton Left=3 end\n"
+                         "object Button1: TButton Left=2 end end"));
 }
 
 TEST(FormTextEditTest, AnObjectThatMovesDeeperIsIndentedAsWhatIsThere) {
@@ -101,9 +107,10 @@ TEST(FormTextEditTest, AnObjectThatMovesDeeperIsIndentedAsWhatIsThere) {
   wanted.replace("\tobject  Button1 : TButton\n\t\tLeft=2\n\tend\n", "");
   wanted.replace("\t\t\t  'f'\n\t\tend\n",
                  "\t\t\t  'f'\n\t\tend\n\t\tobject  Button1 : TButton\n\t\t\tLeft=2\n\t\tend\n");
-  EXPECT_EQ(wanted, Edit(kEditedForm, "object Form1: TForm1 Caption='f'\nobject Panel1: TPanel Left=1\n"
-                                      "object Edit1: TEdit Text='ef' end object Button1: TButton Left=2 end end\n"
-                                      "object Button2: TButton Left=3 end end"));
+  EXPECT_EQ(wanted, Edit(kEditedForm,
+                         "object Form1: TForm1 Caption='f'\nobject Panel1: TPanel Left=1\n"
+                         "object Edit1: TEdit Text='ef' end object Button1: TButton Left=2 end end\n"
+                         "object Button2: TButton Left=3 end end"));
 }
 
 TEST(FormTextEditTest, AnObjectThatMovesUpAndChangesKeepsItsOtherLines) {
@@ -111,18 +118,20 @@ TEST(FormTextEditTest, AnObjectThatMovesUpAndChangesKeepsItsOtherLines) {
   wanted.replace("\t\tobject  Edit1 : TEdit\n\t\t\tText='e' +\n\t\t\t  'f'\n\t\tend\n", "");
   wanted.replace("\t\tLeft=3\n\tend\n",
                  "\t\tLeft=3\n\tend\n\tobject  Edit1 : TEdit\n\t\tText='e' +\n\t\t  'f'\n\t\tTop = 5\n\tend\n");
-  EXPECT_EQ(wanted, Edit(kEditedForm, "object Form1: TForm1 Caption='f'\nobject Panel1: TPanel Left=1 end\n"
-                                      "object Button1: TButton Left=2 end object Button2: TButton Left=3 end\n"
-                                      "object Edit1: TEdit Text='ef' Top=5 end end"));
+  EXPECT_EQ(wanted, Edit(kEditedForm,
+                         "object Form1: TForm1 Caption='f'\nobject Panel1: TPanel Left=1 end\n"
+                         "object Button1: TButton Left=2 end object Button2: TButton Left=3 end\n"
+                         "object Edit1: TEdit Text='ef' Top=5 end end"));
 }
 
 TEST(FormTextEditTest, WhatMovesIntoANewObjectTakesItsLinesAlong) {
   QByteArray wanted(kEditedForm);
   wanted.replace("\tobject  Button2 : TButton\n\t\tLeft=3\n\tend\n",
                  "\tobject Box: TBox\n\t  Top = 1\n\t  object  Button2 : TButton\n\t  \tLeft=3\n\t  end\n\tend\n");
-  EXPECT_EQ(wanted, Edit(kEditedForm, "object Form1: TForm1 Caption='f'\nobject Panel1: TPanel Left=1\n"
-                                      "object Edit1: TEdit Text='ef' end end object Button1: TButton Left=2 end\n"
-                                      "object Box: TBox Top=1 object Button2: TButton Left=3 end end end"));
+  EXPECT_EQ(wanted, Edit(kEditedForm,
+                         "object Form1: TForm1 Caption='f'\nobject Panel1: TPanel Left=1\n"
+                         "object Edit1: TEdit Text='ef' end end object Button1: TButton Left=2 end\n"
+                         "object Box: TBox Top=1 object Button2: TButton Left=3 end end end"));
 }
 
 TEST(FormTextEditTest, ParentAndChildCanChangePlaces) {
@@ -146,8 +155,8 @@ TEST(FormTextEditTest, ObjectsOnOneLineStayThere) {
   EXPECT_EQ("object A: TA object B: TB X=2 end object C: TC Y=1 end end",
             Edit("object A: TA object B: TB X=1 end object C: TC Y=1 end end",
                  "object A: TA\nobject B: TB X=2 end object C: TC Y=1 end end"));
-  EXPECT_EQ("object A: TA object C: TC Y=1 end end",
-            Edit("object A: TA object B: TB X=1 end object C: TC Y=1 end end", "object A: TA\nobject C: TC Y=1 end end"));
+  EXPECT_EQ("object A: TA object C: TC Y=1 end end", Edit("object A: TA object B: TB X=1 end object C: TC Y=1 end end",
+                                                          "object A: TA\nobject C: TC Y=1 end end"));
 }
 
 /// Without the line of X the next word would name the class.
@@ -160,15 +169,18 @@ constexpr char kEditedItems[] =
     "    end>\n  Left=5\nend\n";
 
 TEST(FormTextEditTest, AnItemInTheMiddleLeavesTheOthersAlone) {
-  EXPECT_EQ(QByteArray(kEditedItems).replace("    item\n      V=3", "    item\n      V = 9\n    end\n    item\n      V=3"),
-            Edit(kEditedItems, "object L: TList Items=<item V=1 end item V=2 end item V=9 end item V=3 end> Left=5 end"));
+  EXPECT_EQ(
+      QByteArray(kEditedItems).replace("    item\n      V=3", "    item\n      V = 9\n    end\n    item\n      V=3"),
+      Edit(kEditedItems, "object L: TList Items=<item V=1 end item V=2 end item V=9 end item V=3 end> Left=5 end"));
 }
 
 TEST(FormTextEditTest, AnItemAtEitherEndLeavesTheOthersAlone) {
-  EXPECT_EQ(QByteArray(kEditedItems).replace("Items=<\n", "Items=<\n    item\n      V = 9\n    end\n"),
-            Edit(kEditedItems, "object L: TList Items=<item V=9 end item V=1 end item V=2 end item V=3 end> Left=5 end"));
-  EXPECT_EQ(QByteArray(kEditedItems).replace("    end>", "    end\n    item\n      V = 9\n    end>"),
-            Edit(kEditedItems, "object L: TList Items=<item V=1 end item V=2 end item V=3 end item V=9 end> Left=5 end"));
+  EXPECT_EQ(
+      QByteArray(kEditedItems).replace("Items=<\n", "Items=<\n    item\n      V = 9\n    end\n"),
+      Edit(kEditedItems, "object L: TList Items=<item V=9 end item V=1 end item V=2 end item V=3 end> Left=5 end"));
+  EXPECT_EQ(
+      QByteArray(kEditedItems).replace("    end>", "    end\n    item\n      V = 9\n    end>"),
+      Edit(kEditedItems, "object L: TList Items=<item V=1 end item V=2 end item V=3 end item V=9 end> Left=5 end"));
 }
 
 TEST(FormTextEditTest, ADeletedItemLeavesTheOthersAlone) {
@@ -185,9 +197,10 @@ TEST(FormTextEditTest, AChangedItemChangesItsLineAlone) {
 }
 
 TEST(FormTextEditTest, AnItemThatMovesTakesItsLinesAlong) {
-  EXPECT_EQ("object L: TList\n  Items=<\n    item\n      V=3\n    end\n    item\n      V=1\n    end\n    item\n"
-            "      V=2\n    end>\n  Left=5\nend\n",
-            Edit(kEditedItems, "object L: TList Items=<item V=3 end item V=1 end item V=2 end> Left=5 end"));
+  EXPECT_EQ(
+      "object L: TList\n  Items=<\n    item\n      V=3\n    end\n    item\n      V=1\n    end\n    item\n"
+      "      V=2\n    end>\n  Left=5\nend\n",
+      Edit(kEditedItems, "object L: TList Items=<item V=3 end item V=1 end item V=2 end> Left=5 end"));
 }
 
 TEST(FormTextEditTest, AnEmptyCollectionGetsItsFirstItem) {
@@ -210,22 +223,24 @@ TEST(FormTextEditTest, SiblingsKeepTheOrderOfTheFile) {
 }
 
 TEST(FormTextEditTest, SiblingsThatChangeTheirOrderGetTheNewOne) {
-  EXPECT_EQ("object A: TA\n  object  D : TD\n  end\n  object  C : TC\n  end\n  object  B : TB\n  end\nend\n",
-            EditFormText("object A: TA\n  object  C : TC\n  end\n  object  D : TD\n  end\n  object  B : TB\n  end\nend\n",
-                         BinaryOf("object A: TA\nobject B: TB\nend object C: TC\nend object D: TD\nend end"),
-                         BinaryOf("object A: TA\nobject D: TD\nend object C: TC\nend object B: TB\nend end")));
+  EXPECT_EQ(
+      "object A: TA\n  object  D : TD\n  end\n  object  C : TC\n  end\n  object  B : TB\n  end\nend\n",
+      EditFormText("object A: TA\n  object  C : TC\n  end\n  object  D : TD\n  end\n  object  B : TB\n  end\nend\n",
+                   BinaryOf("object A: TA\nobject B: TB\nend object C: TC\nend object D: TD\nend end"),
+                   BinaryOf("object A: TA\nobject D: TD\nend object C: TC\nend object B: TB\nend end")));
 }
 
 TEST(FormTextEditTest, AFileWithOtherObjectsIsWrittenAnew) {
   EXPECT_EQ("object A: TA\r\n  object C: TC\r\n    X = 2\r\n  end\r\nend\r\n",
-            EditFormText("object A: TA\r\n object B: TB\r\n end\r\nend\r\n", BinaryOf("object A: TA\nobject C: TC X=1 end end"),
+            EditFormText("object A: TA\r\n object B: TB\r\n end\r\nend\r\n",
+                         BinaryOf("object A: TA\nobject C: TC X=1 end end"),
                          BinaryOf("object A: TA\nobject C: TC X=2 end end")));
 }
 
 TEST(FormTextEditTest, WhatTheWriterLeavesOutStays) {
   EXPECT_EQ("inherited A: TA\n  X=0\n  Y=2\n  Items=<item V=1 end>\nend\n",
-            EditFormText("inherited A: TA\n  X=0\n  Y=1\n  Items=<item V=1 end>\nend\n", BinaryOf("object A: TA Y=1 end"),
-                         BinaryOf("object A: TA Y=2 end")));
+            EditFormText("inherited A: TA\n  X=0\n  Y=1\n  Items=<item V=1 end>\nend\n",
+                         BinaryOf("object A: TA Y=1 end"), BinaryOf("object A: TA Y=2 end")));
 }
 
 TEST(FormTextEditTest, ADescendantThatIsWrittenAnewStaysOne) {

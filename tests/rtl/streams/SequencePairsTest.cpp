@@ -1,6 +1,5 @@
-#include "kt/rtl/streams/SequencePairs.h"
-
 #include "kt/rtl/streams/FormLayout.h"
+#include "kt/rtl/streams/SequencePairs.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

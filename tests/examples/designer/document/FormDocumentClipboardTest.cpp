@@ -1,6 +1,5 @@
 // Copying and pasting.
 #include "examples/designer/document/DocumentFixture.h"
-
 #include "kt/vcl/menus/MenuItem.h"
 
 #include <gmock/gmock.h>
@@ -30,7 +29,8 @@ class FormDocumentClipboardTest : public TDocumentTest {
 TEST_F(FormDocumentClipboardTest, ComponentsAreCopiedAsTextObjectsInTheOrderOfTheForm) {
   const QString text = Copy({"Open1", "OkButton"});
   EXPECT_THAT(text.toStdString(), ::testing::StartsWith("object OkButton: TButton\n  Left = 3\n"));
-  EXPECT_THAT(text.toStdString(), HasSubstr("  OnClick = OkButtonClick\nend\nobject Open1: TMenuItem\n  Caption = 'Open'\n"));
+  EXPECT_THAT(text.toStdString(),
+              HasSubstr("  OnClick = OkButtonClick\nend\nobject Open1: TMenuItem\n  Caption = 'Open'\n"));
 }
 
 TEST_F(FormDocumentClipboardTest, ChildrenComeWithTheirParentsOnly) {
@@ -50,9 +50,10 @@ TEST_F(FormDocumentClipboardTest, FreeNamesStay) {
 
 TEST_F(FormDocumentClipboardTest, TakenNamesChangeAndReferencesFollow) {
   EXPECT_EQ("TestBox1", Paste(Copy({"Box1"})));
-  EXPECT_EQ("OrderForm[Box1[OkButton Alien1[Inner1] CancelButton] TestBox1[Button1 NobodyKnows1[TestBox2] Button2] "
-            "Menu1[Open1]]",
-            Tree(*FDocument));
+  EXPECT_EQ(
+      "OrderForm[Box1[OkButton Alien1[Inner1] CancelButton] TestBox1[Button1 NobodyKnows1[TestBox2] Button2] "
+      "Menu1[Open1]]",
+      Tree(*FDocument));
   EXPECT_EQ("OkButton", ReferenceOf("Box1"));
   EXPECT_EQ("Button1", ReferenceOf("TestBox1"));
   EXPECT_THAT(FDocument->FileBytes().toStdString(), HasSubstr("Buddy = Button1\n"));
@@ -69,7 +70,8 @@ TEST_F(FormDocumentClipboardTest, NewNamesPassByThoseOfTheText) {
 }
 
 TEST_F(FormDocumentClipboardTest, OfTwoWithOneNameTheFirstKeepsItAndTheReferences) {
-  EXPECT_EQ("A TestBox1 B", Paste("object A: TTestBox\nend\nobject A: TTestBox\nend\nobject B: TTestBox\n  Friend = A\nend\n"));
+  EXPECT_EQ("A TestBox1 B",
+            Paste("object A: TTestBox\nend\nobject A: TTestBox\nend\nobject B: TTestBox\n  Friend = A\nend\n"));
   EXPECT_EQ("A", ReferenceOf("B"));
 }
 
@@ -87,7 +89,8 @@ TEST_F(FormDocumentClipboardTest, MenuItemsComeToTheirMenu) {
 
 TEST_F(FormDocumentClipboardTest, StandInsComeBehindTheirSiblings) {
   EXPECT_EQ("NobodyKnows1", Paste(Copy({"Alien1"}), "Box1"));
-  EXPECT_EQ("OrderForm[Box1[OkButton Alien1[Inner1] CancelButton NobodyKnows1[TestBox1]] Menu1[Open1]]", Tree(*FDocument));
+  EXPECT_EQ("OrderForm[Box1[OkButton Alien1[Inner1] CancelButton NobodyKnows1[TestBox1]] Menu1[Open1]]",
+            Tree(*FDocument));
 }
 
 TEST_F(FormDocumentClipboardTest, HandlersComeAlongAsNames) {
@@ -105,9 +108,8 @@ TEST_F(FormDocumentClipboardTest, ATextThatIsNoneIsToldAndChangesNothing) {
 
 TEST_F(FormDocumentClipboardTest, AValueThatCannotBeReadIsToldAndChangesNothing) {
   EXPECT_EQ("Error reading Button1.Caption: Invalid property value on line 4, column 3 (OrderForm.Button1.Caption)",
-            MessageOf<kt::EReadError>([this] {
-              Paste("object A: TButton\nend\nobject OkButton: TButton\n  Caption = 5\nend\n");
-            }));
+            MessageOf<kt::EReadError>(
+                [this] { Paste("object A: TButton\nend\nobject OkButton: TButton\n  Caption = 5\nend\n"); }));
   EXPECT_EQ(kDocumentForm, FDocument->FileBytes());
   EXPECT_EQ(nullptr, FDocument->Find(u"A"));
 }

@@ -1,6 +1,5 @@
 // Adding and deleting.
 #include "examples/designer/document/DocumentFixture.h"
-
 #include "kt/vcl/menus/PopupMenu.h"
 #include "kt/vcl/stdctrls/Button.h"
 
@@ -22,7 +21,8 @@ TEST_F(FormDocumentEditsTest, NewNamesCountFromOneAndPassByTakenOnes) {
 }
 
 TEST_F(FormDocumentEditsTest, AControlComesToItsPlaceWithItsOwnSize) {
-  kt::TComponent* added = FDocument->Add(kt::TButton::Class(), Named(*FDocument, "Box1"), QRect(QPoint(30, 40), QSize()));
+  kt::TComponent* added =
+      FDocument->Add(kt::TButton::Class(), Named(*FDocument, "Box1"), QRect(QPoint(30, 40), QSize()));
   EXPECT_EQ("Button1", added->GetName());
   EXPECT_EQ(Named(*FDocument, "Box1"), FDocument->ParentOf(added));
   EXPECT_EQ(QRect(30, 40, 75, 25), Button("Button1").GetBoundsRect());
@@ -97,8 +97,9 @@ TEST_F(FormDocumentEditsTest, ParentsAndTheirChildrenCanBeDeletedTogether) {
 }
 
 TEST_F(FormDocumentEditsTest, TheFormItselfAndStrangersStay) {
-  EXPECT_EQ("The form itself (OrderForm) cannot be deleted",
-            MessageOf<EDocumentError>([this] { FDocument->Delete({Named(*FDocument, "OkButton"), &FDocument->Form()}); }));
+  EXPECT_EQ("The form itself (OrderForm) cannot be deleted", MessageOf<EDocumentError>([this] {
+              FDocument->Delete({Named(*FDocument, "OkButton"), &FDocument->Form()});
+            }));
   const auto other = Opened();
   EXPECT_EQ("The component is not on OrderForm",
             MessageOf<EDocumentError>([&] { FDocument->Delete(All(*other, {"OkButton"})); }));

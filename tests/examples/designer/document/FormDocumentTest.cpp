@@ -1,6 +1,5 @@
 // Opening, saving and showing.
 #include "examples/designer/document/DocumentFixture.h"
-
 #include "kt/rtl/streams/FormConversion.h"
 
 #include <gmock/gmock.h>
@@ -93,9 +92,12 @@ TEST_F(FormDocumentTest, AResourceStaysAResource) {
 }
 
 TEST_F(FormDocumentTest, ARootThatIsNoFormOpensAndStaysWhatItIs) {
-  const QByteArray frame("object Frame1: TFrame1\n  Left = 0\n  Width=320\n  TabOrder = 0\n  object B: TButton\n  end\nend\n");
-  const QByteArray module("object Data1: TData1\n  OldCreateOrder = False\n  Height = 150\n  object X: TQuery\n  end\nend\n");
-  const QByteArray menu("object Menu: TPopupMenu\n  AutoPopup = False\n  object Open: TMenuItem\n    Caption='x'\n  end\nend\n");
+  const QByteArray frame(
+      "object Frame1: TFrame1\n  Left = 0\n  Width=320\n  TabOrder = 0\n  object B: TButton\n  end\nend\n");
+  const QByteArray module(
+      "object Data1: TData1\n  OldCreateOrder = False\n  Height = 150\n  object X: TQuery\n  end\nend\n");
+  const QByteArray menu(
+      "object Menu: TPopupMenu\n  AutoPopup = False\n  object Open: TMenuItem\n    Caption='x'\n  end\nend\n");
   for (const QByteArray& file : {frame, module, menu}) {
     const auto document = Opened(file);
     EXPECT_EQ(file, document->FileBytes());
@@ -132,8 +134,9 @@ TEST_F(FormDocumentTest, ATextThatIsNoFormIsToldWithItsPlace) {
 }
 
 TEST_F(FormDocumentTest, AValueThatCannotBeReadIsToldWithObjectPropertyAndLine) {
-  EXPECT_EQ("Error reading B.Caption: Invalid property value on line 3, column 5 (A.B.Caption)",
-            MessageOf<kt::EReadError>([] { Opened("object A: TA\n  object B: TButton\n    Caption = 5\n  end\nend\n"); }));
+  EXPECT_EQ(
+      "Error reading B.Caption: Invalid property value on line 3, column 5 (A.B.Caption)",
+      MessageOf<kt::EReadError>([] { Opened("object A: TA\n  object B: TButton\n    Caption = 5\n  end\nend\n"); }));
 }
 
 TEST_F(FormDocumentTest, AnErrorInAFileNamesTheFile) {

@@ -1,6 +1,5 @@
 // Steps, and the way back.
 #include "examples/designer/document/DocumentFixture.h"
-
 #include "kt/rtl/objects/UnhandledExceptions.h"
 
 namespace designer::tests {

@@ -1,6 +1,5 @@
 // Event handlers whose code is elsewhere.
 #include "examples/designer/document/DocumentFixture.h"
-
 #include "kt/vcl/controls/Control.h"
 #include "kt/vcl/stdctrls/Button.h"
 
@@ -40,7 +39,8 @@ TEST_F(HandlerNamesTest, AHandlerDoesNothing) {
 TEST_F(HandlerNamesTest, AHandlerIsSetClearedAndSetAgainByName) {
   SetHandler("CancelButton", "OnClick", "CloseClick");
   EXPECT_EQ("CloseClick", HandlerOf("CancelButton", "OnClick"));
-  EXPECT_THAT(FDocument->FileBytes().toStdString(), ::testing::HasSubstr("      OnClick = CloseClick\n    end\n  end\n"));
+  EXPECT_THAT(FDocument->FileBytes().toStdString(),
+              ::testing::HasSubstr("      OnClick = CloseClick\n    end\n  end\n"));
   SetHandler("CancelButton", "OnClick", "");
   EXPECT_EQ(kDocumentForm, FDocument->FileBytes());
 }

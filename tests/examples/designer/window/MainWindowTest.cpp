@@ -132,6 +132,15 @@ TEST_F(MainWindowTest, TheFormsVisibilityIsNotTheDesigners) {
   EXPECT_TRUE(dynamic_cast<kt::TWinControl&>(Control("Button1")).GetHandle()->isVisible());
 }
 
+TEST_F(MainWindowTest, TheFormReadsAsItSaysWhateverTheDesignerDoes) {
+  QApplication::setLayoutDirection(Qt::RightToLeft);
+  Settle();
+  EXPECT_EQ(Control("SmallForm").GetBiDiMode(), kt::bdLeftToRight);
+  EXPECT_TRUE(FWindow->Open(FFile));
+  EXPECT_EQ(Control("Button1").GetBiDiMode(), kt::bdLeftToRight);
+  QApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
 TEST_F(MainWindowTest, EveryPartHasANameForScreenReaders) {
   EXPECT_EQ(Surface().accessibleName(), "Form");
   EXPECT_EQ(FWindow->Tree().accessibleName(), "Components of the form");
