@@ -1,6 +1,6 @@
 # An example that is started without a display draws itself into a picture, and ends well.
 file(REMOVE ${PICTURE})
-execute_process(COMMAND ${PROGRAM} ${PICTURE} RESULT_VARIABLE status)
+execute_process(COMMAND ${PROGRAM} ${OPTION} ${PICTURE} RESULT_VARIABLE status)
 if(NOT status EQUAL 0)
   message(FATAL_ERROR "${PROGRAM} ended with ${status}")
 endif()

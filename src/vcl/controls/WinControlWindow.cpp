@@ -136,22 +136,29 @@ void TWinControl::RecreateEmbedded() {
     FWindow->setParent(host);
     FWindow->setGeometry(geometry);
   }
-  if (IsVisible()) FWindow->show();
+  if (WantsWindowVisible()) FWindow->show();
+}
+
+/// In a designer even what is hidden can be seen, unless its kind says otherwise.
+bool TWinControl::WantsWindowVisible() const {
+  return IsVisible() || (HasState(csDesigning) && !FControlStyle.Has(csNoDesignVisible));
 }
 
 void TWinControl::UpdateWindowVisible() {
+  const bool isWanted = WantsWindowVisible();
   // Without a parent it is shown by whoever embeds it, who does not show what was hidden on purpose.
-  if (GetParent() || !IsVisible()) FWindow->setVisible(IsVisible());
+  if (GetParent() || !isWanted) FWindow->setVisible(isWanted);
 }
 
 void TWinControl::CMVisibleChanged(TMessage&) {
   if (!HandleAllocated()) return;
+  const bool isWanted = WantsWindowVisible();
   const bool isEmbeddedLater = !GetParent() && FWindow->isWindow() && !StandsAlone();
-  if (IsVisible() && isEmbeddedLater) {
+  if (isWanted && isEmbeddedLater) {
     // No longer hidden on purpose: appears with its surroundings.
     FWindow->setAttribute(Qt::WA_WState_ExplicitShowHide, false);
   } else {
-    FWindow->setVisible(IsVisible());
+    FWindow->setVisible(isWanted);
   }
 }
 

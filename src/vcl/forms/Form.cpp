@@ -102,6 +102,8 @@ void TCustomForm::SetActiveControl(TWinControl* value) {
 }
 
 void TCustomForm::FocusActiveControl() {
+  // The keyboard is the designer's.
+  if (HasState(csDesigning)) return;
   if (FActiveControl && FActiveControl->CanFocus()) FActiveControl->SetFocus();
 }
 

@@ -116,6 +116,7 @@ class TCustomForm : public TCustomControl {
 
  private:
   Qt::WindowFlags WindowFlags() const;
+  void UpdateWindowFlags();
   void PlaceWindow();
   bool ShowsMenu() const;
   /// Has the menu bar keep up with the menu, and the client area with the menu bar.

@@ -45,19 +45,24 @@ void TCustomForm::CreateWnd() {
 void TCustomForm::SetBorderStyle(TFormBorderStyle value) {
   if (FBorderStyle == value) return;
   FBorderStyle = value;
-  if (HandleAllocated() && !IsShowing()) Window()->setWindowFlags(WindowFlags());
+  UpdateWindowFlags();
   UpdateMenuBar();
 }
 
 void TCustomForm::SetBorderIcons(TBorderIcons value) {
   if (FBorderIcons == value) return;
   FBorderIcons = value;
-  if (HandleAllocated() && !IsShowing()) Window()->setWindowFlags(WindowFlags());
+  UpdateWindowFlags();
+}
+
+/// A form that stands in another window has no frame of its own.
+void TCustomForm::UpdateWindowFlags() {
+  if (HandleAllocated() && !IsShowing() && Window()->isWindow()) Window()->setWindowFlags(WindowFlags());
 }
 
 void TCustomForm::SetWindowState(TWindowState value) {
   FWindowState = value;
-  if (!HandleAllocated()) return;
+  if (!HandleAllocated() || HasState(csDesigning)) return;
   Window()->setWindowState(value == wsMaximized   ? Qt::WindowMaximized
                            : value == wsMinimized ? Qt::WindowMinimized
                                                   : Qt::WindowNoState);
@@ -68,8 +73,9 @@ void TCustomForm::CMTextChanged(TMessage& message) {
   if (HandleAllocated()) Window()->setWindowTitle(GetText());
 }
 
+/// A form that is being designed shows where its designer puts it, whatever it says of itself.
 void TCustomForm::CMVisibleChanged(TMessage& message) {
-  if (HasState(csLoading)) return;
+  if (HasState(csLoading) || HasState(csDesigning)) return;
   if (IsVisible() && !IsShowing()) {
     GetHandle();
     PlaceWindow();

@@ -1,0 +1,99 @@
+// A form designer: opens form files, shows them alive, and edits them with the object inspector. Without a display it
+// draws its window into a picture and prints the form.
+#include "designer/session/Session.h"
+#include "designer/window/MainWindow.h"
+#include "designer/window/ShippedForms.h"
+#include "itemlist/Looks.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+
+#include <cstdio>
+
+namespace {
+
+void DescribeOptions(QCommandLineParser& parser) {
+  parser.setApplicationDescription(
+      QStringLiteral("Edits forms: shows them alive, with their components as a tree and an object inspector.\nWith "
+                     "--draw, and without a display, draws the window into a picture and prints the form instead."));
+  parser.addHelpOption();
+  parser.addPositionalArgument(QStringLiteral("FILE"),
+                               QStringLiteral("a form, as text or binary; one that comes with the program if left out"),
+                               QStringLiteral("[FILE]"));
+  parser.addOption(
+      {QStringLiteral("draw"), QStringLiteral("Draw the window into this picture."), QStringLiteral("PICTURE")});
+  parser.addOption({QStringLiteral("dark"), QStringLiteral("Light texts on dark ground.")});
+  parser.addOption({QStringLiteral("rtl"), QStringLiteral("From right to left.")});
+  parser.addOption({QStringLiteral("points"), QStringLiteral("The size of the fonts."), QStringLiteral("SIZE")});
+  parser.addOption({QStringLiteral("scale"), QStringLiteral("Pixels of the screen for one of the window."),
+                    QStringLiteral("FACTOR")});
+}
+
+/// Qt asks for these before there is an application object that could read its arguments.
+void SetSurroundings(int argc, char** argv) {
+  bool draws = false;
+  for (int i = 1; i < argc; ++i) {
+    const QByteArray argument(argv[i]);
+    if (argument == "--scale" && i + 1 < argc) qputenv("QT_SCALE_FACTOR", argv[i + 1]);
+    if (argument.startsWith("--scale=")) qputenv("QT_SCALE_FACTOR", argument.mid(8));
+    draws = draws || argument == "--draw" || argument.startsWith("--draw=");
+  }
+  const bool hasDisplay = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+  const bool isChosen = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+  if (draws || (!hasDisplay && !isChosen)) qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+void SetLooks(const QCommandLineParser& parser) {
+  if (parser.isSet(QStringLiteral("dark"))) UseDarkPalette();
+  if (parser.isSet(QStringLiteral("rtl"))) QApplication::setLayoutDirection(Qt::RightToLeft);
+  if (!parser.isSet(QStringLiteral("points"))) return;
+  QFont font = QApplication::font();
+  font.setPointSize(parser.value(QStringLiteral("points")).toInt());
+  QApplication::setFont(font);
+}
+
+int Draw(designer::TMainWindow& window, const QString& picture, bool isAsked) {
+  window.ShowOff();
+  QApplication::processEvents();
+  if (!window.grab().save(picture)) {
+    std::fprintf(stderr, "designer: cannot write %s\n", qUtf8Printable(picture));
+    return 1;
+  }
+  std::fputs(qUtf8Printable(window.Session().Document().TreeText()), stdout);
+  const char* reason = isAsked ? "" : "there is no display to show a window on; ";
+  std::printf("designer: %sdrawn into %s\n", reason, qUtf8Printable(picture));
+  return 0;
+}
+
+/// Errors go to standard error where nobody could close a window that tells them.
+void TellOnStandardError(designer::TMainWindow& window) {
+  window.Questions().Tell = [](const QString& message) {
+    std::fprintf(stderr, "designer: error: %s\n", qUtf8Printable(message));
+  };
+}
+
+int Run(const QCommandLineParser& parser) {
+  const bool isDrawn = parser.isSet(QStringLiteral("draw")) || QGuiApplication::platformName() == u"offscreen";
+  designer::TMainWindow window;
+  if (isDrawn) TellOnStandardError(window);
+  const QString given = parser.positionalArguments().value(0);
+  const QString file = given.isEmpty() ? designer::FirstForm() : given;
+  window.show();
+  const bool isOpen = file.isEmpty() || window.Open(file);
+  if (!isDrawn) return QApplication::exec();
+  if (!isOpen) return 1;
+  const QString picture = parser.value(QStringLiteral("draw"));
+  return Draw(window, picture.isEmpty() ? QStringLiteral("designer.png") : picture, !picture.isEmpty());
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  SetSurroundings(argc, argv);
+  QApplication application(argc, argv);
+  QCommandLineParser parser;
+  DescribeOptions(parser);
+  parser.process(application);
+  SetLooks(parser);
+  return Run(parser);
+}

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "designer/session/Session.h"
+#include "designer/window/Questions.h"
+
+#include <QMainWindow>
+
+class QLabel;
+class QScrollArea;
+
+namespace designer {
+
+class TComponentTree;
+class TInspectorPanel;
+class TPaletteList;
+class TStage;
+class TSurface;
+
+/// The designer's window: the palette, the live form, its components as a tree, and the object inspector.
+///
+/// What goes wrong anywhere in it is told once, and leaves the open form as it was.
+class TMainWindow : public QMainWindow {
+ public:
+  /// Begins with an empty form.
+  TMainWindow();
+  ~TMainWindow() override;
+
+  TSession& Session() { return FSession; }
+  TSurface& Surface() const;
+  TComponentTree& Tree() const { return *FTree; }
+  TPaletteList& Palette() const { return *FPalette; }
+  TInspectorPanel& Panel() const { return *FPanel; }
+  TQuestions& Questions() { return FQuestions; }
+
+  // Files. What fails is told; false then, and when the user does not want to.
+  bool Open(const QString& fileName);
+  bool NewForm();
+  bool Save();
+  bool SaveTo(const QString& fileName);
+  /// As somebody sees it in the middle of working: something is selected, and expanded in the inspector.
+  void ShowOff();
+  /// The action of that name; never null for one of the window's own.
+  QAction* Action(const QString& name) const;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  struct TCommand;
+
+  // The parts.
+  void BuildParts();
+  QWidget* MakeSide(const QString& title, QWidget* content);
+  void ConnectParts();
+  void Heard(TNews news);
+  void UpdateTitle();
+  void UpdateStatus();
+
+  // Actions.
+  void BuildActions();
+  QAction* Add(const TCommand& command);
+  void BuildMenus();
+  void BuildFileMenu();
+  void BuildEditMenu();
+  void BuildViewMenu();
+  void BuildHelpMenu();
+  void BuildToolBar();
+  void UpdateActions();
+  void OpenMenu(QPoint globalPoint);
+  void GoToPane(int step);
+  void ShowKeys();
+
+  // Files.
+  void AskAndOpen();
+  bool SaveAs();
+  /// Whether nothing is lost by leaving the document.
+  bool MayLeave();
+  bool Try(const std::function<void()>& call);
+
+  // Edits.
+  void Cut();
+  void Copy();
+  void Paste();
+  void Delete();
+  void Remove(const QString& verb);
+  void SelectAll();
+  void PlaceInMiddle(const kt::TClassInfo* classInfo);
+
+  TSession FSession;
+  TQuestions FQuestions;
+  TPaletteList* FPalette = nullptr;
+  QScrollArea* FScroll = nullptr;
+  TStage* FStage = nullptr;
+  TComponentTree* FTree = nullptr;
+  TInspectorPanel* FPanel = nullptr;
+  QLabel* FStatus = nullptr;
+};
+
+}  // namespace designer

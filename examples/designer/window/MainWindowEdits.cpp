@@ -1,0 +1,106 @@
+// What the commands of the edit menu do.
+#include "designer/palette/PaletteList.h"
+#include "designer/surface/Surface.h"
+#include "designer/window/MainWindow.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include <algorithm>
+
+namespace designer {
+
+using namespace kt;
+
+namespace {
+
+/// Those that can be copied and deleted: not the form.
+std::vector<TComponent*> Parts(const TSession& session) {
+  std::vector<TComponent*> parts = session.Selected();
+  std::erase(parts, &session.Form());
+  return parts;
+}
+
+/// Whether another control stands at the very place of this one.
+bool Covers(const TControl& control) {
+  const TWinControl* parent = control.GetParent();
+  for (int i = 0; parent && i < parent->GetControlCount(); ++i) {
+    const TControl* other = parent->GetControls(i);
+    const bool isThere = other->GetLeft() == control.GetLeft() && other->GetTop() == control.GetTop();
+    if (other != &control && isThere) return true;
+  }
+  return false;
+}
+
+/// So that a copy does not hide what it was copied from.
+void StepAside(const std::vector<TComponent*>& pasted) {
+  for (TComponent* component : pasted) {
+    auto* control = dynamic_cast<TControl*>(component);
+    while (control && IsMovable(*control) && Covers(*control)) {
+      control->SetBounds(control->GetLeft() + kGridStep, control->GetTop() + kGridStep, control->GetWidth(),
+                         control->GetHeight());
+    }
+  }
+}
+
+}  // namespace
+
+void TMainWindow::Copy() {
+  const std::vector<TComponent*> parts = Parts(FSession);
+  if (!parts.empty()) QGuiApplication::clipboard()->setText(FSession.Document().CopyText(parts));
+}
+
+void TMainWindow::Remove(const QString& verb) {
+  const std::vector<TComponent*> parts = Parts(FSession);
+  if (parts.empty()) return;
+  const QString text = StepText(verb, parts);
+  TComponent* around = FSession.Document().ParentOf(parts.front());
+  // What is around may be selected itself, and go too.
+  while (std::find(parts.begin(), parts.end(), around) != parts.end()) around = FSession.Document().ParentOf(around);
+  FSession.Document().Delete(parts);
+  FSession.Edited(text);
+  FSession.Select(around);
+}
+
+void TMainWindow::Delete() { Remove(QStringLiteral("Delete")); }
+
+void TMainWindow::Cut() {
+  Copy();
+  Remove(QStringLiteral("Cut"));
+}
+
+void TMainWindow::Paste() {
+  const QString text = QGuiApplication::clipboard()->text();
+  if (text.trimmed().isEmpty()) return;
+  TWinControl* container = Surface().Places().ContainerOf(FSession.Main());
+  const std::vector<TComponent*> pasted = FSession.Document().Paste(text, container);
+  if (pasted.empty()) return;
+  StepAside(pasted);
+  FSession.Edited(StepText(QStringLiteral("Paste"), pasted));
+  FSession.Select(pasted);
+}
+
+void TMainWindow::SelectAll() {
+  std::vector<TComponent*> all = FSession.Components();
+  std::erase_if(all, [this](TComponent* component) {
+    return component == &FSession.Form() || FSession.Document().ParentOf(component) != &FSession.Form();
+  });
+  if (!all.empty()) FSession.Select(all);
+}
+
+void TMainWindow::PlaceInMiddle(const TClassInfo* classInfo) {
+  TWinControl* container = Surface().Places().ContainerOf(FSession.Main());
+  const QPoint middle = container->GetClientRect().center();
+  TComponent* added = FSession.Document().Add(classInfo, container, {Snapped(middle), QSize(0, 0)});
+  if (auto* control = dynamic_cast<TControl*>(added); control && IsMovable(*control)) {
+    const QPoint place = Snapped(middle - QPoint(control->GetWidth(), control->GetHeight()) / 2);
+    control->SetBounds(std::max(place.x(), 0), std::max(place.y(), 0), control->GetWidth(), control->GetHeight());
+    StepAside({added});
+  }
+  Surface().SetTool(nullptr);
+  FPalette->LayAside();
+  FSession.Edited(StepText(QStringLiteral("Add"), {added}));
+  FSession.Select(added);
+}
+
+}  // namespace designer

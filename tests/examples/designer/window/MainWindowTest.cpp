@@ -1,0 +1,162 @@
+#include "DesignerFixture.h"
+
+namespace designer::tests {
+namespace {
+
+class MainWindowTest : public TDesignerTest {
+ protected:
+  void Change() {
+    Select("Button1");
+    Surface().setFocus();
+    Key(Qt::Key_Right, Qt::ControlModifier);
+  }
+};
+
+TEST_F(MainWindowTest, ABadFileIsToldOnceAndLeavesTheOpenForm) {
+  const QString bad = FileWith("bad.dfm", "object Form1: TForm1\n  Caption = \nend\n");
+  EXPECT_FALSE(FWindow->Open(bad));
+  EXPECT_EQ(FTold.size(), 1);
+  EXPECT_EQ(Session().Form().GetName(), "SmallForm");
+}
+
+TEST_F(MainWindowTest, AFileThatIsNotThereIsTold) {
+  EXPECT_FALSE(FWindow->Open(FFolder.filePath("nowhere.dfm")));
+  EXPECT_EQ(FTold.size(), 1);
+}
+
+TEST_F(MainWindowTest, TheTitleTellsFileAndChanges) {
+  EXPECT_EQ(FWindow->windowTitle(), "small.dfm[*] - Form designer");
+  EXPECT_FALSE(FWindow->isWindowModified());
+  Change();
+  EXPECT_TRUE(FWindow->isWindowModified());
+  Do("save");
+  EXPECT_FALSE(FWindow->isWindowModified());
+}
+
+TEST_F(MainWindowTest, SavingChangesOnlyTheLinesThatChanged) {
+  Change();
+  Do("save");
+  EXPECT_EQ(ContentOf(FFile),
+            QString(SmallForm()).replace("    Left = 16\n    Top = 16\n", "    Left = 17\n    Top = 16\n"));
+}
+
+TEST_F(MainWindowTest, ClosingAsksWhenSomethingWouldBeLost) {
+  Change();
+  FAnswer = saCancel;
+  EXPECT_FALSE(FWindow->close());
+  EXPECT_EQ(TakeTold(), "save small.dfm?");
+  FAnswer = saDiscard;
+  EXPECT_TRUE(FWindow->close());
+  EXPECT_EQ(ContentOf(FFile), SmallForm());
+}
+
+TEST_F(MainWindowTest, ClosingCanSave) {
+  Change();
+  FAnswer = saSave;
+  EXPECT_TRUE(FWindow->close());
+  EXPECT_NE(ContentOf(FFile), SmallForm());
+}
+
+TEST_F(MainWindowTest, ClosingAnUntouchedFormAsksNothing) {
+  EXPECT_TRUE(FWindow->close());
+  EXPECT_EQ(TakeTold(), "");
+}
+
+TEST_F(MainWindowTest, OpeningAsksToo) {
+  Change();
+  FAnswer = saCancel;
+  EXPECT_FALSE(FWindow->Open(FFile));
+  EXPECT_EQ(Bounds("Button1"), "17 16 75 25");
+}
+
+TEST_F(MainWindowTest, SavingUnderAnotherNameGoesOnWithThat) {
+  const QString other = FFolder.filePath("other.dfm");
+  FWindow->Questions().AskSaveName = [&](const QString&) { return other; };
+  Do("saveAs");
+  EXPECT_EQ(ContentOf(other), SmallForm());
+  EXPECT_EQ(FWindow->windowTitle(), "other.dfm[*] - Form designer");
+}
+
+TEST_F(MainWindowTest, SavingWhereItCannotBeIsTold) {
+  EXPECT_FALSE(FWindow->SaveTo(FFolder.filePath("no/such/folder.dfm")));
+  EXPECT_EQ(FTold.size(), 1);
+}
+
+TEST_F(MainWindowTest, ANewFormIsEmpty) {
+  Do("new");
+  EXPECT_EQ(Session().Form().GetComponentCount(), 0);
+  EXPECT_EQ(Selected(), "Form1");
+}
+
+TEST_F(MainWindowTest, ADoubleClickInThePalettePlacesInTheMiddle) {
+  Select("SmallForm");
+  FWindow->Palette().OnPlace(TPaletteList::ClassOf(FWindow->Palette().ItemOf("TButton")));
+  EXPECT_EQ(Selected(), "Button3");
+  EXPECT_TRUE(QRect(100, 60, 100, 80).contains(Control("Button3").GetBoundsRect().center()));
+}
+
+TEST_F(MainWindowTest, ThePalettePlacesByKeys) {
+  Select("SmallForm");
+  FWindow->Palette().setFocus();
+  FWindow->Palette().setCurrentItem(FWindow->Palette().ItemOf("TCheckBox"));
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Selected(), "CheckBox2");
+}
+
+TEST_F(MainWindowTest, TheTreeAndTheFormShareTheSelection) {
+  FWindow->Tree().setCurrentItem(FWindow->Tree().ItemOf(&Component("CheckBox1")));
+  EXPECT_EQ(Selected(), "CheckBox1");
+  Click(At("Button2"));
+  EXPECT_TRUE(FWindow->Tree().ItemOf(&Component("Button2"))->isSelected());
+  EXPECT_EQ(FWindow->Tree().selectedItems().size(), 1);
+}
+
+TEST_F(MainWindowTest, UndoBringsBackWhatWasDeleted) {
+  Select("Button1");
+  Surface().setFocus();
+  Key(Qt::Key_Delete);
+  Do("undo");
+  EXPECT_EQ(Bounds("Button1"), "16 16 75 25");
+  EXPECT_EQ(Document().FileBytes(), QByteArray(SmallForm()));
+  Do("redo");
+  EXPECT_EQ(Document().Find(u"Button1"), nullptr);
+}
+
+TEST_F(MainWindowTest, TheFormsVisibilityIsNotTheDesigners) {
+  Control("SmallForm").SetVisible(true);
+  Control("SmallForm").SetVisible(false);
+  Control("Button1").SetVisible(false);
+  Settle();
+  EXPECT_TRUE(Session().Form().GetHandle()->isVisible());
+  EXPECT_FALSE(Session().Form().GetHandle()->isWindow());
+  EXPECT_TRUE(dynamic_cast<kt::TWinControl&>(Control("Button1")).GetHandle()->isVisible());
+}
+
+TEST_F(MainWindowTest, TheFormReadsAsItSaysWhateverTheDesignerDoes) {
+  QApplication::setLayoutDirection(Qt::RightToLeft);
+  Settle();
+  EXPECT_EQ(Control("SmallForm").GetBiDiMode(), kt::bdLeftToRight);
+  EXPECT_TRUE(FWindow->Open(FFile));
+  EXPECT_EQ(Control("Button1").GetBiDiMode(), kt::bdLeftToRight);
+  QApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+TEST_F(MainWindowTest, EveryPartHasANameForScreenReaders) {
+  EXPECT_EQ(Surface().accessibleName(), "Form");
+  EXPECT_EQ(FWindow->Tree().accessibleName(), "Components of the form");
+  EXPECT_EQ(FWindow->Palette().accessibleName(), "Components to place");
+  EXPECT_EQ(FWindow->Panel().Inspector().GetHandle()->accessibleName(), "Object inspector");
+}
+
+TEST_F(MainWindowTest, ItDrawsItself) {
+  FWindow->ShowOff();
+  Settle();
+  const QImage picture = FWindow->grab().toImage();
+  EXPECT_GT(picture.width(), 800);
+  const QRect form = RectOf("SmallForm");
+  const QPoint ground = Surface().mapTo(FWindow.get(), form.center() + QPoint(0, 40));
+  EXPECT_TRUE(picture.rect().contains(ground));
+}
+
+}  // namespace
+}  // namespace designer::tests
