@@ -241,6 +241,8 @@ class TKTCustomObjectInspector : public TKTCustomItemListEditor {
 
   bool IsMultiColumn() const { return GetDisplayOptions().Has(doMultiColValues); }
   bool IsUpdatingObjects() const;
+  bool IsBeingTyped(const TKTItemProperty& item) const;
+  bool IsShownOfAll(TKTItemProperty& item);
   bool RefreshItem(TKTItemProperty& item);
   bool RefreshItems(TKTItemProperties& items);
   void ReloadEditor();

@@ -3,6 +3,7 @@
 #include "kt/KTItemListEditor/EditUpdateLock.h"
 #include "kt/KTItemListEditor/ItemWatch.h"
 #include "kt/rtl/collections/UpdateBracket.h"
+#include "kt/rtl/conversions/TextCompare.h"
 #include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/vcl/grids/InplaceEdit.h"
@@ -88,11 +89,16 @@ TKTItemProperty* TKTCustomObjectInspector::TPropertyWatch::ItemOf(const TChange&
 bool TKTCustomObjectInspector::TPropertyWatch::Refresh() {
   const TLifeWatch life(&FInspector);
   std::set<TChange> done;
+  std::set<TChange> postponed;
   while (!FChanges.empty()) {
     const auto change = FChanges.extract(FChanges.begin());
     if (!done.insert(change.value()).second) continue;
     const TItemWatch item(ItemOf(change.value()));
     if (!item) continue;
+    if (FInspector.IsBeingTyped(static_cast<TKTItemProperty&>(*item))) {
+      postponed.insert(change.value());
+      continue;
+    }
     const bool isFresh = FInspector.RefreshItem(static_cast<TKTItemProperty&>(*item));
     if (!life.IsAlive()) return true;
     if (isFresh) continue;
@@ -100,6 +106,7 @@ bool TKTCustomObjectInspector::TPropertyWatch::Refresh() {
     Discard();
     return false;
   }
+  FChanges.swap(postponed);
   FIsPosted = false;
   return true;
 }
@@ -111,21 +118,48 @@ void TKTCustomObjectInspector::TPropertyWatch::Discard() {
 
 // The inspector's part.
 
+/// Whether there is text in the editor of the item, or of one below it, that is not accepted yet.
+bool TKTCustomObjectInspector::IsBeingTyped(const TKTItemProperty& item) const {
+  const TInplaceEdit* edit = IsEditorMode() ? InplaceEditor() : nullptr;
+  if (!edit || !edit->IsModified()) return false;
+  for (const TKTItemProperty* at = GetSelected(); at; at = at->GetParent()) {
+    if (at == &item) return true;
+  }
+  return false;
+}
+
+/// Whether the other inspected objects show what the item shows of the first.
+bool TKTCustomObjectInspector::IsShownOfAll(TKTItemProperty& item) {
+  const TLifeWatch self(this);
+  const TItemWatch watched(&item);
+  const QString text = item.GetValueLine(0);
+  for (int i = 1; i < FObjects->GetCount(); ++i) {
+    QString name = item.GetFullPathPropName();
+    TObject* instance = GetInstance(FObjects->GetItem(i)->GetObjects(), name, &item);
+    if (!instance || !self.IsAlive() || !watched) return false;
+    const QString other = GetPropertyValue(instance, &item);
+    if (!self.IsAlive() || !watched) return false;
+    if (other != text && AnsiCompareText(other, text) != 0) return false;
+  }
+  return true;
+}
+
 bool TKTCustomObjectInspector::RefreshItem(TKTItemProperty& item) {
   const TLifeWatch self(this);
   const TItemWatch watched(&item);
   if (!item.RefreshValue() || !self.IsAlive() || !watched) return false;
+  if (FObjects->GetCount() > 1 && !IsMultiColumn() && item.IsRealProperty()) {
+    const bool isSame = IsShownOfAll(item);
+    if (!self.IsAlive() || !watched) return false;
+    item.SetAllEqual(isSame);
+  }
   return !item.HasItems() || RefreshItems(item.GetItems());
 }
 
-/// What the user has typed, and not accepted yet, stays.
 void TKTCustomObjectInspector::KTInvalidateValues() {
   if (HasState(csDestroying)) return;
   if (IsUpdatingObjects()) return FWatch->Discard();
   const TLifeWatch self(this);
-  TInplaceEdit* edit = IsEditorMode() ? InplaceEditor() : nullptr;
-  const bool isPristine = edit && edit->GetText() == GetEditText(GetCol(), GetRow());
-  if (!self.IsAlive()) return;
   bool isFresh = false;
   {
     TEditUpdateLock lock(*this);
@@ -136,7 +170,8 @@ void TKTCustomObjectInspector::KTInvalidateValues() {
   if (!isFresh) InvalidateScan();
   if (IsEditUpdateLocked()) return;
   Invalidate();
-  if (isPristine) ReloadEditor();
+  const TInplaceEdit* edit = InplaceEditor();
+  if (edit && !edit->IsModified()) ReloadEditor();
 }
 
 }  // namespace kt

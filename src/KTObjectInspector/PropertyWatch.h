@@ -11,7 +11,8 @@
 namespace kt {
 
 /// Listens to those of the objects in an inspector's tree that tell when their properties change, and has just the
-/// items of these read again. However often they change until control is back at the event queue, each is read once.
+/// items of these read again. However often they change until control is back at the event queue, each is read once. A
+/// value that the user is typing is left alone; it is read again with the first change after that.
 class TKTCustomObjectInspector::TPropertyWatch final : public IPropListener {
  public:
   explicit TPropertyWatch(TKTCustomObjectInspector& inspector) : FInspector(inspector) {}

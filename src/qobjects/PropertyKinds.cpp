@@ -220,7 +220,9 @@ TPropInfo::TDefinition DefinePart(const TMemberPtr& member) {
     const auto* outer = dynamic_cast<TValuePart*>(&object);
     if (outer && outer->IsWithin(type)) return nullptr;
     TValueHolder& holder = HolderIn(object);
-    return holder.Part(member, [&] { return Make<TValuePart>(holder, member, ShapeOf(type)); });
+    return holder.Part(member, [&] {
+      return Make<TValuePart>(holder, member, member->Write ? WritableShapeOf(type) : ShapeOf(type));
+    });
   };
   const auto set = [get](TObject& object, TObject* const& value) {
     auto* part = static_cast<TValuePart*>(get(object));

@@ -34,10 +34,12 @@ bool IsShadowed(const QMetaObject& meta, int index) {
   return false;
 }
 
+bool IsPublished(const QMetaObject& meta, int index) {
+  return meta.property(index).isReadable() && !IsShadowed(meta, index);
+}
+
 bool IsListed(const QMetaObject& meta, int index) {
-  const QMetaProperty property = meta.property(index);
-  if (!property.isReadable() || (!ListsHidden && !property.isDesignable())) return false;
-  return !IsShadowed(meta, index);
+  return meta.property(index).isDesignable() && IsPublished(meta, index);
 }
 
 TMemberPtr MemberOf(const QMetaObject& meta, int index, const TFreshValues* fresh) {
@@ -70,6 +72,30 @@ TClassInfo::TDefinition DefinitionOf(const QMetaObject& meta) {
   return definition;
 }
 
+/// The class with what it hides from designers.
+TClassInfo::TDefinition FullDefinitionOf(const QMetaObject& meta) {
+  const TClassInfo* listed = QObjectClassOf(&meta);
+  TClassInfo::TDefinition definition{.Name = listed->ClassName(), .Parent = listed};
+  const TFreshValues* fresh = FreshValuesFor(meta);
+  for (int i = 0; i < meta.propertyCount(); ++i) {
+    const bool isHidden = IsPublished(meta, i) && !IsListed(meta, i);
+    if (isHidden) definition.Properties.push_back(DefineProperty(MemberOf(meta, i, fresh)));
+  }
+  return definition;
+}
+
+const TClassInfo* FullClassOf(const QMetaObject* meta) {
+  static std::map<const QMetaObject*, std::unique_ptr<const TClassInfo>> known;
+  auto& info = known[meta];
+  if (!info) info = std::make_unique<const TClassInfo>(FullDefinitionOf(*meta));
+  return info.get();
+}
+
+/// Without dynamic properties.
+const TClassInfo* ListedClassOf(const QMetaObject* meta) {
+  return ListsHidden ? FullClassOf(meta) : QObjectClassOf(meta);
+}
+
 // Dynamic properties.
 
 struct TDynamicProperty {
@@ -97,15 +123,20 @@ QByteArray SignatureOf(const std::vector<TDynamicProperty>& properties) {
   return signature;
 }
 
-QString FreeName(const TClassInfo& base, const QByteArray& name) {
-  QString free = QString::fromUtf8(name);
-  while (base.FindProp(free)) free += u'_';
-  return free;
+/// What dynamic properties are published as: no name is that of another property, but for case.
+QStringList FreeNames(const TClassInfo& base, const std::vector<TDynamicProperty>& properties) {
+  QStringList names;
+  for (const TDynamicProperty& property : properties) {
+    QString name = QString::fromUtf8(property.Name);
+    while (base.FindProp(name) || names.contains(name, Qt::CaseInsensitive)) name += u'_';
+    names += name;
+  }
+  return names;
 }
 
-TMemberPtr DynamicMember(const TDynamicProperty& property, const TClassInfo& base) {
+TMemberPtr DynamicMember(const TDynamicProperty& property, const QString& name) {
   TValueMember member;
-  member.Name = FreeName(base, property.Name);
+  member.Name = name;
   member.Type = property.Type;
   member.Read = [name = property.Name](TValueHolder& holder) { return ComponentIn(holder).ReadDynamic(name); };
   member.Write = [name = property.Name](TValueHolder& holder, const QVariant& value) {
@@ -117,31 +148,37 @@ TMemberPtr DynamicMember(const TDynamicProperty& property, const TClassInfo& bas
 }  // namespace
 
 const TClassInfo* QObjectClassOf(const QMetaObject* meta) {
-  static std::map<std::pair<const QMetaObject*, bool>, std::unique_ptr<const TClassInfo>> known;
-  const std::pair key(meta, ListsHidden);
-  if (const auto found = known.find(key); found != known.end()) return found->second.get();
+  static std::map<const QMetaObject*, std::unique_ptr<const TClassInfo>> known;
+  if (const auto found = known.find(meta); found != known.end()) return found->second.get();
   auto made = std::make_unique<const TClassInfo>(DefinitionOf(*meta));
   // A constructor that ran for the defaults may have asked for the same.
-  return known.try_emplace(key, std::move(made)).first->second.get();
+  return known.try_emplace(meta, std::move(made)).first->second.get();
 }
 
 const TClassInfo* QObjectClassWithDynamic(const QObject& object) {
   static std::map<std::pair<const TClassInfo*, QByteArray>, std::unique_ptr<const TClassInfo>> known;
-  const TClassInfo* base = QObjectClassOf(object.metaObject());
+  const TClassInfo* base = ListedClassOf(object.metaObject());
   const std::vector<TDynamicProperty> properties = DynamicPropertiesOf(object);
   if (properties.empty()) return base;
   auto& info = known[{base, SignatureOf(properties)}];
   if (info) return info.get();
   TClassInfo::TDefinition definition{.Name = base->ClassName(), .Parent = base};
-  for (const TDynamicProperty& property : properties) {
-    definition.Properties.push_back(DefineProperty(DynamicMember(property, *base)));
+  const QStringList names = FreeNames(*base, properties);
+  for (size_t i = 0; i < properties.size(); ++i) {
+    const QString& name = names[static_cast<qsizetype>(i)];
+    definition.Properties.push_back(DefineProperty(DynamicMember(properties[i], name)));
   }
   info = std::make_unique<const TClassInfo>(std::move(definition));
   return info.get();
 }
 
 QString PublishedDynamicName(const QObject& object, const QByteArray& name) {
-  return FreeName(*QObjectClassOf(object.metaObject()), name);
+  const std::vector<TDynamicProperty> properties = DynamicPropertiesOf(object);
+  const QStringList names = FreeNames(*ListedClassOf(object.metaObject()), properties);
+  for (size_t i = 0; i < properties.size(); ++i) {
+    if (properties[i].Name == name) return names[static_cast<qsizetype>(i)];
+  }
+  return QString::fromUtf8(name);
 }
 
 int QObjectClassGeneration() { return Generation; }
@@ -166,7 +203,7 @@ QString PublishedPropertyName(const QMetaObject& meta, int index) {
 
 int FindPublishedProperty(const QMetaObject& meta, QStringView name) {
   for (int i = meta.propertyCount() - 1; i >= 0; --i) {
-    if (SameText(PublishedPropertyName(meta, i), name) && IsListed(meta, i)) return i;
+    if (SameText(PublishedPropertyName(meta, i), name) && IsPublished(meta, i)) return i;
   }
   return -1;
 }

@@ -122,18 +122,31 @@ std::vector<TValueMember> MembersOf(QMetaType type) {
   return known != KnownShapes().end() ? known->second() : GadgetMembers(*type.metaObject());
 }
 
+std::unique_ptr<const TClassInfo> MakeShape(QMetaType type, const TClassInfo* parent, bool isWritable) {
+  TClassInfo::TDefinition definition{.Name = QString::fromUtf8(type.name()), .Parent = parent};
+  for (TValueMember& member : MembersOf(type)) {
+    if (!isWritable) member.Write = nullptr;
+    definition.Properties.push_back(DefineProperty(std::make_shared<const TValueMember>(std::move(member))));
+  }
+  return std::make_unique<const TClassInfo>(std::move(definition));
+}
+
 }  // namespace
 
 bool HasShape(QMetaType type) { return type.isValid() && (KnownShapes().contains(type.id()) || IsGadget(type)); }
 
 const TClassInfo* ShapeOf(QMetaType type) {
   static std::map<int, std::unique_ptr<const TClassInfo>> known;
-  if (const auto found = known.find(type.id()); found != known.end()) return found->second.get();
-  TClassInfo::TDefinition definition{.Name = QString::fromUtf8(type.name()), .Parent = TPersistent::Class()};
-  for (TValueMember& member : MembersOf(type)) {
-    definition.Properties.push_back(DefineProperty(std::make_shared<const TValueMember>(std::move(member))));
-  }
-  return (known[type.id()] = std::make_unique<const TClassInfo>(std::move(definition))).get();
+  auto& info = known[type.id()];
+  if (!info) info = MakeShape(type, TPersistent::Class(), false);
+  return info.get();
+}
+
+const TClassInfo* WritableShapeOf(QMetaType type) {
+  static std::map<int, std::unique_ptr<const TClassInfo>> known;
+  auto& info = known[type.id()];
+  if (!info) info = MakeShape(type, ShapeOf(type), true);
+  return info.get();
 }
 
 }  // namespace kt

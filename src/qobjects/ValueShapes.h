@@ -12,9 +12,12 @@ namespace kt {
 /// properties.
 bool HasShape(QMetaType type);
 
-/// The class of the parts that stand for values of a type with members; its properties are the members. One for each
-/// type, for the life of the process. For the user-interface thread.
+/// The class of the parts that stand for values of a type with members; its properties are the members, which can only
+/// be read. One for each type, for the life of the process. For the user-interface thread.
 const TClassInfo* ShapeOf(QMetaType type);
+
+/// The class, derived from that one, of the parts that stand for values which can be written.
+const TClassInfo* WritableShapeOf(QMetaType type);
 
 /// Describes the members of a value type by its getters and setters.
 template <class T>

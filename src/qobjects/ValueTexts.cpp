@@ -168,16 +168,17 @@ bool IsNullPointer(const QVariant& value) {
   return isPointer && !*static_cast<void* const*>(value.constData());
 }
 
-/// 0 for no picture, and for what is none.
-qint64 PictureKey(const QVariant& value) {
+/// What a picture looks like; nothing for what is none. Each copy of Qt's own icons is another one.
+QImage LookOf(const QVariant& value) {
+  constexpr QSize kProbe(16, 16);
   switch (value.metaType().id()) {
     case QMetaType::QIcon:
-      return value.value<QIcon>().cacheKey();
+      return value.value<QIcon>().pixmap(kProbe).toImage();
     case QMetaType::QPixmap:
     case QMetaType::QBitmap:
-      return value.value<QPixmap>().cacheKey();
+      return value.value<QPixmap>().toImage();
     default:
-      return 0;
+      return {};
   }
 }
 
@@ -218,7 +219,7 @@ QString ReadOnlyText(const QVariant& value) {
 bool LooksSame(const QVariant& a, const QVariant& b) {
   if (a.metaType() != b.metaType()) return false;
   if (!a.isValid() || a.metaType().isEqualityComparable()) return a == b;
-  return PictureKey(a) == PictureKey(b) && ReadOnlyText(a) == ReadOnlyText(b);
+  return ReadOnlyText(a) == ReadOnlyText(b) && LookOf(a) == LookOf(b);
 }
 
 }  // namespace kt

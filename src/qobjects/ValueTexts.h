@@ -25,7 +25,7 @@ QVariant ValueOfText(QMetaType type, const QString& text, const QVariant& curren
 QString ReadOnlyText(const QVariant& value);
 
 /// Whether two values are the same as far as can be told: for types that cannot be compared, by what is shown of them,
-/// and whether they are the same picture.
+/// and by what pictures look like.
 bool LooksSame(const QVariant& a, const QVariant& b);
 
 }  // namespace kt

@@ -19,7 +19,7 @@ TEST_F(HostileQObjectTest, ASetterThatDestroysTheObject) {
 TEST_F(HostileQObjectTest, ASetterThatDestroysTheObjectBelowAGadget) {
   InspectQ({FObject.get()});
   FObject->OnSet = [this] { FObject.reset(); };
-  Put("gadget.inner.place.x", "3");
+  Put("gadget.inner.place.x", "5");
   EXPECT_EQ(0, FInspector->GetItemCount());
 }
 

@@ -29,6 +29,19 @@ TEST_F(MixedSelectionTest, ValuesThatDifferAreNotEqual) {
   EXPECT_TRUE(Item("enabled").IsAllEqual());
 }
 
+TEST_F(MixedSelectionTest, ValuesThatBecomeDifferentOrEqualAreShownSo) {
+  TQtCounter first;
+  TQtCounter second;
+  InspectQ({&first, &second});
+  EXPECT_TRUE(Item("count").IsAllEqual());
+  second.SetCount(6);
+  Deliver();
+  EXPECT_FALSE(Item("count").IsAllEqual());
+  first.SetCount(6);
+  Deliver();
+  EXPECT_TRUE(Item("count").IsAllEqual());
+}
+
 TEST_F(MixedSelectionTest, AValueColumnForEachObject) {
   QLabel first;
   QLabel second;

@@ -104,6 +104,17 @@ TEST_F(QObjectClassesTest, ADynamicPropertyThatOnlyChangesIsReadAgain) {
   EXPECT_EQ(0, scans);
 }
 
+TEST_F(QObjectClassesTest, DynamicPropertiesThatDifferInCaseAreBothListedAndFollow) {
+  TQtCounter object;
+  object.setProperty("extra", 1);
+  object.setProperty("Extra", 2);
+  InspectQ({&object});
+  EXPECT_EQ("1 2", Value("extra") + ' ' + Value("Extra_"));
+  object.setProperty("Extra", 3);
+  Deliver();
+  EXPECT_EQ("1 3", Value("extra") + ' ' + Value("Extra_"));
+}
+
 TEST_F(QObjectClassesTest, ADynamicPropertyDoesNotHideADeclaredOne) {
   TQtCounter object;
   object.setProperty("Count", 99);

@@ -61,8 +61,9 @@ TEST_F(QObjectEnumsTest, FlagsAreASetOfTheirSingleBits) {
   EXPECT_EQ("[Left,Top]", Value("sides"));
   EXPECT_EQ("Left Top", NamesBelow("sides"));
   EXPECT_EQ("True", Value("sides.Left"));
-  Put("sides.Left", "False");
+  Put("sides", "[Top]");
   EXPECT_EQ(TQtKinds::Sides(TQtKinds::Top), FObject.ASides);
+  EXPECT_EQ("False", Value("sides.Left"));
 }
 
 TEST_F(QObjectEnumsTest, BitsWithoutAKeyStay) {

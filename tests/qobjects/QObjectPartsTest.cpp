@@ -1,6 +1,8 @@
 // Values made of values: fonts, sizes, gadgets, lists of texts.
 #include "qobjects/QObjectFixture.h"
 
+#include <QWidget>
+
 namespace kt::tests {
 namespace {
 
@@ -77,6 +79,16 @@ TEST_F(QObjectPartsTest, AGadgetsComputedMemberIsReadOnlyAndFollows) {
   EXPECT_TRUE(Item("gadget.inner.twice").IsReadOnly());
   Put("gadget.inner.depth", "4");
   EXPECT_EQ("8", Value("gadget.inner.twice"));
+}
+
+TEST_F(QObjectPartsTest, TheMembersOfAValueThatCannotBeWrittenCanOnlyBeRead) {
+  QWidget widget;
+  widget.resize(30, 40);
+  InspectQ({&widget});
+  EXPECT_EQ("30", Value("rect.width"));
+  EXPECT_TRUE(Item("rect.width").IsReadOnly());
+  EXPECT_FALSE(Item("geometry.width").IsReadOnly());
+  EXPECT_TRUE(GetObjectProp(ComponentOf(&widget), u"geometry")->ClassNameIs(u"QRect"));
 }
 
 TEST_F(QObjectPartsTest, AGadgetWithoutEndEnds) {
