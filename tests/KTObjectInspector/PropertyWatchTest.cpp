@@ -114,6 +114,8 @@ TEST_F(PropertyWatchTest, AReferenceThatLeadsNowhereAnyMoreHasTheTreeBuiltAnew) 
   FSample->Partner = nullptr;
   FSample->Tell("Partner");
   Deliver();
+  // The refresh has asked for a scan.
+  Deliver();
   EXPECT_EQ(nullptr, Find("Partner.Number"));
   EXPECT_EQ(0u, partner->Listeners.size());
 }
