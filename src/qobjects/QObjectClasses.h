@@ -17,8 +17,7 @@ const TClassInfo* QObjectClassOf(const QMetaObject* meta);
 
 /// The class info of an object: that of its class, or, where properties that are hidden from designers are listed or
 /// the object has dynamic properties, one derived from it that has them too. Objects of one class whose dynamic
-/// properties have the same names and types share it. It is kept for the life of the process, about 300 bytes for each
-/// such property.
+/// properties have the same names and types share it. It is kept for the life of the process.
 const TClassInfo* QObjectClassWithDynamic(const QObject& object);
 
 /// What a dynamic property of an object is called among the published ones of its class.

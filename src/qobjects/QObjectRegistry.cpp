@@ -8,6 +8,7 @@
 #include <QChildEvent>
 #include <QCoreApplication>
 #include <QDynamicPropertyChangeEvent>
+#include <QPointer>
 #include <QThread>
 
 #include <utility>
@@ -175,6 +176,20 @@ void TQObjectRegistry::SettleLater() {
       this, [this] { GuardedCall([this] { Settle(); }); }, Qt::QueuedConnection);
 }
 
+/// Whoever hears of a component that comes may destroy objects.
+void TQObjectRegistry::FollowChildren(const QObject& object) {
+  const QObjectList& present = object.children();
+  const std::vector<QPointer<QObject>> children(present.begin(), present.end());
+  for (const QPointer<QObject>& child : children) {
+    if (!child) continue;
+    if (FindComponent(child)) {
+      FollowParent(*child);
+    } else {
+      AddTree(*child);
+    }
+  }
+}
+
 void TQObjectRegistry::Settle() {
   FIsSettling = false;
   FDying.clear();
@@ -185,15 +200,7 @@ void TQObjectRegistry::Settle() {
     QObject* complete = component ? component->FindObject() : nullptr;
     if (!complete) continue;
     FollowParent(*complete);
-    const QObjectList children = complete->children();
-    for (QObject* child : children) {
-      if (FindComponent(object) != component || !complete->children().contains(child)) break;
-      if (FindComponent(child)) {
-        FollowParent(*child);
-      } else {
-        AddTree(*child);
-      }
-    }
+    if (FindComponent(object) == component) FollowChildren(*complete);
   }
 }
 

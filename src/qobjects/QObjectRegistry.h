@@ -37,6 +37,7 @@ class TQObjectRegistry final : public QObject {
   void AddTree(QObject& top);
   void AddOne(QObject& object);
   void FollowParent(QObject& object);
+  void FollowChildren(const QObject& object);
   void ObjectDestroyed(QObject* object);
   void NameChanged();
   void ChildRemoved(QObject* child);

@@ -55,6 +55,22 @@ TEST_F(QObjectEnumsTest, AnEnumerationOfOneByteKeepsItsSign) {
   EXPECT_EQ(TQtKinds::Tied, FObject.ATight);
 }
 
+TEST_F(QObjectEnumsTest, AnEnumerationOfTwoBytesKeepsItsSign) {
+  Inspect();
+  EXPECT_EQ("Below", Value("narrow"));
+  Put("narrow", "Above");
+  EXPECT_EQ(TQtKinds::Above, FObject.ANarrow);
+  Put("narrow", "-7");
+  EXPECT_EQ(-7, static_cast<int>(FObject.ANarrow));
+}
+
+TEST_F(QObjectEnumsTest, FlagsWithoutAKeyOfOneBitAreANumber) {
+  Inspect();
+  EXPECT_EQ("3", Value("masks"));
+  Put("masks", "12");
+  EXPECT_EQ(TQtKinds::Masks(TQtKinds::HighMask), FObject.AMasks);
+}
+
 TEST_F(QObjectEnumsTest, FlagsAreASetOfTheirSingleBits) {
   FObject.ASides = TQtKinds::Corner;
   Inspect();

@@ -1,6 +1,10 @@
 // Values of every type, shown and written.
 #include "qobjects/QObjectFixture.h"
 
+#include <QBrush>
+#include <QRegularExpression>
+#include <QUuid>
+
 namespace kt::tests {
 namespace {
 
@@ -183,6 +187,26 @@ TEST_F(QObjectKindsTest, AVariantThatHoldsNothingTakesAText) {
   EXPECT_EQ("", Value("variant"));
   Put("variant", "some");
   EXPECT_EQ(QVariant(QStringLiteral("some")), FObject.AVariant);
+}
+
+TEST_F(QObjectKindsTest, ADynamicPropertyHasTheKindOfItsValue) {
+  const auto id = QUuid::createUuid();
+  FObject.setProperty("id", id);
+  FObject.setProperty("pattern", QRegularExpression(QStringLiteral("a+"), QRegularExpression::CaseInsensitiveOption));
+  FObject.setProperty("brush", QBrush(Qt::red));
+  FObject.setProperty("corner", QPointF(1.5, 2));
+  Inspect();
+  EXPECT_EQ(id.toString() + " a+ (QBrush) 1.5",
+            Value("id") + ' ' + Value("pattern") + ' ' + Value("brush") + ' ' + Value("corner.x"));
+  Put("id", QUuid().toString());
+  Put("pattern", "b+");
+  Put("corner.y", "7");
+  EXPECT_TRUE(FObject.property("id").toUuid().isNull());
+  EXPECT_EQ(QRegularExpression(QStringLiteral("b+"), QRegularExpression::CaseInsensitiveOption),
+            FObject.property("pattern").toRegularExpression());
+  EXPECT_EQ(QPointF(1.5, 7), FObject.property("corner").toPointF());
+  EXPECT_TRUE(Item("brush").IsReadOnly());
+  EXPECT_THROW(Put("pattern", "("), EPropertyConvertError);
 }
 
 TEST_F(QObjectKindsTest, AReferenceIsTheComponentOfTheObject) {

@@ -81,6 +81,8 @@ class TQtKinds : public QObject {
   Q_PROPERTY(QByteArray bytes MEMBER Bytes)
   Q_PROPERTY(Mode mode MEMBER AMode)
   Q_PROPERTY(Tight tight MEMBER ATight)
+  Q_PROPERTY(Narrow narrow MEMBER ANarrow)
+  Q_PROPERTY(Masks masks READ GetMasks WRITE SetMasks)
   Q_PROPERTY(Sides sides READ GetSides WRITE SetSides)
   Q_PROPERTY(QObject* partner MEMBER Partner)
   Q_PROPERTY(QColor color MEMBER Color)
@@ -113,9 +115,17 @@ class TQtKinds : public QObject {
   enum Side { NoSide = 0, Left = 1, Top = 4, Corner = 5 };
   Q_DECLARE_FLAGS(Sides, Side)
   Q_FLAG(Sides)
+  enum Narrow : qint16 { Below = -2, Above = 300 };
+  Q_ENUM(Narrow)
+  /// Without a key of one bit.
+  enum Mask { LowMask = 3, HighMask = 12 };
+  Q_DECLARE_FLAGS(Masks, Mask)
+  Q_FLAG(Masks)
 
   using QObject::QObject;
   int Fixed() const { return 42; }
+  Masks GetMasks() const { return AMasks; }
+  void SetMasks(Masks value) { AMasks = value; }
   Sides GetSides() const { return ASides; }
   void SetSides(Sides value) { ASides = value; }
   QIcon GetIcon() const { return Icon; }
@@ -139,6 +149,8 @@ class TQtKinds : public QObject {
   QByteArray Bytes;
   Mode AMode = Warm;
   Tight ATight = Loose;
+  Narrow ANarrow = Below;
+  Masks AMasks = LowMask;
   Sides ASides;
   QObject* Partner = nullptr;
   QColor Color;
