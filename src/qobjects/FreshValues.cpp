@@ -25,6 +25,7 @@ std::unique_ptr<const TFreshValues> TakeFreshValues(const QMetaObject& meta) {
   const std::unique_ptr<QObject> object = MakeFreshQObject(meta);
   if (!object) return nullptr;
   std::vector<std::optional<QVariant>> values;
+  values.reserve(static_cast<size_t>(meta.propertyCount()));
   for (int i = 0; i < meta.propertyCount(); ++i) values.push_back(FreshValue(*object, meta.property(i)));
   return std::make_unique<const TFreshValues>(std::move(values));
 }

@@ -243,8 +243,8 @@ TPropInfo::TDefinition DefineStrings(const TMemberPtr& member) {
   const auto set = [member](TObject& object, TObject* const& value) {
     auto* lines = dynamic_cast<TStrings*>(value);
     if (!lines) throw EInvalidCast(SInvalidCast.toString());
-    const QVariant written = LinesOf(*lines);
-    ChangeMember(object, *member, [&](const QVariant&) { return written; });
+    const QStringList written = LinesOf(*lines);
+    ChangeMember(object, *member, [&](const QVariant&) { return QVariant(written); });
   };
   return DefineObject(
       member, [] { return TypeInfos::OfClass(TStrings::Class()); }, get, set);

@@ -31,8 +31,8 @@ void TValueStrings::Changed() {
   TStringList::Changed();
   if (!self.IsAlive() || FIsFollowing || GetUpdateCount() > 0) return;
   if (!FMember->Write) throw EPropReadOnly(SReadOnlyProperty.toString());
-  const QVariant lines = Lines();
-  ChangeMember(FHolder.AsObject(), *FMember, [&](const QVariant&) { return lines; });
+  const QStringList lines = Lines();
+  ChangeMember(FHolder.AsObject(), *FMember, [&](const QVariant&) { return QVariant(lines); });
 }
 
 }  // namespace kt

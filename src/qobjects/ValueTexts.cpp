@@ -81,7 +81,7 @@ QVariant DateFromText(const QString& text, const QVariant&) {
 QString DateTimeToText(const QVariant& value) {
   const QDateTime moment = value.toDateTime();
   if (!moment.isValid()) return {};
-  const QString text = moment.toString(moment.time().msec() == 0 ? Qt::ISODate : Qt::ISODateWithMs);
+  QString text = moment.toString(moment.time().msec() == 0 ? Qt::ISODate : Qt::ISODateWithMs);
   if (moment.timeSpec() != Qt::TimeZone) return text;
   return text + u'[' + QString::fromUtf8(moment.timeZone().id()) + u']';
 }
@@ -193,7 +193,7 @@ QVariant ValueOfText(QMetaType type, const QString& text, const QVariant& curren
   const TTextForm* form = FindTextForm(type);
   Q_ASSERT(form);
   if (current.isValid() && form->ToText(current) == text) return current;
-  const QVariant value = form->FromText(text, current);
+  QVariant value = form->FromText(text, current);
   if (!value.isValid()) throw EPropertyConvertError(Format(SInvalidTextOfType, {text, QLatin1StringView(type.name())}));
   return value;
 }
