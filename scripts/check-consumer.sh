@@ -87,7 +87,7 @@ is_refused all-without-widgets 'kt::vcl needs Qt6::Widgets 6.4, which was not fo
   "${installed[@]}" "${no_gui[@]}" -D KT_FIND_COMPONENTS=
 is_refused one-without-widgets 'kt::vcl needs Qt6::Widgets 6.4, which was not found' \
   "${installed[@]}" "${no_gui[@]}" -D KT_FIND_COMPONENTS=inspector
-is_refused unknown-component 'kt::nosuch is not among the installed libraries: rtl, vcl, inspector' \
+is_refused unknown-component 'kt::nosuch is not among the installed libraries: rtl, vcl, inspector, qobjects' \
   "${installed[@]}" -D KT_FIND_COMPONENTS='rtl;nosuch'
 is_refused later-version 'compatible with requested version "99.0"' "${installed[@]}" -D KT_FIND_VERSION=99.0
 # Of what it embeds, somebody's project builds what it links.

@@ -1,6 +1,7 @@
 #include "kt/KTObjectInspector/ObjectInspector.h"
 
 #include "kt/KTObjectInspector/DefaultCategories.h"
+#include "kt/KTObjectInspector/PropertyWatch.h"
 #include "kt/KTPropertyPresets/PresetRegistry.h"
 #include "kt/KTPropertyPresets/PropertyPreset.h"
 #include "kt/KTPropertyPresets/PropertyPresets.h"
@@ -27,6 +28,7 @@ TKTCustomObjectInspector::TKTCustomObjectInspector(TComponent* owner) : TKTCusto
 TKTCustomObjectInspector::~TKTCustomObjectInspector() = default;
 
 void TKTCustomObjectInspector::Construct() {
+  FWatch = std::make_unique<TPropertyWatch>(*this);
   FObjects = Make<TKTInspectorObjects>(this);
   FPresets = CreatePresets();
   FFilters = Make<TStringList>();
@@ -58,6 +60,7 @@ void TKTCustomObjectInspector::BeforeDestruction() {
 }
 
 void TKTCustomObjectInspector::Destruct() {
+  FWatch.reset();
   FObjects.reset();
   FPresets.reset();
   FFilters.reset();
@@ -194,6 +197,8 @@ void TKTCustomObjectInspector::Dispatch(TMessage& message) {
       return KTInvalidateProperty(message);
     case KT_INVALIDATESCAN:
       return KTInvalidateScan();
+    case KT_INVALIDATEVALUES:
+      return KTInvalidateValues();
     default:
       TKTCustomItemListEditor::Dispatch(message);
   }

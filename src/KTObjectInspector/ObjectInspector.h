@@ -21,12 +21,14 @@ class TStringList;
 /// The messages that an inspector posts to itself.
 inline constexpr quint32 KT_INVALIDATEPROPERTY = 2475;  ///< refresh all values; WParam: the item that was written
 inline constexpr quint32 KT_INVALIDATESCAN = 2476;      ///< build the tree anew
+inline constexpr quint32 KT_INVALIDATEVALUES = 2477;    ///< read again what objects have told to have changed
 
 /// An item list editor that lists the published properties which all its inspected objects share, and writes what is
 /// edited back into all of them.
 ///
 /// The tree is never built inside a setter: whatever changes it posts a request, and however many there are before the
-/// event queue comes to it, the tree is built once. A refresh keeps the tree and reads the values again. Both work
+/// event queue comes to it, the tree is built once. A refresh keeps the tree and reads the values again; of objects
+/// that offer IPropNotifier, each value that they tell to have changed is read again by itself. All of it works
 /// without a display, with a QCoreApplication that delivers the posted requests, or by Rescan() and
 /// RefreshProperties().
 ///
@@ -194,10 +196,12 @@ class TKTCustomObjectInspector : public TKTCustomItemListEditor {
 
  private:
   class TScan;
+  class TPropertyWatch;
 
   // Messages.
   void KTInvalidateProperty(const TMessage& message);
   void KTInvalidateScan();
+  void KTInvalidateValues();
   void PropertyChanging(TKTItemProperty* item);
   void PropertyChanged(int index);
 
@@ -237,6 +241,9 @@ class TKTCustomObjectInspector : public TKTCustomItemListEditor {
 
   bool IsMultiColumn() const { return GetDisplayOptions().Has(doMultiColValues); }
   bool IsUpdatingObjects() const;
+  bool IsBeingTyped(const TKTItemProperty& item) const;
+  bool IsShownOfAll(TKTItemProperty& item);
+  bool RefreshItem(TKTItemProperty& item);
   bool RefreshItems(TKTItemProperties& items);
   void ReloadEditor();
   void ValueChangedFontChanged(TObject*);
@@ -252,6 +259,7 @@ class TKTCustomObjectInspector : public TKTCustomItemListEditor {
   std::unique_ptr<TKTInspectorObjects> FObjects;
   std::unique_ptr<TStringList> FFilters;
   std::unique_ptr<TKTCustomDeltaFont> FValueChangedFont;
+  std::unique_ptr<TPropertyWatch> FWatch;
   QString FCollectionItemFormat;
   QString FStringsItemFormat;
   TView FView;

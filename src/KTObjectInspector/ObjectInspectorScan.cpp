@@ -3,6 +3,7 @@
 #include "kt/KTItemListEditor/ItemSnapshot.h"
 #include "kt/KTItemListEditor/ItemWatch.h"
 #include "kt/KTObjectInspector/ObjectInspector.h"
+#include "kt/KTObjectInspector/PropertyWatch.h"
 #include "kt/KTObjectInspector/Scan.h"
 #include "kt/KTPropertyPresets/PropertyPresets.h"
 #include "kt/rtl/collections/UpdateBracket.h"
@@ -108,7 +109,9 @@ void TKTCustomObjectInspector::Rescan() {
   FIsScanPending = isWanted;
   try {
     GetItems().Clear();
+    if (self.IsAlive()) FWatch->BeginScan();
     if (scan.IsGoing() && FIsScanPending) ScanProperties();
+    if (self.IsAlive()) FWatch->EndScan();
     if (self.IsAlive()) RestoreExpansion();
     if (self.IsAlive()) Refresh();
   } catch (...) {

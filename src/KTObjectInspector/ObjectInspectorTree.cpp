@@ -1,6 +1,7 @@
 // How an inspector turns its objects into items.
 #include "kt/KTItemListEditor/ItemWatch.h"
 #include "kt/KTObjectInspector/ObjectInspector.h"
+#include "kt/KTObjectInspector/PropertyWatch.h"
 #include "kt/KTObjectInspector/Scan.h"
 #include "kt/KTObjectInspector/StringItems.h"
 #include "kt/rtl/collections/UpdateBracket.h"
@@ -105,7 +106,10 @@ void TKTCustomObjectInspector::BuildCommonProperties(TScan& scan, TKTInspectorOb
                                                      TKTItemProperties& props) {
   TObject* first = objects.GetCount() > 0 ? objects.GetItem(0)->GetObjects() : nullptr;
   if (!first) return;
-  for (int i = 0; i < objects.GetCount(); ++i) scan.Enter(objects.GetItem(i)->GetObjects());
+  for (int i = 0; i < objects.GetCount(); ++i) {
+    scan.Enter(objects.GetItem(i)->GetObjects());
+    FWatch->Enter(objects.GetItem(i)->GetObjects(), props);
+  }
   const TClassInfo* listed = first->ClassType();
   const auto properties = GetPropList(listed, FDisplayKinds, IsSorted() ? poSorted : poDeclared);
   const TUpdateBracket level(props);

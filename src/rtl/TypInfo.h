@@ -4,6 +4,7 @@
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/rtl/typeinfo/ClassInfo.h"
 #include "kt/rtl/typeinfo/EnumNames.h"
+#include "kt/rtl/typeinfo/PropListener.h"
 #include "kt/rtl/typeinfo/PropLists.h"
 #include "kt/rtl/typeinfo/PropPath.h"
 #include "kt/rtl/typeinfo/PropValues.h"

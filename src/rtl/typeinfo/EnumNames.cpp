@@ -15,8 +15,10 @@ bool IsWideBoolType(const TEnumTypeInfo* type) { return IsBoolType(type) && type
 
 QString EnumName(const TEnumTypeInfo* type, qint64 value) {
   if (IsWideBoolType(type)) return type->Names().at(value != 0);
-  if (value < 0 || value >= type->Names().size()) throw ERangeError(SRangeError.toString());
-  return type->Names().at(value);
+  if (value >= 0 && value < type->Names().size()) return type->Names().at(value);
+  const QString name = type->NameOfUnnamed(value);
+  if (name.isNull()) throw ERangeError(SRangeError.toString());
+  return name;
 }
 
 qint64 IndexOfName(const QStringList& names, QStringView name) {
@@ -28,7 +30,7 @@ qint64 IndexOfName(const QStringList& names, QStringView name) {
 
 qint64 EnumValue(const TEnumTypeInfo* type, QStringView name) {
   const qint64 index = IndexOfName(type->Names(), name);
-  if (!IsWideBoolType(type)) return index;
+  if (!IsWideBoolType(type)) return index < 0 ? type->OrdinalOfUnnamed(name) : index;
   if (index < 0) return StrToInt(name);
   return index == 0 ? 0 : -1;
 }

@@ -57,10 +57,16 @@ Variant Int64Value(TObject* instance, const TPropInfo* property) {
   return Variant(value);
 }
 
+/// What fits 32 bits is an Integer variant, as the framework has it.
+Variant OrdinalValue(qint64 ordinal) {
+  const int narrow = static_cast<int>(ordinal);
+  return narrow == ordinal ? Variant(narrow) : Variant(ordinal);
+}
+
 Variant EnumValue(TObject* instance, const TPropInfo* property, bool preferStrings) {
   if (preferStrings) return Variant(GetEnumProp(instance, property));
   const qint64 ordinal = GetOrdProp(instance, property);
-  return IsBoolType(property->PropType()) ? Variant(ordinal != 0) : Variant(static_cast<int>(ordinal));
+  return IsBoolType(property->PropType()) ? Variant(ordinal != 0) : OrdinalValue(ordinal);
 }
 
 bool IsAmount(const TPropInfo* property) {
@@ -77,12 +83,6 @@ void SetFloatValue(TObject* instance, const TPropInfo* property, const Variant& 
   const bool isExact = VarType(value) == varCurrency || VarIsStr(value);
   if (!isExact || !IsAmount(property)) return SetFloatProp(instance, property, value.ToDouble());
   SetExtendedProp(instance, property, MemberAccess::FloatOfAmount(value.ToCurrency()));
-}
-
-/// What fits 32 bits is an Integer variant, as the framework has it.
-Variant OrdinalValue(qint64 ordinal) {
-  const int narrow = static_cast<int>(ordinal);
-  return narrow == ordinal ? Variant(narrow) : Variant(ordinal);
 }
 
 }  // namespace

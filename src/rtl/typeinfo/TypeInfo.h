@@ -49,7 +49,8 @@ class TOrdTypeInfo : public TTypeInfo {
 };
 
 /// tkEnumeration: names for the ordinals from 0 on, which is MinValue(). The Boolean types that are wider than one bit
-/// have a negative MinValue(), count as derived from Boolean and have the two names of Boolean.
+/// have a negative MinValue(), count as derived from Boolean and have the two names of Boolean. A type made at run time
+/// may know ordinals beside those with names, for values that have none.
 class TEnumTypeInfo : public TOrdTypeInfo {
  public:
   TEnumTypeInfo(QString name, QStringList names, const TEnumTypeInfo* base = nullptr);
@@ -58,6 +59,10 @@ class TEnumTypeInfo : public TOrdTypeInfo {
   const QStringList& Names() const { return FNames; }
   /// The type that this one is a range of; itself when it is none.
   const TEnumTypeInfo* BaseType() const { return FBase ? FBase : this; }
+  /// What an ordinal outside of the names is called; null when the type has no such ordinal.
+  virtual QString NameOfUnnamed(qint64 /*ordinal*/) const { return {}; }
+  /// The ordinal of such a name, or -1.
+  virtual qint64 OrdinalOfUnnamed(QStringView /*name*/) const { return -1; }
 
  private:
   QStringList FNames;

@@ -28,6 +28,22 @@ TEST(EnumNamesTest, NamesAreFoundWithoutRegardToCase) {
   EXPECT_EQ(-1, GetEnumValue(TypeInfoOf<TSampleAlign>(), u"saMiddle"));
 }
 
+/// Calls the ordinals from 100 on by their number.
+class TOpenEnumTypeInfo : public TEnumTypeInfo {
+ public:
+  TOpenEnumTypeInfo() : TEnumTypeInfo(QStringLiteral("TOpen"), {QStringLiteral("opOne"), QStringLiteral("opTwo")}) {}
+  QString NameOfUnnamed(qint64 ordinal) const override { return ordinal >= 100 ? QString::number(ordinal) : QString(); }
+  qint64 OrdinalOfUnnamed(QStringView name) const override { return name.toLongLong() >= 100 ? name.toLongLong() : -1; }
+};
+
+TEST(EnumNamesTest, ATypeMadeAtRunTimeNamesOrdinalsBesideThoseWithNames) {
+  const TOpenEnumTypeInfo type;
+  EXPECT_EQ(QStringLiteral("opTwo 105"), GetEnumName(&type, 1) + u' ' + GetEnumName(&type, 105));
+  EXPECT_EQ(105, GetEnumValue(&type, u"105"));
+  EXPECT_EQ(-1, GetEnumValue(&type, u"99"));
+  EXPECT_EQ(QStringLiteral("Range check error"), MessageOf<ERangeError>([&] { GetEnumName(&type, 99); }));
+}
+
 TEST(EnumNamesTest, ABooleanHasTwoNames) {
   EXPECT_EQ(QStringLiteral("True"), GetEnumName(TypeInfoOf<bool>(), 1));
   EXPECT_EQ(0, GetEnumValue(TypeInfoOf<bool>(), u"false"));

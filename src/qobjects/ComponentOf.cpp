@@ -1,0 +1,29 @@
+#include "kt/qobjects/ComponentOf.h"
+
+#include "kt/qobjects/FreshValues.h"
+#include "kt/qobjects/QObjectClasses.h"
+#include "kt/qobjects/QObjectComponent.h"
+#include "kt/qobjects/QObjectRegistry.h"
+
+namespace kt {
+
+TComponent* ComponentOf(QObject* object) { return object ? QObjectRegistry().ComponentFor(*object) : nullptr; }
+
+QObject* ObjectOf(TComponent* component) {
+  const auto* known = dynamic_cast<TQObjectComponent*>(component);
+  return known ? known->FindObject() : nullptr;
+}
+
+bool ResetProperty(TComponent* component, QStringView name) {
+  QObject* object = ObjectOf(component);
+  if (!object) return false;
+  const QMetaObject* meta = object->metaObject();
+  const int index = FindPublishedProperty(*meta, name);
+  if (index < 0) return false;
+  const QMetaProperty property = meta->property(index);
+  if (property.isResettable()) return property.reset(object);
+  const TFreshValues* fresh = property.isWritable() ? FreshValuesFor(*meta) : nullptr;
+  return fresh && fresh->Has(index) && property.write(object, fresh->Value(index));
+}
+
+}  // namespace kt

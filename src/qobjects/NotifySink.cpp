@@ -1,0 +1,40 @@
+#include "kt/qobjects/NotifySink.h"
+
+#include "kt/qobjects/QObjectClasses.h"
+#include "kt/qobjects/QObjectComponent.h"
+#include "kt/rtl/objects/UnhandledExceptions.h"
+
+#include <QMetaObject>
+#include <QMetaProperty>
+
+#include <algorithm>
+
+namespace kt {
+
+TNotifySink::TNotifySink(QObject& object, TQObjectComponent& component) : FComponent(component) {
+  const QMetaObject& meta = *object.metaObject();
+  for (int i = 0; i < meta.propertyCount(); ++i) {
+    const int signal = meta.property(i).notifySignalIndex();
+    if (signal < 0) continue;
+    auto known = std::find_if(FSignals.begin(), FSignals.end(),
+                              [signal](const TSignal& other) { return other.Index == signal; });
+    if (known == FSignals.end()) known = FSignals.insert(known, {signal, {}});
+    known->Properties += PublishedPropertyName(meta, i);
+  }
+  const int first = QObject::staticMetaObject.methodCount();
+  for (size_t i = 0; i < FSignals.size(); ++i) {
+    QMetaObject::connect(&object, FSignals[i].Index, this, first + static_cast<int>(i), Qt::DirectConnection);
+  }
+}
+
+int TNotifySink::qt_metacall(QMetaObject::Call call, int id, void** arguments) {
+  id = QObject::qt_metacall(call, id, arguments);
+  if (id < 0 || call != QMetaObject::InvokeMetaMethod || static_cast<size_t>(id) >= FSignals.size()) return id;
+  // Listeners only make a note, so that nothing goes meanwhile.
+  GuardedCall([&] {
+    for (const QString& name : FSignals[static_cast<size_t>(id)].Properties) FComponent.TellChanged(name);
+  });
+  return -1;
+}
+
+}  // namespace kt

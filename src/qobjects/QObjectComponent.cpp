@@ -1,0 +1,132 @@
+#include "kt/qobjects/QObjectComponent.h"
+
+#include "kt/qobjects/Messages.h"
+#include "kt/qobjects/NotifySink.h"
+#include "kt/qobjects/QObjectClasses.h"
+#include "kt/qobjects/QObjectRegistry.h"
+#include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/conversions/Text.h"
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/Messages.h"
+#include "kt/rtl/typeinfo/ClassInfo.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace kt {
+
+const TClassInfo* TQObjectComponent::Class() { return QObjectClassOf(&QObject::staticMetaObject); }
+
+TQObjectComponent::TQObjectComponent(QObject& object) : FObject(&object), FKey(&object), FMeta(object.metaObject()) {}
+
+TQObjectComponent::~TQObjectComponent() = default;
+
+void TQObjectComponent::Destruct() {
+  QObjectRegistry().Forget(*this);
+  FListeners.clear();
+  FSink.reset();
+  DropParts();
+  TComponent::Destruct();
+  FObject = nullptr;
+}
+
+// The object.
+
+QObject* TQObjectComponent::FindObject() const {
+  if (!FObject) return nullptr;
+  const QMetaObject* meta = FObject->metaObject();
+  if (meta == FMeta) return FObject;
+  // In its destructors an object goes back through its ancestors; in its constructors it comes the other way.
+  if (!meta->inherits(FMeta)) return nullptr;
+  FMeta = meta;
+  FClass = nullptr;
+  return FObject;
+}
+
+QObject& TQObjectComponent::ObjectInUse() const {
+  QObject* object = FindObject();
+  if (!object) throw EInvalidOperation(SObjectFreed.toString());
+  return *object;
+}
+
+const TClassInfo* TQObjectComponent::ClassType() const {
+  const QObject* object = FindObject();
+  if (FClass && FClassGeneration == QObjectClassGeneration()) return FClass;
+  FClassGeneration = QObjectClassGeneration();
+  return FClass = object ? QObjectClassWithDynamic(*object) : QObjectClassOf(FMeta);
+}
+
+// Properties.
+
+QVariant TQObjectComponent::Read(const QMetaProperty& property) const {
+  QObject* object = FindObject();
+  return object ? property.read(object) : QVariant();
+}
+
+QVariant TQObjectComponent::ReadDynamic(const QByteArray& name) const {
+  const QObject* object = FindObject();
+  return object ? object->property(name.constData()) : QVariant();
+}
+
+void TQObjectComponent::Write(const QMetaProperty& property, const QVariant& value) {
+  if (property.write(&ObjectInUse(), value)) return;
+  throw EPropertyError(Format(SValueNotTaken, {QLatin1StringView(property.name()),
+                                               QLatin1StringView(property.enclosingMetaObject()->className())}));
+}
+
+void TQObjectComponent::WriteDynamic(const QByteArray& name, const QVariant& value) {
+  ObjectInUse().setProperty(name.constData(), value);
+}
+
+// The name.
+
+void TQObjectComponent::SetName(const QString& value) {
+  const TLifeWatch self(this);
+  TComponent::SetName(value);
+  QObject* object = self.IsAlive() ? FindObject() : nullptr;
+  if (object && object->objectName() != value) object->setObjectName(value);
+}
+
+void TQObjectComponent::FollowName() {
+  const QObject* object = FindObject();
+  const QString wanted = object ? object->objectName() : QString();
+  const TComponent* owner = GetOwnerComponent();
+  const TComponent* namesake = owner ? owner->FindComponent(wanted) : nullptr;
+  const bool isFree = IsValidIdent(wanted) && (!namesake || namesake == this);
+  const QString name = isFree ? wanted : QString();
+  if (name == GetName()) return;
+  ChangeName(name);
+  TellChanged(QStringLiteral("Name"));
+}
+
+// Changes.
+
+void TQObjectComponent::AddPropListener(IPropListener* listener) {
+  if (std::find(FListeners.begin(), FListeners.end(), listener) != FListeners.end()) return;
+  FListeners.push_back(listener);
+  QObject* object = FSink ? nullptr : FindObject();
+  if (object) FSink = std::make_unique<TNotifySink>(*object, *this);
+}
+
+void TQObjectComponent::RemovePropListener(IPropListener* listener) {
+  FListeners.erase(std::remove(FListeners.begin(), FListeners.end(), listener), FListeners.end());
+  if (FListeners.empty()) FSink.reset();
+}
+
+void TQObjectComponent::TellChanged(const QString& name) {
+  for (IPropListener* listener : FListeners) listener->PropChanged(this, name);
+}
+
+void TQObjectComponent::TellListChanged() {
+  for (IPropListener* listener : FListeners) listener->PropListChanged(this);
+}
+
+void TQObjectComponent::DynamicChanged(const QByteArray& name) {
+  const QObject* object = FindObject();
+  if (!object) return;
+  const TClassInfo* before = std::exchange(FClass, nullptr);
+  if (before && before == ClassType()) return TellChanged(PublishedDynamicName(*object, name));
+  TellListChanged();
+}
+
+}  // namespace kt

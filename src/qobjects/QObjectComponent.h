@@ -1,0 +1,77 @@
+#pragma once
+
+#include "kt/qobjects/ValueMember.h"
+#include "kt/rtl/objects/Component.h"
+#include "kt/rtl/typeinfo/PropListener.h"
+
+#include <QMetaProperty>
+#include <QObject>
+
+#include <memory>
+#include <vector>
+
+namespace kt {
+
+class TNotifySink;
+
+/// Stands for an object of Qt's among components; ComponentOf() gives it. The registry makes and destroys it, and tells
+/// it what happens to the object.
+class TQObjectComponent : public TComponent, public TValueHolder, public IPropNotifier {
+ public:
+  using Inherited = TComponent;
+
+  /// The class of the components of any object.
+  static const TClassInfo* Class();
+  const TClassInfo* ClassType() const override;
+  ~TQObjectComponent() override;
+
+  TObject& AsObject() override { return *this; }
+  /// Names the object, too.
+  void SetName(const QString& value) override;
+  void AddPropListener(IPropListener* listener) override;
+  void RemovePropListener(IPropListener* listener) override;
+
+  /// The object; null from the moment its destructor runs.
+  QObject* FindObject() const;
+  /// No value without an object.
+  QVariant Read(const QMetaProperty& property) const;
+  QVariant ReadDynamic(const QByteArray& name) const;
+  /// Raises EPropertyError for a value that the object does not take, and EInvalidOperation without an object. The
+  /// setter may destroy both.
+  void Write(const QMetaProperty& property, const QVariant& value);
+  void WriteDynamic(const QByteArray& name, const QVariant& value);
+
+  // For the registry.
+
+  /// The address of the object, also of one that is gone.
+  const QObject* Key() const { return FKey; }
+  /// The object's name has changed, or those around it.
+  void FollowName();
+  /// To become another one's child the component must not have a name that is taken there.
+  void DropName() { ChangeName(QString()); }
+  void DynamicChanged(const QByteArray& name);
+  bool HasListeners() const { return !FListeners.empty(); }
+  void TellChanged(const QString& name);
+  /// The object is gone: whatever happens until the component is, too, leaves it alone.
+  void LoseObject() { FObject = nullptr; }
+
+ protected:
+  explicit TQObjectComponent(QObject& object);
+
+  void Destruct() override;
+
+ private:
+  QObject& ObjectInUse() const;
+  void TellListChanged();
+
+  QObject* FObject;
+  const QObject* const FKey;
+  /// The class of the object when it was complete; another one says that it is not any more.
+  mutable const QMetaObject* FMeta;
+  mutable const TClassInfo* FClass = nullptr;
+  mutable int FClassGeneration = 0;
+  std::vector<IPropListener*> FListeners;
+  std::unique_ptr<TNotifySink> FSink;
+};
+
+}  // namespace kt

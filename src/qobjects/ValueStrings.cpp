@@ -1,0 +1,38 @@
+#include "kt/qobjects/ValueStrings.h"
+
+#include "kt/rtl/collections/UpdateBracket.h"
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/Messages.h"
+
+namespace kt {
+
+QStringList LinesOf(TStrings& strings) {
+  QStringList lines;
+  for (int i = 0; i < strings.GetCount(); ++i) lines += strings.GetStrings(i);
+  return lines;
+}
+
+QStringList TValueStrings::Lines() { return LinesOf(*this); }
+
+void TValueStrings::Follow() {
+  // Whoever is in the middle of changing the lines has the last word.
+  if (GetUpdateCount() > 0 || FIsFollowing) return;
+  const TLifeWatch self(this);
+  const QStringList lines = FMember->Read(FHolder).toStringList();
+  if (!self.IsAlive() || lines == Lines()) return;
+  const TLiveFlag following(this, FIsFollowing);
+  const TUpdateBracket bracket(*this);
+  Clear();
+  for (const QString& line : lines) Add(line);
+}
+
+void TValueStrings::Changed() {
+  const TLifeWatch self(this);
+  TStringList::Changed();
+  if (!self.IsAlive() || FIsFollowing || GetUpdateCount() > 0) return;
+  if (!FMember->Write) throw EPropReadOnly(SReadOnlyProperty.toString());
+  const QStringList lines = Lines();
+  ChangeMember(FHolder.AsObject(), *FMember, [&](const QVariant&) { return QVariant(lines); });
+}
+
+}  // namespace kt

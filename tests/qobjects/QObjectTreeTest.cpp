@@ -1,0 +1,106 @@
+// Components follow the tree of their objects.
+#include "qobjects/QObjectFixture.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QWidget>
+
+namespace kt::tests {
+namespace {
+
+class QObjectTreeTest : public TQObjectTest {
+ protected:
+  static QString NamesOwned(QObject& object) {
+    QStringList names;
+    TComponent* component = ComponentOf(&object);
+    for (int i = 0; i < component->GetComponentCount(); ++i) names += component->GetComponents(i)->GetName();
+    return names.join(u' ');
+  }
+  static QObject* Named(const char* name, QObject* parent) {
+    auto* object = new QObject(parent);
+    object->setObjectName(name);
+    return object;
+  }
+
+  QObject FRoot;
+};
+
+TEST_F(QObjectTreeTest, NoObjectHasNoComponent) { EXPECT_EQ(nullptr, ComponentOf(nullptr)); }
+
+TEST_F(QObjectTreeTest, AnObjectHasOneComponent) {
+  EXPECT_EQ(ComponentOf(&FRoot), ComponentOf(&FRoot));
+  EXPECT_EQ(&FRoot, ObjectOf(ComponentOf(&FRoot)));
+}
+
+TEST_F(QObjectTreeTest, ChildrenAreOwnedInTheirOrder) {
+  Named("a", &FRoot);
+  Named("b", &FRoot);
+  EXPECT_EQ("a b", NamesOwned(FRoot));
+}
+
+TEST_F(QObjectTreeTest, TheOwnerIsTheComponentOfTheParentWhoeverIsAskedForFirst) {
+  QObject* child = Named("child", &FRoot);
+  QObject* grandchild = Named("grandchild", child);
+  EXPECT_EQ(ComponentOf(child), ComponentOf(grandchild)->GetOwnerComponent());
+  EXPECT_EQ(ComponentOf(&FRoot), ComponentOf(child)->GetOwnerComponent());
+}
+
+TEST_F(QObjectTreeTest, ChildrenThatComeAndGoAreFollowed) {
+  ComponentOf(&FRoot);
+  QObject* child = Named("late", &FRoot);
+  Deliver();
+  EXPECT_EQ("late", NamesOwned(FRoot));
+  delete child;
+  EXPECT_EQ("", NamesOwned(FRoot));
+}
+
+TEST_F(QObjectTreeTest, AChildThatChangesItsParentChangesItsOwner) {
+  QObject other;
+  QObject* child = Named("child", &FRoot);
+  TComponent* component = ComponentOf(child);
+  child->setParent(&other);
+  EXPECT_EQ("", NamesOwned(FRoot));
+  Deliver();
+  EXPECT_EQ("child", NamesOwned(other));
+  EXPECT_EQ(component, ComponentOf(child));
+  child->setParent(nullptr);
+  Deliver();
+  EXPECT_EQ(nullptr, component->GetOwnerComponent());
+  delete child;
+}
+
+TEST_F(QObjectTreeTest, AWindowBringsItsLayoutAndWidgets) {
+  QWidget window;
+  auto* layout = new QHBoxLayout(&window);
+  auto* button = new QPushButton(&window);
+  layout->addWidget(button);
+  EXPECT_EQ(2, ComponentOf(&window)->GetComponentCount());
+  EXPECT_EQ(ComponentOf(&window), ComponentOf(button)->GetOwnerComponent());
+}
+
+TEST_F(QObjectTreeTest, TheNameIsTheObjectsWhereThatIsAnIdentifier) {
+  FRoot.setObjectName("Root1");
+  EXPECT_EQ("Root1", ComponentOf(&FRoot)->GetName());
+  FRoot.setObjectName("no identifier");
+  EXPECT_EQ("", ComponentOf(&FRoot)->GetName());
+  FRoot.setObjectName("Root2");
+  EXPECT_EQ("Root2", ComponentOf(&FRoot)->GetName());
+}
+
+TEST_F(QObjectTreeTest, OfNamesakesOneHasTheName) {
+  QObject* first = Named("same", &FRoot);
+  QObject* second = Named("same", &FRoot);
+  EXPECT_EQ("same", ComponentOf(first)->GetName());
+  EXPECT_EQ("", ComponentOf(second)->GetName());
+  EXPECT_EQ("same", GetStrProp(ComponentOf(second), u"objectName"));
+}
+
+TEST_F(QObjectTreeTest, NamingTheComponentNamesTheObject) {
+  ComponentOf(&FRoot)->SetName("Given");
+  EXPECT_EQ("Given", FRoot.objectName());
+  EXPECT_THROW(ComponentOf(&FRoot)->SetName("not given"), EComponentError);
+  EXPECT_EQ("Given", FRoot.objectName());
+}
+
+}  // namespace
+}  // namespace kt::tests
