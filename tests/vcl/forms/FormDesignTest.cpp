@@ -70,6 +70,14 @@ TEST_F(FormDesignTest, HiddenControlsCanBeSeen) {
   EXPECT_TRUE(button->GetHandle()->isVisible());
 }
 
+TEST_F(FormDesignTest, TheActiveControlMayStandOnSomethingUnknown) {
+  auto* button = New<TButton>(Form.get());
+  Form->SetActiveControl(button);
+  EXPECT_EQ(Form->GetActiveControl(), button);
+  delete button;
+  EXPECT_EQ(Form->GetActiveControl(), nullptr);
+}
+
 TEST_F(FormDesignTest, TheActiveControlDoesNotTakeTheKeyboard) {
   TButton* button = AddButton();
   Embed();
