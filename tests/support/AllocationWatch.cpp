@@ -24,7 +24,7 @@ namespace {
 std::atomic<bool> IsWatching = false;
 std::atomic<std::size_t> Largest = 0;
 /// In use, without what was in use when the watch began; what goes of that makes it negative.
-std::atomic<long long> Live = 0;
+std::atomic<long long> LiveBytes = 0;
 std::atomic<long long> Peak = 0;
 
 template <class T>
@@ -38,11 +38,11 @@ void Raise(std::atomic<T>& highest, T value) {
 [[maybe_unused]] void NoteTaken(std::size_t size, std::size_t taken) {
   if (!IsWatching) return;
   Raise(Largest, size);
-  Raise(Peak, Live += static_cast<long long>(taken));
+  Raise(Peak, LiveBytes += static_cast<long long>(taken));
 }
 
 [[maybe_unused]] void NoteFreed(std::size_t taken) {
-  if (IsWatching) Live -= static_cast<long long>(taken);
+  if (IsWatching) LiveBytes -= static_cast<long long>(taken);
 }
 
 }  // namespace
@@ -116,7 +116,7 @@ namespace kt::tests {
 
 TAllocationWatch::TAllocationWatch() {
   ::Largest = 0;
-  ::Live = 0;
+  ::LiveBytes = 0;
   ::Peak = 0;
   IsWatching = true;
 }

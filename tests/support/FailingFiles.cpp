@@ -33,7 +33,7 @@ bool IsTurn(TFileStep step) {
 }
 
 /// The answer of a step that fails.
-int Failed() {
+int FailedStep() {
   errno = Plan.Error;
   return -1;
 }
@@ -44,28 +44,28 @@ extern "C" {
 
 ssize_t write(int file, const void* bytes, size_t count) {
   if (!IsRegular(file) || !IsTurn(fsWrite)) return syscall(SYS_write, file, bytes, count);
-  return Plan.Kind == ffHalf ? syscall(SYS_write, file, bytes, count / 2) : Failed();
+  return Plan.Kind == ffHalf ? syscall(SYS_write, file, bytes, count / 2) : FailedStep();
 }
 
 int fsync(int file) {
   if (!IsRegular(file) || !IsTurn(fsSync)) return static_cast<int>(syscall(SYS_fsync, file));
-  return Failed();
+  return FailedStep();
 }
 
 int fdatasync(int file) {
   if (!IsRegular(file) || !IsTurn(fsSync)) return static_cast<int>(syscall(SYS_fdatasync, file));
-  return Failed();
+  return FailedStep();
 }
 
 int close(int file) {
   const bool fails = IsRegular(file) && IsTurn(fsClose);
   const auto result = static_cast<int>(syscall(SYS_close, file));
-  return fails ? Failed() : result;
+  return fails ? FailedStep() : result;
 }
 
 int rename(const char* from, const char* to) noexcept {
   if (!IsTurn(fsRename)) return static_cast<int>(syscall(SYS_renameat2, AT_FDCWD, from, AT_FDCWD, to, 0));
-  return Failed();
+  return FailedStep();
 }
 
 }  // extern "C"

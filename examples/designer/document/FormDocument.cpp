@@ -52,6 +52,7 @@ TFormDocument::TFormDocument(const QByteArray& file, kt::TEightBitEncoding encod
       FUndoStack(std::make_unique<QUndoStack>()) {
   FFileState = Written();
   FState = FFileState;
+  FShown = FFileState;
 }
 
 TFormDocument::~TFormDocument() = default;
@@ -97,15 +98,16 @@ bool TFormDocument::IsModified() const { return !FUndoStack->isClean(); }
 
 bool TFormDocument::Commit(const QString& text, const QString& mergeKey) {
   const QByteArray state = Written();
-  if (state == FState) return false;
+  if (state == FShown) return false;
   auto step = std::make_unique<TStep>(*this, TStep::TStates{FState, state}, text, mergeKey);
   FState = state;
+  FShown = state;
   FUndoStack->push(step.release());
   return true;
 }
 
 bool TFormDocument::Revert() {
-  if (Written() == FState) return false;
+  if (Written() == FShown) return false;
   ReplaceForm(FState);
   return true;
 }
@@ -141,6 +143,7 @@ void TFormDocument::ReplaceForm(const QByteArray& state) {
   std::swap(FForm, form);
   FState = state;
   form.reset();
+  FShown = Written();
   if (const auto replaced = OnFormReplaced) replaced();
 }
 

@@ -141,6 +141,9 @@ class TFormDocument {
   std::unique_ptr<kt::TCustomForm> FForm;
   /// The form as it was written after the last step.
   QByteArray FState;
+  /// What the live form wrote when it was in that state. A form that was read again may write what is the same in other
+  /// words: a reference to something unknown that is gone, or tab orders with gaps.
+  QByteArray FShown;
   /// What a step has raised below Undo() or Redo(); outside of these it goes to the exception handler.
   std::exception_ptr FStepError;
   bool FKeepsStepErrors = false;

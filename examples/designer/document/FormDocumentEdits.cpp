@@ -116,9 +116,15 @@ QString TFormDocument::CopyText(const std::vector<kt::TComponent*>& components) 
 std::vector<kt::TComponent*> TFormDocument::Paste(const QString& text, kt::TComponent* parent) {
   const bool isMenu = dynamic_cast<kt::TMenu*>(parent) || dynamic_cast<kt::TMenuItem*>(parent);
   kt::TComponent* target = isMenu ? parent : TakesControls(parent);
-  return PasteComponents(FForm.get(), target, text, [this](const QString& className, const QStringList& others) {
-    return NewNameBeside(className, others);
-  });
+  const std::vector<kt::TComponent*> pasted = PasteComponents(
+      FForm.get(), target, text,
+      [this](const QString& className, const QStringList& others) { return NewNameBeside(className, others); });
+  // A menu takes nothing but entries.
+  for (kt::TComponent* component : pasted) {
+    auto* control = dynamic_cast<kt::TControl*>(component);
+    if (control && !control->GetParent()) control->SetParent(static_cast<kt::TWinControl*>(TakesControls(parent)));
+  }
+  return pasted;
 }
 
 }  // namespace designer

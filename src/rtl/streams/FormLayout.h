@@ -41,8 +41,7 @@ struct TPropertyPlace {
   quint32 AfterSign;  ///< Behind the equals sign.
   quint32 ValueFrom;
   quint32 To;         ///< Behind the value.
-  quint32 FirstItem;  ///< Of a collection: the place of its first item in the list of objects, if it has any; else
-                      ///< kNoPlace.
+  quint32 FirstItem;  ///< Of a collection: where its items begin in the list of objects; else kNoPlace.
 
   bool IsCollection() const { return FirstItem != kNoPlace; }
 };

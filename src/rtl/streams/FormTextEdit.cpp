@@ -7,6 +7,7 @@
 #include "kt/rtl/streams/FormText.h"
 #include "kt/rtl/streams/FormTextCheck.h"
 #include "kt/rtl/streams/FormTextMerge.h"
+#include "kt/rtl/streams/TextParser.h"
 
 #include <QtEndian>
 
@@ -64,6 +65,9 @@ QByteArray EditBinaryForm(const QByteArray& original, const QByteArray& before, 
 QByteArray EditFormText(const QByteArray& original, const QByteArray& before, const QByteArray& after,
                         TEightBitEncoding encoding) {
   if (before == after) return original;
+  // Where everything stands is looked for in what is known to be a form.
+  TIdleFormSink nowhere;
+  TTextParser(original, nowhere, {encoding}).ParseForm();
   const TFormText text = DecodeText(original, encoding);
   TFormWords words;
   const TLaidOutText old = LaidOut(text.Utf8, words);

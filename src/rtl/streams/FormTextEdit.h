@@ -22,8 +22,8 @@ namespace kt {
 ///
 /// Siblings that the file has in another order than they are written in stay where they are, unless their order has
 /// changed. The result is parsed and compared before it is answered; a file that this way does not fit, or that does
-/// not hold the objects of `before`, is written anew as a whole, with its encoding and line ends. Raises EWriteError
-/// when a name has a character that the encoding lacks.
+/// not hold the objects of `before`, is written anew as a whole, with its encoding and line ends. Raises EParserError
+/// when the file is no form, and EWriteError when a name has a character that the encoding lacks.
 QByteArray EditFormText(const QByteArray& original, const QByteArray& before, const QByteArray& after,
                         TEightBitEncoding encoding = eeWindows1252);
 

@@ -34,8 +34,9 @@ double BytesForEachByte(const QByteArray& form) {
   return double(watch.Peak()) / double(form.size());
 }
 
-/// The text three times, once in a buffer that grows, and the result; beside each what stands where in it: 28 bytes for
-/// a property of no less than 12, 24 for an item of no less than 17, in tables that grow to double size.
+/// The text three times, once in a buffer that grows, and the result; beside each what stands where in it: 32 bytes for
+/// a property of no less than 12, 28 for an item of no less than 17, in tables that grow to double size; and which
+/// items belong together.
 constexpr double kMost = 24;
 
 class FormTextEditMemoryTest : public ::testing::Test {

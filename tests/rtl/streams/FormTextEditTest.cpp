@@ -1,8 +1,9 @@
 // What a changed form does to the text that somebody wrote.
+#include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/streams/FormConversion.h"
 #include "kt/rtl/streams/FormTextEdit.h"
+#include "support/Expect.h"
 #include "support/FormText.h"
-#include "support/Print.h"
 
 #include <gtest/gtest.h>
 
@@ -253,6 +254,14 @@ TEST(FormTextEditTest, LinesEndAndCharactersStandAsInTheFile) {
   EXPECT_EQ("object A: TA\r\n\tX='\xE9'\r\n\tobject B: TB\r\n\t  Y = '\xE9'\r\n\tend\r\nend",
             EditFormText("object A: TA\r\n\tX='\xE9'\r\nend", BinaryOf("object A: TA X='\xC3\xA9' end"),
                          BinaryOf("object A: TA X='\xC3\xA9' object B: TB Y='\xC3\xA9' end end")));
+}
+
+TEST(FormTextEditTest, AFileThatIsNoFormIsRefusedWithItsPlace) {
+  EXPECT_EQ("Identifier expected on line 2, column 3", tests::MessageOf<EParserError>([] {
+              EditFormText("object A: TA\n  = 1\nend\n", BinaryOf("object A: TA X=1 end"),
+                           BinaryOf("object A: TA X=2 end"));
+            }));
+  EXPECT_THROW(EditFormText("", BinaryOf("object A: TA X=1 end"), BinaryOf("object A: TA X=2 end")), EParserError);
 }
 
 TEST(FormTextEditTest, ABinaryFileKeepsItsFormatAndOrder) {

@@ -64,5 +64,53 @@ TEST_F(ReaderHooksTest, ThePlaceOnADesignersFormIsStreamed) {
   EXPECT_EQ(text, TextOf(form.get()));
 }
 
+TEST_F(ReaderHooksTest, TheNameOfAReferenceMayBeChanged) {
+  TReader reader(BinaryOf("object A: TSample\n  Partner = X\n  object B: TSample\n  end\nend\n"));
+  reader.OnReferenceName = [](QString& name) { name = name == u'X' ? QStringLiteral("B") : name; };
+  const auto form = reader.ReadRoot<TSample>();
+  EXPECT_EQ(form->GetComponents(0), form->Partner);
+}
+
+/// As a designer edits it.
+class TDesignedSample : public TSample {
+ public:
+  using Inherited = TSample;
+
+ protected:
+  explicit TDesignedSample(TComponent* owner = nullptr) : TSample(owner) {}
+  void Construct() override {
+    TSample::Construct();
+    SetDesignInstance(true);
+  }
+};
+
+constexpr char kHandledForm[] =
+    "object A: TSample\n  OnAction = Foo\n  object B: TSample\n    OnAction = Foo\n  end\nend\n";
+
+TEST_F(ReaderHooksTest, HandlersOfADesignedFormAreKnownByTheirNames) {
+  TReader reader(BinaryOf(kHandledForm));
+  const auto form = Make<TDesignedSample>();
+  reader.ReadRootComponent(form.get());
+  form->OnAction(form.get());
+  EXPECT_EQ("Foo", form->ClassType()->MethodName(form->OnAction).toStdString());
+  EXPECT_EQ(form->OnAction, static_cast<TSample*>(form->GetComponents(0))->OnAction);
+  EXPECT_NE(std::string::npos, TextOf(form.get()).find("  OnAction = Foo\n  object B: TSample\n"));
+}
+
+TEST_F(ReaderHooksTest, AnAnswerOfTheApplicationGoesBeforeTheName) {
+  TReader reader(BinaryOf(kHandledForm));
+  const auto form = Make<TDesignedSample>();
+  int calls = 0;
+  reader.OnFindMethod = [&calls](const QString&) -> TMethod { return TNotifyEvent([&calls](TObject*) { ++calls; }); };
+  reader.ReadRootComponent(form.get());
+  form->OnAction(form.get());
+  EXPECT_EQ(1, calls);
+}
+
+TEST_F(ReaderHooksTest, ElsewhereAHandlerThatNobodyHasIsAnError) {
+  TReader reader(BinaryOf(kHandledForm));
+  EXPECT_THROW(reader.ReadRoot<TSample>(), EReadError);
+}
+
 }  // namespace
 }  // namespace kt

@@ -290,5 +290,24 @@ TEST(TextParserTest, EveryPrefixOfAFormIsOneErrorWithAPlace) {
   EXPECT_EQ(QList<qsizetype>(), SilentCuts(text, errorOf, QStringLiteral(" on line ")));
 }
 
+QString EventsOfObjects(const QByteArray& text) {
+  TFormEventLog log;
+  TTextParser(text, log).ParseObjects();
+  return OneLine(log.Text());
+}
+
+TEST(TextParserTest, SeveralObjectsStandOneBehindTheOther) {
+  const QString a = EventsOf("object A: TA X=1 end");
+  const QString b = EventsOf("object B: TB\nend");
+  EXPECT_EQ(a, EventsOfObjects("object A: TA X=1 end"));
+  EXPECT_EQ(a + QStringLiteral(" | ") + b, EventsOfObjects("object A: TA X=1 end object B: TB\nend\n"));
+}
+
+TEST(TextParserTest, BehindSeveralObjectsNothingElseStands) {
+  const auto errorOf = [](const QByteArray& text) { return ErrorOf([&text] { EventsOfObjects(text); }); };
+  EXPECT_EQ("EParserError: OBJECT expected on line 2, column 1", errorOf("object A: TA X=1 end\nX=1"));
+  EXPECT_EQ("EParserError: OBJECT expected on line 1, column 1", errorOf(""));
+}
+
 }  // namespace
 }  // namespace kt

@@ -1,4 +1,6 @@
+#include "kt/rtl/typeinfo/ClassInfo.h"
 #include "kt/rtl/typeinfo/Event.h"
+#include "kt/rtl/typeinfo/TypeOf.h"
 #include "support/Expect.h"
 #include "support/Samples.h"
 
@@ -71,6 +73,36 @@ TEST(EventTest, OnlyMethodsOfTheSameSignatureAreAccepted) {
   EXPECT_TRUE(TNotifyEvent::Accepts(TNotifyEvent([](TObject*) {})));
   EXPECT_TRUE(TNotifyEvent::Accepts(TMethod()));
   EXPECT_FALSE(TNotifyEvent::Accepts(TCountEvent([](int, int&) {})));
+}
+
+TEST(EventTest, AMethodKnownByItsNameDoesNothing) {
+  const auto sample = Make<TSample>();
+  TCountEvent event;
+  event.SetMethod(TCountEvent::Named(sample.get(), QStringLiteral("Count")));
+  int answer = 3;
+  event(4, answer);
+  EXPECT_EQ(3, answer);
+  EXPECT_EQ(sample.get(), event.Instance());
+  EXPECT_EQ("Count", event.Handler()->MethodName());
+  EXPECT_EQ("Count", sample->ClassType()->MethodName(event));
+}
+
+TEST(EventTest, MethodsKnownByNameAreEqualWithTheSameObjectNameAndType) {
+  const auto a = Make<TSample>();
+  const auto b = Make<TSample>();
+  const TMethod method = TNotifyEvent::Named(a.get(), QStringLiteral("Act"));
+  EXPECT_EQ(method, TNotifyEvent::Named(a.get(), QStringLiteral("ACT")));
+  EXPECT_FALSE(method == TNotifyEvent::Named(a.get(), QStringLiteral("Other")));
+  EXPECT_FALSE(method == TNotifyEvent::Named(b.get(), QStringLiteral("Act")));
+  EXPECT_FALSE(method == TCountEvent::Named(a.get(), QStringLiteral("Act")));
+  EXPECT_FALSE(TCountEvent::Accepts(method));
+}
+
+TEST(EventTest, ATypeOfEventsMakesMethodsKnownByName) {
+  const auto sample = Make<TSample>();
+  const TMethod method = NamedMethod(TypeInfoOf<TNotifyEvent>(), sample.get(), QStringLiteral("Act"));
+  EXPECT_EQ(TNotifyEvent::Named(sample.get(), QStringLiteral("Act")), method);
+  EXPECT_TRUE(NamedMethod(TypeInfoOf<int>(), sample.get(), QStringLiteral("Act")).IsEmpty());
 }
 
 }  // namespace

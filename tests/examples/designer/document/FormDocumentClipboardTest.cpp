@@ -87,6 +87,11 @@ TEST_F(FormDocumentClipboardTest, MenuItemsComeToTheirMenu) {
   EXPECT_EQ("OrderForm[Box1[OkButton Alien1[Inner1] CancelButton] Menu1[Open1 MenuItem1]]", Tree(*FDocument));
 }
 
+TEST_F(FormDocumentClipboardTest, AControlThatIsPastedOnAMenuComesToTheForm) {
+  Paste("object New1: TButton\nend\n", "Open1");
+  EXPECT_EQ(&FDocument->Form(), dynamic_cast<kt::TControl&>(*Named(*FDocument, "New1")).GetParent());
+}
+
 TEST_F(FormDocumentClipboardTest, StandInsComeBehindTheirSiblings) {
   EXPECT_EQ("NobodyKnows1", Paste(Copy({"Alien1"}), "Box1"));
   EXPECT_EQ("OrderForm[Box1[OkButton Alien1[Inner1] CancelButton NobodyKnows1[TestBox1]] Menu1[Open1]]",

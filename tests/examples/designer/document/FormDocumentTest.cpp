@@ -29,6 +29,16 @@ TEST_F(FormDocumentTest, AFormThatIsShownLaterIsNotShownNow) {
   EXPECT_FALSE(document->Form().IsVisible());
 }
 
+TEST_F(FormDocumentTest, TheActiveControlMayStandOnSomethingUnknown) {
+  const QByteArray file(
+      "object A: TA\n  ActiveControl = C\n  object B: TNobodyKnows\n    object C: TButton\n    end\n  end\nend\n");
+  const auto document = Opened(file);
+  EXPECT_EQ(Named(*document, "C"), kt::GetObjectProp(&document->Form(), u"ActiveControl"));
+  document->Delete(All(*document, {"C"}));
+  EXPECT_EQ(nullptr, kt::GetObjectProp(&document->Form(), u"ActiveControl"));
+  EXPECT_EQ("object A: TA\n  object B: TNobodyKnows\n  end\nend\n", document->FileBytes());
+}
+
 TEST_F(FormDocumentTest, ComponentsStandInTheOrderOfTheFile) {
   EXPECT_EQ("OrderForm[Box1[OkButton Alien1[Inner1] CancelButton] Menu1[Open1]]", Tree(*Opened()));
 }
@@ -175,7 +185,6 @@ TEST_F(FormDocumentTest, AfterSavingUndoneStepsAreInTheFileAgain) {
   document->Undo();
   EXPECT_TRUE(document->IsModified());
   EXPECT_THAT(document->FileBytes().toStdString(), HasSubstr("    object CancelButton: TButton\n      Left = 90\n"));
-  EXPECT_EQ(QByteArray(kDocumentForm).count('\n'), document->FileBytes().count('\n'));
 }
 
 TEST_F(FormDocumentTest, AFailedSaveLeavesTheFileAndTheDocument) {

@@ -142,6 +142,18 @@ TEST_F(FormDocumentUndoTest, FromTheListItGoesToTheExceptionHandler) {
   EXPECT_EQ("busy", told);
 }
 
+/// The reference to it is kept, and written at another place when it has been read again.
+TEST_F(FormDocumentUndoTest, AStandInThatIsGoneMakesNoStepsByItself) {
+  const auto document = Opened("object A: TA\n  ActiveControl = C\n  object C: TNobodyKnows\n  end\nend\n");
+  document->Delete(All(*document, {"C"}));
+  EXPECT_TRUE(document->Commit("Delete"));
+  document->Undo();
+  document->Redo();
+  EXPECT_FALSE(document->Revert());
+  EXPECT_FALSE(document->Commit("Nothing"));
+  EXPECT_EQ(1, document->UndoStack().count());
+}
+
 TEST_F(FormDocumentUndoTest, ReferencesAreThereAgain) {
   Move(50);
   FDocument->Delete(All(*FDocument, {"OkButton"}));

@@ -1,5 +1,6 @@
 // Forms from real programs, opened and edited.
 #include "examples/designer/document/DocumentFixture.h"
+#include "kt/rtl/streams/FormConversion.h"
 
 #include <QDir>
 
@@ -18,8 +19,12 @@ class RealFormsDocumentTest : public TDocumentTest {
     for (const QString& name : FForms.entryList({QStringLiteral("*.?fm")}, QDir::Files)) {
       SCOPED_TRACE(name.toStdString());
       const QByteArray file = Content(FForms.filePath(name));
-      const auto document = TFormDocument::Open(file);
-      check(*document, file);
+      try {
+        const auto document = TFormDocument::Open(file);
+        check(*document, file);
+      } catch (const kt::Exception& error) {
+        ADD_FAILURE() << error.Message().toStdString();
+      }
     }
   }
 
@@ -75,31 +80,54 @@ TEST_F(RealFormsDocumentTest, AMovedComponentChangesOneLine) {
   EXPECT_LT(20, moved);
 }
 
+/// Without the lines of an object that stands on the form.
+QByteArray WithoutObject(QByteArray text, const QString& name) {
+  const qsizetype at = text.indexOf(' ' + name.toLatin1() + ": ");
+  const qsizetype from = text.lastIndexOf('\n', at);
+  const qsizetype to = text.indexOf("\n  end", from) + 6;
+  return text.remove(from, to - from);
+}
+
+QByteArray TextOfForm(const QByteArray& binary) {
+  QByteArray text;
+  kt::ObjectBinaryToText(binary, text);
+  return text;
+}
+
 TEST_F(RealFormsDocumentTest, OfADeletedComponentExactlyItsLinesGo) {
   int deleted = 0;
   WithEach([&deleted](TFormDocument& document, const QByteArray& file) {
     const auto children = document.ChildrenOf(&document.Form());
     if (children.empty()) return;
-    ++deleted;
     kt::TComponent* victim = children[children.size() / 2];
-    const QByteArray header = "\n  object " + victim->GetName().toLatin1() + ": ";
-    const qsizetype from = file.indexOf(header);
-    ASSERT_LE(0, from) << header.toStdString();
-    const qsizetype to = file.indexOf("\n  end", from) + 6;
+    const QString name = victim->GetName();
+    const QByteArray wanted = WithoutObject(TextOfForm(document.Written()), name);
     document.Delete({victim});
-    QByteArray rest = file;
-    rest.remove(from, to - from);
-    // Properties that referred to it go too; nothing else does.
-    const QByteArrayList left = document.FileBytes().split('\n');
-    QByteArrayList wanted = rest.split('\n');
-    for (const QByteArray& line : left) {
-      const qsizetype place = wanted.indexOf(line);
-      EXPECT_LE(0, place) << line.toStdString();
-      if (place >= 0) wanted.remove(0, place + 1);
-    }
-    EXPECT_GE(rest.count('\n') - left.size() + 1, 0);
+    // Others may change with it: their tab order, what came from an action, references.
+    if (TextOfForm(document.Written()) != wanted) return;
+    ++deleted;
+    EXPECT_EQ(WithoutObject(file, name), document.FileBytes());
   });
-  EXPECT_LT(20, deleted);
+  EXPECT_LT(50, deleted);
+}
+
+/// Beside controls that nobody knows, which have numbers in the file and none here, tab orders are not comparable.
+QByteArray WithoutTabOrders(const QByteArray& text) {
+  QByteArrayList lines = text.split('\n');
+  lines.removeIf([](const QByteArray& line) { return line.trimmed().startsWith("TabOrder = "); });
+  return lines.join('\n');
+}
+
+TEST_F(RealFormsDocumentTest, WhatIsSavedOpensAsTheSameForm) {
+  WithEach([](TFormDocument& document, const QByteArray&) {
+    const auto children = document.ChildrenOf(&document.Form());
+    if (children.empty()) return;
+    document.Delete({children[children.size() / 3]});
+    document.Form().SetCaption(QStringLiteral("changed"));
+    const auto read = TFormDocument::Open(document.Written());
+    const auto saved = TFormDocument::Open(document.FileBytes());
+    EXPECT_EQ(WithoutTabOrders(TextOfForm(read->Written())), WithoutTabOrders(TextOfForm(saved->Written())));
+  });
 }
 
 }  // namespace
