@@ -85,6 +85,20 @@ bool TDesignInspector::WriteMember(TObject* instance, TKTItemProperty& member, c
   return true;
 }
 
+// The keyboard.
+
+void TDesignInspector::DoEnter() {
+  const TLifeWatch self(this);
+  TKTObjectInspector::DoEnter();
+  if (self.IsAlive()) ShowEditor();
+}
+
+void TDesignInspector::KeyDown(quint16& key, TShiftState shift) {
+  const TLifeWatch self(this);
+  TKTObjectInspector::KeyDown(key, shift);
+  if (self.IsAlive() && IsActiveControl() && !IsEditorMode()) ShowEditor();
+}
+
 // The filter.
 
 void TDesignInspector::SetNameFilter(const QString& value) {

@@ -7,7 +7,8 @@
 
 namespace designer {
 
-/// The object inspector as the designer uses it: each edit is one step, and a member of a set is written by itself.
+/// The object inspector as the designer uses it: each edit is one step, and a member of a set is written by itself. The
+/// row that has the keyboard always shows its editor, as nothing else tells which one that is.
 class TDesignInspector : public kt::TKTObjectInspector {
  public:
   /// A property was written; its name.
@@ -28,6 +29,8 @@ class TDesignInspector : public kt::TKTObjectInspector {
   void SetProperty(kt::TKTItemProperty* item) override;
   bool SetPropertyValue(kt::TObject* instance, kt::TKTItemProperty* item, const QString& value) override;
   void AfterScan(kt::TKTItemProperty* item) override;
+  void DoEnter() override;
+  void KeyDown(quint16& key, kt::TShiftState shift) override;
 
  private:
   void AddSetMembersPreset();

@@ -30,7 +30,6 @@ TInspectorPanel::TInspectorPanel(TSession& session, QWidget* parent)
   AddReferences(*FInspector, session);
   AddHandlerNames(*FInspector, session);
   AddLinesButton(*FInspector);
-  FInspector->SetDynamicTitleCaptions(true);
   FInspector->SetDropDownRows(14);
   FInspector->OnWritten = [this](const QString& name) { Written(name); };
   // Later: what failed is still being handled by the item that would go.
@@ -145,6 +144,8 @@ void TInspectorPanel::Heard(TNews news) {
 
 void TInspectorPanel::Inspect() {
   const std::vector<TComponent*> selected = FSession.Selected();
+  // A column for all of them is nobody's.
+  FInspector->SetDynamicTitleCaptions(selected.size() == 1 || FCompare->isChecked());
   FInspector->Inspect({selected.begin(), selected.end()});
 }
 
@@ -200,6 +201,7 @@ void TInspectorPanel::SetCompare(bool value) {
   const TILEDisplayOptions columns{doMultiColValues};
   const TILEDisplayOptions others = FInspector->GetDisplayOptions() - columns;
   FInspector->SetDisplayOptions(value ? others + columns : others);
+  FInspector->SetDynamicTitleCaptions(value || FSession.Selected().size() == 1);
 }
 
 }  // namespace designer

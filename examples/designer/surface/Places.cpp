@@ -63,8 +63,9 @@ std::vector<TComponent*> TPlaces::StandIns() const {
 }
 
 bool TPlaces::IsIcon(TComponent& component) {
-  return !dynamic_cast<TControl*>(&component) && !IsStandIn(component) && component.GetOwnerComponent() &&
-         !component.HasParent() && !component.GetComponentStyle().Has(csSubComponent);
+  const bool hasPlace = dynamic_cast<TControl*>(&component) || IsStandIn(component);
+  const bool isPart = component.HasParent() || IsOnStandIn(component);
+  return !hasPlace && !isPart && component.GetOwnerComponent() && !component.GetComponentStyle().Has(csSubComponent);
 }
 
 bool TPlaces::IsShown(TComponent& component) const {

@@ -33,6 +33,11 @@ std::optional<int> NumberOf(const TKeptData& kept, QStringView name) {
 
 bool IsStandIn(const TComponent& component) { return AsUnknown(const_cast<TComponent*>(&component)) != nullptr; }
 
+bool IsOnStandIn(const TComponent& component) {
+  const TKeptData* kept = FindKeptData(&component);
+  return kept && kept->StandInParent;
+}
+
 std::optional<QRect> StandInBounds(const TComponent& component) {
   const TKeptData* kept = IsStandIn(component) ? FindKeptData(&component) : nullptr;
   if (!kept) return std::nullopt;

@@ -113,6 +113,16 @@ void TMainWindow::Heard(TNews news) {
   UpdateTitle();
   UpdateStatus();
   UpdateActions();
+  if (news == nwSelection) BringIntoView();
+}
+
+/// What was selected elsewhere, as in the tree, may be out of sight.
+void TMainWindow::BringIntoView() {
+  TComponent* main = FSession.Main();
+  if (!Surface().Places().IsShown(*main)) return;
+  const QRect place = Surface().Places().RectOf(*main);
+  const QRect inView(FStage->mapFrom(FScroll->viewport(), QPoint()), FScroll->viewport()->size());
+  if (!inView.intersects(place)) FScroll->ensureVisible(place.center().x(), place.center().y(), 80, 80);
 }
 
 void TMainWindow::UpdateTitle() {
@@ -139,7 +149,10 @@ void TMainWindow::UpdateStatus() {
 
 void TMainWindow::ShowOff() {
   const std::vector<TComponent*> all = FSession.Components();
-  const auto hasCaption = [](TComponent* component) { return component->ClassType()->FindProp(u"Caption") != nullptr; };
+  const TPlaces places = Surface().Places();
+  const auto hasCaption = [&](TComponent* component) {
+    return component->ClassType()->FindProp(u"Caption") && places.IsShown(*component);
+  };
   const auto found = std::find_if(all.begin() + 1, all.end(), hasCaption);
   FSession.Select(found == all.end() ? all.front() : *found);
   TDesignInspector& inspector = FPanel->Inspector();

@@ -55,6 +55,7 @@ class TMainWindow : public QMainWindow {
   void Heard(TNews news);
   void UpdateTitle();
   void UpdateStatus();
+  void BringIntoView();
 
   // Actions.
   void BuildActions();

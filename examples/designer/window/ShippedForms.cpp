@@ -1,5 +1,8 @@
 #include "designer/window/ShippedForms.h"
 
+#include "designer/document/FormDocument.h"
+#include "kt/rtl/objects/Exceptions.h"
+
 #include <QCoreApplication>
 #include <QDir>
 
@@ -7,11 +10,21 @@ namespace designer {
 
 namespace {
 
+bool IsForm(const QString& fileName) {
+  try {
+    return TFormDocument::OpenFile(fileName) != nullptr;
+  } catch (const kt::Exception&) {
+    return false;
+  }
+}
+
 QStringList FormsIn(const QDir& folder) {
   QStringList files;
   const QStringList names =
       folder.entryList({QStringLiteral("*.dfm"), QStringLiteral("*.lfm")}, QDir::Files, QDir::Name);
-  for (const QString& name : names) files.append(folder.absoluteFilePath(name));
+  for (const QString& name : names) {
+    if (IsForm(folder.absoluteFilePath(name))) files.append(folder.absoluteFilePath(name));
+  }
   return files;
 }
 

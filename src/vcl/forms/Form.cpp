@@ -90,7 +90,8 @@ void TCustomForm::Dispatch(TMessage& message) {
 
 void TCustomForm::SetActiveControl(TWinControl* value) {
   if (FActiveControl == value) return;
-  if (value && (value == this || !ContainsControl(value))) {
+  // In a designer a control can stand on something whose class is unknown there.
+  if (value && !HasState(csDesigning) && (value == this || !ContainsControl(value))) {
     throw EInvalidOperation(QStringLiteral("Cannot focus a disabled or invisible window"));
   }
   // Who counts as active looks different.

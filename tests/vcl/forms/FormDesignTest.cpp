@@ -4,6 +4,8 @@
 #include "kt/vcl/stdctrls/Button.h"
 #include "support/WindowProbe.h"
 
+#include <QLineEdit>
+
 #include <gtest/gtest.h>
 
 namespace kt {
@@ -70,11 +72,22 @@ TEST_F(FormDesignTest, HiddenControlsCanBeSeen) {
   EXPECT_TRUE(button->GetHandle()->isVisible());
 }
 
+TEST_F(FormDesignTest, TheActiveControlMayStandOnSomethingUnknown) {
+  auto* button = New<TButton>(Form.get());
+  Form->SetActiveControl(button);
+  EXPECT_EQ(Form->GetActiveControl(), button);
+  delete button;
+  EXPECT_EQ(Form->GetActiveControl(), nullptr);
+}
+
 TEST_F(FormDesignTest, TheActiveControlDoesNotTakeTheKeyboard) {
+  QLineEdit elsewhere(&Designer);
   TButton* button = AddButton();
   Embed();
+  QApplication::setActiveWindow(&Designer);
+  elsewhere.setFocus();
   Form->SetActiveControl(button);
-  EXPECT_FALSE(button->Focused());
+  EXPECT_TRUE(elsewhere.hasFocus());
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include "DesignerFixture.h"
+#include "kt/vcl/grids/InplaceEdit.h"
 #include "kt/vcl/menus/PopupMenu.h"
 #include "kt/vcl/stdctrls/Button.h"
 
@@ -204,6 +205,24 @@ TEST_F(DesignInspectorTest, RowsAreExpandedAndCollapsedByKeys) {
   Key(Qt::Key_Left, Qt::AltModifier);
   EXPECT_FALSE(Item("Font").IsExpanded());
   EXPECT_EQ(SelectedRow(), "Font");
+}
+
+TEST_F(DesignInspectorTest, TheRowWithTheKeyboardShowsItsEditor) {
+  Select("Button1");
+  Key(Qt::Key_F11);
+  EXPECT_TRUE(Inspector().InplaceEditor()->Visible());
+  Key(Qt::Key_Up, Qt::ControlModifier);
+  EXPECT_TRUE(Inspector().InplaceEditor()->Visible());
+  Key(Qt::Key_F12);
+  Key(Qt::Key_F11);
+  EXPECT_TRUE(Inspector().InplaceEditor()->Visible());
+}
+
+TEST_F(DesignInspectorTest, TheTitleIsNobodysWhenSeveralAreInspected) {
+  Select("Button1");
+  EXPECT_EQ(Inspector().GetCell(1, 0), "Button1");
+  SelectBoth();
+  EXPECT_NE(Inspector().GetCell(1, 0), "Button1");
 }
 
 TEST_F(DesignInspectorTest, MovingOnTheFormShowsInTheInspector) {

@@ -21,6 +21,10 @@ class StandInsTest : public TDesignerTest {
                                        "      Top = 6\n"
                                        "    end\n"
                                        "  end\n"
+                                       "  object Menu: TNobodysMenu\n"
+                                       "    object Item: TMenuItem\n"
+                                       "    end\n"
+                                       "  end\n"
                                        "  object Nowhere: TNobodysThing\n"
                                        "  end\n"
                                        "end\n")));
@@ -40,6 +44,11 @@ TEST_F(StandInsTest, AreSelectedByAClick) {
   EXPECT_EQ(Selected(), "Box");
   Click(OnForm(27, 18));
   EXPECT_EQ(Selected(), "Inner");
+}
+
+TEST_F(StandInsTest, HaveNoIconsForTheirParts) {
+  EXPECT_TRUE(Surface().Places().Icons().empty());
+  EXPECT_FALSE(Surface().Places().IsShown(Component("Item")));
 }
 
 TEST_F(StandInsTest, StayWhereTheyAre) {

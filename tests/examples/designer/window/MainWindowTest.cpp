@@ -111,6 +111,15 @@ TEST_F(MainWindowTest, TheTreeAndTheFormShareTheSelection) {
   EXPECT_EQ(FWindow->Tree().selectedItems().size(), 1);
 }
 
+TEST_F(MainWindowTest, WhatIsSelectedComesIntoView) {
+  Control("SmallForm").SetBounds(0, 0, 3000, 2000);
+  Control("Button2").SetBounds(2800, 1800, 75, 25);
+  Session().Edited("Size");
+  Settle();
+  Select("Button2");
+  EXPECT_TRUE(Surface().visibleRegion().contains(At("Button2")));
+}
+
 TEST_F(MainWindowTest, UndoBringsBackWhatWasDeleted) {
   Select("Button1");
   Surface().setFocus();
