@@ -239,7 +239,6 @@ class TWinControl : public TControl {
   void UpdateWindowBounds();
   QRect ClientInWindow() const;
   void UpdateWindowVisible();
-  bool WantsWindowVisible() const;
   void WindowDestroyed();
   void WindowShown(bool isShown);
   void WindowMoved(const QRect& geometry);

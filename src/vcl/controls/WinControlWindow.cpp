@@ -136,23 +136,18 @@ void TWinControl::RecreateEmbedded() {
     FWindow->setParent(host);
     FWindow->setGeometry(geometry);
   }
-  if (WantsWindowVisible()) FWindow->show();
-}
-
-/// In a designer even what is hidden can be seen, unless its kind says otherwise.
-bool TWinControl::WantsWindowVisible() const {
-  return IsVisible() || (HasState(csDesigning) && !FControlStyle.Has(csNoDesignVisible));
+  if (ShowsInParent()) FWindow->show();
 }
 
 void TWinControl::UpdateWindowVisible() {
-  const bool isWanted = WantsWindowVisible();
+  const bool isWanted = ShowsInParent();
   // Without a parent it is shown by whoever embeds it, who does not show what was hidden on purpose.
   if (GetParent() || !isWanted) FWindow->setVisible(isWanted);
 }
 
 void TWinControl::CMVisibleChanged(TMessage&) {
   if (!HandleAllocated()) return;
-  const bool isWanted = WantsWindowVisible();
+  const bool isWanted = ShowsInParent();
   const bool isEmbeddedLater = !GetParent() && FWindow->isWindow() && !StandsAlone();
   if (isWanted && isEmbeddedLater) {
     // No longer hidden on purpose: appears with its surroundings.
