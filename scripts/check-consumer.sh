@@ -20,7 +20,10 @@ readme_blocks() {
 extract_readme() {
   readme_blocks cmake >"$readme/CMakeLists.txt"
   readme_blocks cpp | awk -v folder="$readme/" '/^\/\/ [a-z]+\.cpp:/ { file = folder substr($2, 1, length($2) - 1) } { print >file }'
-  [ -s "$readme/lamps.cpp" ] && [ -s "$readme/watts.cpp" ] || die "README.md no longer has the programs lamps and watts"
+  local program
+  for program in lamps widgets watts; do
+    [ -s "$readme/$program.cpp" ] || die "README.md no longer has the program $program"
+  done
 }
 
 # configures SOURCE NAME OPTION...: configures a project in $work/NAME; the output goes to $work/NAME.log.
@@ -47,14 +50,17 @@ consumer_works() {
   say "consumer, $name: ok"
 }
 
-# The window stays until it is closed, so the time it is given must run out.
+# Windows stay until they are closed, so the time they are given must run out.
 readme_works() {
-  local name=readme-$1 status=0
+  local name=readme-$1 program status
   shift
   builds "$readme" "$name" "$@"
   "$work/$name/watts" || die "the program watts of README.md fails ($name)"
-  QT_QPA_PLATFORM=offscreen timeout 2 "$work/$name/lamps" >"$work/$name.out" 2>&1 || status=$?
-  [ "$status" = 124 ] || { cat "$work/$name.out" >&2; die "the program lamps of README.md ends with $status ($name)"; }
+  for program in lamps widgets; do
+    status=0
+    QT_QPA_PLATFORM=offscreen timeout 2 "$work/$name/$program" >"$work/$name.out" 2>&1 || status=$?
+    [ "$status" = 124 ] || { cat "$work/$name.out" >&2; die "the program $program of README.md ends with $status ($name)"; }
+  done
   say "consumer, $name: ok"
 }
 

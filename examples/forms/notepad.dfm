@@ -71,7 +71,7 @@ object NotepadForm: TNotepadForm
   end
   object MainMenu: TMainMenu
     Left = 176
-    Top = 200
+    Top = 160
     object FileItem: TMenuItem
       Caption = '&File'
       object OpenItem: TMenuItem
@@ -107,8 +107,8 @@ object NotepadForm: TNotepadForm
     end
   end
   object EditMenu: TPopupMenu
-    Left = 216
-    Top = 200
+    Left = 248
+    Top = 160
     object CutItem: TMenuItem
       Caption = 'Cu&t'
       ShortCut = 16472
@@ -126,8 +126,8 @@ object NotepadForm: TNotepadForm
     end
   end
   object Actions: TActionList
-    Left = 256
-    Top = 200
+    Left = 320
+    Top = 160
     object OpenAction: TAction
       Category = 'File'
       Caption = '&Open...'
@@ -149,15 +149,15 @@ object NotepadForm: TNotepadForm
     Filter = 'Texts|*.txt|All files|*.*'
     Options = [ofHideReadOnly, ofFileMustExist, ofEnableSizing]
     Title = 'Open notes'
-    Left = 296
-    Top = 200
+    Left = 176
+    Top = 232
   end
   object SaveDialog: TSaveDialog
     DefaultExt = 'txt'
     Filter = 'Texts|*.txt|All files|*.*'
     Options = [ofOverwritePrompt, ofHideReadOnly, ofEnableSizing]
-    Left = 336
-    Top = 200
+    Left = 248
+    Top = 232
   end
   object FontDialog: TFontDialog
     Font.Charset = DEFAULT_CHARSET
@@ -165,26 +165,26 @@ object NotepadForm: TNotepadForm
     Font.Height = -12
     Font.Name = 'Sans Serif'
     Font.Style = []
-    Left = 376
-    Top = 200
+    Left = 320
+    Top = 232
   end
   object ColorDialog: TColorDialog
     Color = clCream
     CustomColors.Strings = (
       'ColorA=F0FBFF'
       'ColorB=C0DCC0')
-    Left = 416
-    Top = 200
+    Left = 392
+    Top = 232
   end
   object SaveTimer: TTimer
     Enabled = False
     Interval = 60000
     OnTimer = SaveTimerTimer
-    Left = 456
-    Top = 200
+    Left = 392
+    Top = 160
   end
   object Images: TImageList
-    Left = 496
-    Top = 200
+    Left = 464
+    Top = 160
   end
 end

@@ -44,7 +44,7 @@ QStringList ShippedForms() {
 QString FirstForm() {
   const QStringList files = ShippedForms();
   for (const QString& file : files) {
-    if (file.endsWith(QStringLiteral("/contact.dfm"))) return file;
+    if (file.endsWith(QStringLiteral("/preferences.dfm"))) return file;
   }
   return files.value(0);
 }
