@@ -103,7 +103,7 @@ TEST(DateTimeParseTest, TheTimeOfAnEarlyDateCountsForward) {
 TEST(DateTimeParseTest, TheFirstDayHasTimesToo) {
   const TDateTime moment = StrToDateTime(u"1.1.0001 6:30", German());
   EXPECT_LT(moment, MinDateTime);
-  EXPECT_EQ("0001-01-01 06:30", FormatDateTime("yyyy'-'mm'-'dd hh':'nn", moment, German()).toStdString());
+  EXPECT_EQ("0001-01-01 06:30", FormatDateTime(u"yyyy'-'mm'-'dd hh':'nn", moment, German()).toStdString());
 }
 
 TEST(DateTimeParseTest, WhatIsNoDateAndTimeIsAnError) {
