@@ -8,6 +8,7 @@
 #include "support/Published.h"
 #include "support/WindowProbe.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
