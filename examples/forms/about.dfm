@@ -287,9 +287,9 @@ object AboutForm: TAboutForm
       Height = 42
       Anchors = [akLeft, akTop, akRight, akBottom]
       AutoSize = False
-      Caption =
-        'Shines on the desk. Turned off by the button below, or by a blow ' +
-        'on the table.'
+      Caption = 
+        'Shines on the desk. Turned off by the button below, or by a blow' +
+        ' on the table.'
       WordWrap = True
     end
   end

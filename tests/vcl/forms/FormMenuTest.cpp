@@ -270,6 +270,8 @@ TEST_F(FormMenuTest, ADesignerMakesTheFirstOneTheMenuOfTheForm) {
 TEST_F(FormMenuTest, NothingIsClickedInADesigner) {
   FForm->Design();
   Show();
+  // A form in design mode appears where its designer puts it.
+  FForm->GetHandle()->show();
   WhenOpen([](QMenu& menu) { Choose(menu, 0); });
   OpenMenu(0);
   EXPECT_EQ("", Log());

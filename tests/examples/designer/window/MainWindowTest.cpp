@@ -1,5 +1,7 @@
 #include "DesignerFixture.h"
 
+#include <QItemSelectionModel>
+
 namespace designer::tests {
 namespace {
 
@@ -104,7 +106,9 @@ TEST_F(MainWindowTest, ThePalettePlacesByKeys) {
 }
 
 TEST_F(MainWindowTest, TheTreeAndTheFormShareTheSelection) {
-  FWindow->Tree().setCurrentItem(FWindow->Tree().ItemOf(&Component("CheckBox1")));
+  // Not by what keys a test before has held last.
+  FWindow->Tree().setCurrentItem(FWindow->Tree().ItemOf(&Component("CheckBox1")), 0,
+                                 QItemSelectionModel::ClearAndSelect);
   EXPECT_EQ(Selected(), "CheckBox1");
   Click(At("Button2"));
   EXPECT_TRUE(FWindow->Tree().ItemOf(&Component("Button2"))->isSelected());
