@@ -62,7 +62,7 @@ void OfferNamesOf(const TTypeInfo* type, TKTItemProperty& item) {
   if (IsBoolType(type)) return FillPickList(item, TruthNames());
   QStringList names;
   const TEnumTypeInfo* enumeration = EnumTypeOf(type);
-  const qint64 last = enumeration ? enumeration->MaxValue() : -1;
+  const qint64 last = enumeration && !enumeration->Names().isEmpty() ? enumeration->MaxValue() : -1;
   for (qint64 i = enumeration ? enumeration->MinValue() : 0; i <= last; ++i) names.append(GetEnumName(type, i));
   FillPickList(item, names);
   item.GetPickList().Sort();

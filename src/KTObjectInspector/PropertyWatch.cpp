@@ -88,6 +88,10 @@ TKTItemProperty* TKTCustomObjectInspector::TPropertyWatch::ItemOf(const TChange&
 /// What changes meanwhile is read too, though no property twice: getters may change each other's values without end.
 bool TKTCustomObjectInspector::TPropertyWatch::Refresh() {
   const TLifeWatch life(&FInspector);
+  if (FInspector.FIsScanPosted) {
+    Discard();
+    return true;
+  }
   std::set<TChange> done;
   std::set<TChange> postponed;
   while (!FChanges.empty()) {
@@ -99,7 +103,9 @@ bool TKTCustomObjectInspector::TPropertyWatch::Refresh() {
       postponed.insert(change.value());
       continue;
     }
-    const bool isFresh = FInspector.RefreshItem(static_cast<TKTItemProperty&>(*item));
+    // What one getter raises must not keep the others from being read.
+    bool isFresh = true;
+    GuardedCall([&] { isFresh = FInspector.RefreshItem(static_cast<TKTItemProperty&>(*item)); });
     if (!life.IsAlive()) return true;
     if (isFresh) continue;
     // The tree is built anew, with all values.

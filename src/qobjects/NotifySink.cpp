@@ -6,6 +6,7 @@
 
 #include <QMetaObject>
 #include <QMetaProperty>
+#include <QThread>
 
 #include <algorithm>
 
@@ -30,11 +31,21 @@ TNotifySink::TNotifySink(QObject& object, TQObjectComponent& component) : FCompo
 int TNotifySink::qt_metacall(QMetaObject::Call call, int id, void** arguments) {
   id = QObject::qt_metacall(call, id, arguments);
   if (id < 0 || call != QMetaObject::InvokeMetaMethod || static_cast<size_t>(id) >= FSignals.size()) return id;
-  // Listeners only make a note, so that nothing goes meanwhile.
-  GuardedCall([&] {
-    for (const QString& name : FSignals[static_cast<size_t>(id)].Properties) FComponent.TellChanged(name);
-  });
+  // A signal may be emitted in any thread; components live in one.
+  if (QThread::currentThread() == thread()) {
+    Tell(static_cast<size_t>(id));
+  } else {
+    QMetaObject::invokeMethod(
+        this, [this, id] { Tell(static_cast<size_t>(id)); }, Qt::QueuedConnection);
+  }
   return -1;
+}
+
+/// Listeners only make a note, so that nothing goes meanwhile.
+void TNotifySink::Tell(size_t signal) {
+  GuardedCall([&] {
+    for (const QString& name : FSignals[signal].Properties) FComponent.TellChanged(name);
+  });
 }
 
 }  // namespace kt

@@ -20,6 +20,8 @@ class TNotifySink final : public QObject {
   int qt_metacall(QMetaObject::Call call, int id, void** arguments) override;
 
  private:
+  void Tell(size_t signal);
+
   struct TSignal {
     int Index;
     QStringList Properties;

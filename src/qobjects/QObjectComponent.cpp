@@ -23,11 +23,12 @@ TQObjectComponent::~TQObjectComponent() = default;
 
 void TQObjectComponent::Destruct() {
   QObjectRegistry().Forget(*this);
+  // Nobody tells from now on when the object goes.
+  FObject = nullptr;
   FListeners.clear();
   FSink.reset();
   DropParts();
   TComponent::Destruct();
-  FObject = nullptr;
 }
 
 // The object.
@@ -81,6 +82,8 @@ void TQObjectComponent::WriteDynamic(const QByteArray& name, const QVariant& val
 // The name.
 
 void TQObjectComponent::SetName(const QString& value) {
+  // That of an object whose name is none for a component is empty, and stays the object's.
+  if (value == GetName()) return;
   const TLifeWatch self(this);
   TComponent::SetName(value);
   QObject* object = self.IsAlive() ? FindObject() : nullptr;

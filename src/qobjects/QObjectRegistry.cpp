@@ -60,7 +60,9 @@ bool TQObjectRegistry::IsDying(QObject& object) const {
 /// The parent that the component of an object follows; null for none, and for one that is not to be touched.
 QObject* TQObjectRegistry::ParentToFollow(const QObject& object) const {
   QObject* parent = object.parent();
-  return parent && !FDying.contains(parent) && parent->thread() == thread() ? parent : nullptr;
+  // The application object sees all events of all objects, and is nobody's whole.
+  const bool isWanted = parent && parent != QCoreApplication::instance();
+  return isWanted && !FDying.contains(parent) && parent->thread() == thread() ? parent : nullptr;
 }
 
 QObject& TQObjectRegistry::TopWithoutComponent(QObject& object) const {
@@ -90,7 +92,7 @@ void TQObjectRegistry::AddTree(QObject& top) {
 void TQObjectRegistry::AddOne(QObject& object) {
   TQObjectComponent* component = Make<TQObjectComponent>(object).release();
   FComponents.insert(&object, component);
-  object.installEventFilter(this);
+  if (&object != QCoreApplication::instance()) object.installEventFilter(this);
   connect(&object, &QObject::destroyed, this, &TQObjectRegistry::ObjectDestroyed, Qt::UniqueConnection);
   connect(&object, &QObject::objectNameChanged, this, &TQObjectRegistry::NameChanged, Qt::UniqueConnection);
   component->FollowName();

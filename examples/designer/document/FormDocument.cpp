@@ -112,6 +112,14 @@ bool TFormDocument::Revert() {
   return true;
 }
 
+void TFormDocument::Settle() {
+  const QByteArray state = Written();
+  if (state == FShown) return;
+  if (FFileState == FState) FFileState = state;
+  if (FState == FShown) FState = state;
+  FShown = state;
+}
+
 void TFormDocument::Undo() { Walk(&QUndoStack::undo); }
 
 void TFormDocument::Redo() { Walk(&QUndoStack::redo); }

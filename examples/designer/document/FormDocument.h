@@ -93,6 +93,9 @@ class TFormDocument {
   /// Gives the live form the state of the last commit, undo or redo again, for an edit that failed half-way; false when
   /// it has that.
   bool Revert();
+  /// Takes the live form for what was last read or committed, whatever it writes: once it has its windows, edits are as
+  /// high as their font, and nobody has changed anything. To be called when it has just been shown.
+  void Settle();
   /// What was not committed is lost.
   void Undo();
   void Redo();

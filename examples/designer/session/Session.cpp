@@ -69,6 +69,7 @@ bool TSession::IsSelected(const TComponent* component) const {
 void TSession::Select(const std::vector<TComponent*>& components) {
   if (components == Selected()) return;
   Keep(components);
+  ++FSelectionNumber;
   Tell(nwSelection);
 }
 

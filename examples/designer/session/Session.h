@@ -53,6 +53,8 @@ class TSession {
 
   /// The live form has changed: makes it a step that can be undone, and tells.
   void Edited(const QString& text, const QString& mergeKey = QString());
+  /// Another one for each time that something was selected: steps of before are not those of now.
+  QString SelectionKey() const { return QStringLiteral(" #%1").arg(FSelectionNumber); }
   /// The live form is being changed, as while something is dragged; tells, and makes no step.
   void Editing() { Tell(nwEdited); }
   /// An edit has failed half-way: as if it had not been begun.
@@ -81,6 +83,7 @@ class TSession {
 
   std::vector<TListener> FListeners;
   std::vector<kt::TObjectRef> FSelected;
+  int FSelectionNumber = 0;
   std::vector<TKey> FKeys;
   std::unique_ptr<TFormDocument> FDocument;
 };

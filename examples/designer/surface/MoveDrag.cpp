@@ -96,7 +96,7 @@ void MoveSelected(TSession& session, QPoint by) {
   if (moved.empty()) return;
   for (TComponent* component : moved) SetPlace(*component, PlaceOf(*component) + by);
   const QString text = StepText(QStringLiteral("Move"), moved);
-  session.Edited(text, text);
+  session.Edited(text, text + session.SelectionKey());
 }
 
 }  // namespace designer

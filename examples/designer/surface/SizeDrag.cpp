@@ -106,7 +106,7 @@ void SizeSelected(TSession& session, QSize by) {
   }
   if (sized.empty()) return;
   const QString text = StepText(QStringLiteral("Size"), sized);
-  session.Edited(text, text);
+  session.Edited(text, text + session.SelectionKey());
 }
 
 }  // namespace designer

@@ -89,6 +89,14 @@ void TStage::TakeForm() {
   body->setParent(FInside);
   body->move(0, 0);
   body->show();
+  Settle();
+  // And again when layouts are done.
+  QMetaObject::invokeMethod(this, &TStage::Settle, Qt::QueuedConnection);
+}
+
+/// What windows bring about is no edit.
+void TStage::Settle() {
+  GuardedCall([this] { FSession.Document().Settle(); });
 }
 
 /// A form would take over the place of its widget as its own.

@@ -33,6 +33,7 @@ class TStage : public QWidget {
   void Heard(TNews news);
   void Refresh();
   void TakeForm();
+  void Settle();
   void Quiet();
   int CaptionHeight() const;
   QRect FrameRect() const;

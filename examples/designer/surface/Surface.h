@@ -31,6 +31,8 @@ class TSurface : public QWidget {
   /// The class that the next click places; null for none.
   void SetTool(const kt::TClassInfo* value);
   const kt::TClassInfo* Tool() const { return FTool; }
+  /// Takes back what the mouse is in the middle of; false when there is nothing.
+  bool CancelDrag();
   /// The tool was used, or laid aside.
   std::function<void()> OnToolDone;
   /// The Return key.

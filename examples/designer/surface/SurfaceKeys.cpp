@@ -101,14 +101,18 @@ bool TSurface::focusNextPrevChild(bool next) {
   return true;
 }
 
+bool TSurface::CancelDrag() {
+  if (!FDrag) return false;
+  const std::unique_ptr<TDrag> drag = std::move(FDrag);
+  drag->Cancel();
+  update();
+  return true;
+}
+
 /// Out of what is being done, else to what is around.
 void TSurface::GoOut() {
   if (FTool && OnToolDone) OnToolDone();
-  if (FDrag) {
-    const std::unique_ptr<TDrag> drag = std::move(FDrag);
-    drag->Cancel();
-    return update();
-  }
+  if (CancelDrag()) return;
   TComponent* around = FSession.Document().ParentOf(FSession.Main());
   if (around) FSession.Select(around);
 }

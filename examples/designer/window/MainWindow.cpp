@@ -9,8 +9,11 @@
 #include "kt/rtl/typeinfo/ClassInfo.h"
 #include "kt/vcl/forms/Application.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScrollArea>
 #include <QSplitter>
 #include <QStatusBar>
@@ -39,12 +42,29 @@ TMainWindow::TMainWindow() : FSession(FirstDocument()), FQuestions(QuestionsOf(*
   FSession.Listen([this](TNews news) { Heard(news); });
   Heard(nwForm);
   resize(1180, 760);
+  QCoreApplication::instance()->installEventFilter(this);
 }
 
 TMainWindow::~TMainWindow() {
+  QCoreApplication::instance()->removeEventFilter(this);
   // The parts go before what they share.
   delete takeCentralWidget();
   Application().OnException = nullptr;
+}
+
+/// The inspector's editor would keep the keys of undoing for itself, also where it has nothing to undo.
+bool TMainWindow::eventFilter(QObject* watched, QEvent* event) {
+  const auto* edit = event->type() == QEvent::ShortcutOverride ? qobject_cast<QLineEdit*>(watched) : nullptr;
+  if (edit && FPanel->Inspector().GetHandle()->isAncestorOf(edit)) {
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const bool isForForm = (key->matches(QKeySequence::Undo) && !edit->isUndoAvailable()) ||
+                           (key->matches(QKeySequence::Redo) && !edit->isRedoAvailable());
+    if (isForForm) {
+      event->ignore();
+      return true;
+    }
+  }
+  return QMainWindow::eventFilter(watched, event);
 }
 
 TSurface& TMainWindow::Surface() const { return FStage->Surface(); }

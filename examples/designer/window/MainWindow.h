@@ -44,6 +44,7 @@ class TMainWindow : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   struct TCommand;
@@ -76,9 +77,13 @@ class TMainWindow : public QMainWindow {
   bool SaveAs();
   /// Whether nothing is lost by leaving the document.
   bool MayLeave();
+  /// Has what is typed in the inspector accepted or refused, and what the mouse is in the middle of taken back. False
+  /// when it was refused.
+  bool FinishEdits();
   bool Try(const std::function<void()>& call);
 
   // Edits.
+  void Step(void (TSession::*step)());
   void Cut();
   void Copy();
   void Paste();

@@ -82,10 +82,10 @@ void TMainWindow::BuildFileMenu() {
 
 void TMainWindow::BuildEditMenu() {
   QMenu* menu = menuBar()->addMenu(QStringLiteral("&Edit"));
-  menu->addAction(
-      Add({"undo", QStringLiteral("&Undo"), QKeySequence(QStringLiteral("Ctrl+Z")), [this] { FSession.Undo(); }}));
-  menu->addAction(
-      Add({"redo", QStringLiteral("&Redo"), QKeySequence(QStringLiteral("Ctrl+Y")), [this] { FSession.Redo(); }}));
+  menu->addAction(Add(
+      {"undo", QStringLiteral("&Undo"), QKeySequence(QStringLiteral("Ctrl+Z")), [this] { Step(&TSession::Undo); }}));
+  menu->addAction(Add(
+      {"redo", QStringLiteral("&Redo"), QKeySequence(QStringLiteral("Ctrl+Y")), [this] { Step(&TSession::Redo); }}));
   menu->addSeparator();
   menu->addAction(
       Add({"cut", QStringLiteral("Cu&t"), QKeySequence(QStringLiteral("Ctrl+X")), [this] { Cut(); }, true}));

@@ -45,6 +45,11 @@ void StepAside(const std::vector<TComponent*>& pasted) {
 
 }  // namespace
 
+/// Back or forth, with what is being typed as the last step.
+void TMainWindow::Step(void (TSession::*step)()) {
+  if (FinishEdits()) (FSession.*step)();
+}
+
 void TMainWindow::Copy() {
   const std::vector<TComponent*> parts = Parts(FSession);
   if (!parts.empty()) QGuiApplication::clipboard()->setText(FSession.Document().CopyText(parts));

@@ -22,7 +22,15 @@ bool TMainWindow::Try(const std::function<void()>& call) {
   }
 }
 
+bool TMainWindow::FinishEdits() {
+  return Try([this] {
+    Surface().CancelDrag();
+    FPanel->Inspector().Validate();
+  });
+}
+
 bool TMainWindow::MayLeave() {
+  if (!FinishEdits()) return false;
   if (!FSession.Document().IsModified()) return true;
   const QString file = FSession.Document().FileName();
   const QString name = file.isEmpty() ? FSession.Form().GetName() : QFileInfo(file).fileName();
@@ -65,7 +73,7 @@ bool TMainWindow::SaveAs() {
 }
 
 bool TMainWindow::SaveTo(const QString& fileName) {
-  const bool isSaved = Try([&] { FSession.Document().Save(fileName); });
+  const bool isSaved = FinishEdits() && Try([&] { FSession.Document().Save(fileName); });
   UpdateTitle();
   return isSaved;
 }

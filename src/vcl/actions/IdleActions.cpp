@@ -41,6 +41,7 @@ void TIdleActions::Update() {
   // Handlers may free any of them.
   for (TControlActionLink* link : std::vector<TControlActionLink*>(Links())) {
     if (std::find(Links().begin(), Links().end(), link) == Links().end()) continue;
+    if (link->FClient.HasState(csDesigning)) continue;
     if (IsOnScreen(link->FClient)) GuardedCall([link] { link->Update(); });
   }
   IsAtWork = false;

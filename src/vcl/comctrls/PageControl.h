@@ -125,12 +125,15 @@ class TPageControl : public TWinControl {
   void UpdateTabs();
   void ShowTab(int tab, const TTabSheet& page);
   void ShowActiveTab();
+  void PlacePage(TTabSheet& page, const QRect& rect, bool isMeasuredAnew);
   void LeaveFocusTo(TTabSheet* page);
   void Choose(TTabSheet* page);
 
   std::vector<TTabSheet*> FPages;
   TTabSheet* FActivePage = nullptr;
   std::unique_ptr<TChangeLink> FImages;
+  /// Whether the pages lie where the window says, and not where a window is expected to.
+  bool FIsMeasured = false;
   int FTabHeight = 0;
   int FTabWidth = 0;
   TTabPosition FTabPosition = tpTop;

@@ -71,12 +71,23 @@ void TPageControl::AlignControls(QRect& rect) {
   rect = GetDisplayRect();
   // Those that do not show as well, so that what is anchored on them knows where it is.
   const TLifeWatch self(this);
+  const bool isMeasured = View() && !HasState(csLoading);
+  const bool isMeasuredAnew = std::exchange(FIsMeasured, isMeasured) != isMeasured;
   for (size_t i = 0; self.IsAlive() && i < FPages.size(); ++i) {
-    if (FPages[i]->GetAlign() == alClient) {
-      FPages[i]->SetBounds(rect.x(), rect.y(), qMax(rect.width(), 0), qMax(rect.height(), 0));
-    }
+    if (FPages[i]->GetAlign() == alClient) PlacePage(*FPages[i], rect, isMeasuredAnew);
   }
   if (self.IsAlive()) TWinControl::AlignControls(rect);
+}
+
+/// The room on a page is known for certain with the window only. That it differs by some pixels from what was expected
+/// must not move what stands on the page: it would not be where its form says.
+void TPageControl::PlacePage(TTabSheet& page, const QRect& rect, bool isMeasuredAnew) {
+  const TLifeWatch life(&page);
+  if (isMeasuredAnew) page.DisableAlign();
+  page.SetBounds(rect.x(), rect.y(), qMax(rect.width(), 0), qMax(rect.height(), 0));
+  if (!isMeasuredAnew || !life.IsAlive()) return;
+  page.RebaseAnchors();
+  page.EnableAlign();
 }
 
 int TPageControl::IndexOfTabAt(int x, int y) const { return View() ? View()->TabAt({x, y}) : -1; }

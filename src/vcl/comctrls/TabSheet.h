@@ -50,6 +50,8 @@ class TTabSheet : public TWinControl {
   void CMTextChanged(TMessage& message) override;
 
  private:
+  friend class TPageControl;
+
   void TabChanged();
   void UpdateShown();
 

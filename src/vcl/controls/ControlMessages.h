@@ -72,5 +72,7 @@ inline constexpr quint32 CM_PARENTBIDIMODECHANGED = CM_BASE + 61;
 inline constexpr quint32 CM_ORDERTABS = CM_BASE + 200;  ///< the windows are to be visited in another order
 /// To all of a form; LParam: const QString*, the long hint of what the mouse is over; Result 1: somebody shows it
 inline constexpr quint32 CM_APPLICATIONHINT = CM_BASE + 201;
+/// To a modal form: ModalResult was set, and the code that has set it is done.
+inline constexpr quint32 CM_MODALANSWERED = CM_BASE + 202;
 
 }  // namespace kt

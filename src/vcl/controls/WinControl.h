@@ -113,6 +113,9 @@ class TWinControl : public TControl {
   /// stays free. Places in the client area are counted from its corner all the same.
   virtual void AdjustClientRect(QRect&) {}
   bool IsAligning() const { return FIsAligning; }
+  /// The client area as it is now is the one that the anchored children were placed in: it is measured in another way,
+  /// and they stay where they are.
+  void RebaseAnchors();
   void BoundsUpdated() override;
   void SetZOrder(bool isTopmost) override;
   /// Sends a message to all children.

@@ -79,6 +79,10 @@ void TWinControl::AlignAnchored(const QRect& rect) {
   for (int i = 0; i < GetControlCount(); ++i) FControls[i]->ApplyAnchors(rect.size());
 }
 
+void TWinControl::RebaseAnchors() {
+  for (TControl* control : FControls) control->RememberAnchorBase();
+}
+
 void TWinControl::AlignSide(TAlign align, QRect& rect) {
   std::vector<TControl*> controls;
   std::copy_if(FControls.begin(), FControls.end(), std::back_inserter(controls), [&](const TControl* control) {

@@ -44,6 +44,7 @@ void TCustomForm::BeforeDestruction() {
 }
 
 void TCustomForm::Destruct() {
+  if (FModalLoop) FModalLoop->quit();
   Screen().RemoveForm(this);
   FMenuBar.reset();
   TCustomControl::Destruct();
@@ -85,6 +86,7 @@ void TCustomForm::Dispatch(TMessage& message) {
     delete this;
     return;
   }
+  if (message.Msg == CM_MODALANSWERED) return CloseModal();
   TCustomControl::Dispatch(message);
 }
 
@@ -140,11 +142,12 @@ bool TCustomForm::CloseQuery() {
 
 void TCustomForm::Close() {
   if (FModalLoop) return SetModalResult(mrCancel);
-  if (!CloseQuery()) return;
+  const TLifeWatch self(this);
+  if (!CloseQuery() || !self.IsAlive()) return;
   const bool isMain = Application().GetMainForm() == this;
   TCloseAction action = caHide;
   DoClose(action);
-  if (action == caNone) return;
+  if (action == caNone || !self.IsAlive()) return;
   if (isMain) return Application().Terminate();
   if (action == caHide) Hide();
   if (action == caFree) Release();

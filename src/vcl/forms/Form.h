@@ -61,7 +61,8 @@ class TCustomForm : public TCustomControl {
   void SetActiveControl(TWinControl* value);
   bool IsActive() const;
 
-  /// Setting it ends ShowModal(), if the form lets itself be closed.
+  /// Setting it ends ShowModal() when control is back at the event queue, if it still holds then and the form lets
+  /// itself be closed.
   TModalResult GetModalResult() const { return FModalResult; }
   void SetModalResult(TModalResult value);
   /// Shows the form, lets the user answer in it alone, hides it and answers ModalResult. Raises EInvalidOperation
@@ -117,6 +118,7 @@ class TCustomForm : public TCustomControl {
  private:
   Qt::WindowFlags WindowFlags() const;
   void UpdateWindowFlags();
+  void CloseModal();
   void PlaceWindow();
   bool ShowsMenu() const;
   /// Has the menu bar keep up with the menu, and the client area with the menu bar.

@@ -12,6 +12,8 @@
 #include <QEventLoop>
 #include <QScreen>
 
+#include <utility>
+
 namespace kt {
 
 QWidget* TCustomForm::CreateBody(QWidget* parent) {
@@ -156,31 +158,51 @@ TModalResult TCustomForm::ShowModal() {
   FModalResult = mrNone;
   GetHandle()->setWindowModality(Qt::ApplicationModal);
   FModalLoop = &loop;
-  // A handler of OnShow may have answered already, or raise.
+  const TLifeWatch self(this);
+  // A handler may raise, or free the form.
   struct TDone {
     TCustomForm& Form;
+    const TLifeWatch& Life;
     ~TDone() {
+      if (!Life.IsAlive()) return;
       Form.FModalLoop = nullptr;
       if (Form.HandleAllocated()) Form.Window()->setWindowModality(Qt::NonModal);
     }
-  } done{*this};
+  } done{*this, self};
   Show();
-  if (FModalResult == mrNone) loop.exec();
+  if (self.IsAlive() && FModalLoop) loop.exec();
+  if (!self.IsAlive()) return mrCancel;
+  const TModalResult result = FModalResult;
   Hide();
-  return FModalResult;
+  return result;
 }
 
 void TCustomForm::SetModalResult(TModalResult value) {
   FModalResult = value;
-  if (value == mrNone || !FModalLoop) return;
-  TCloseAction action = caHide;
-  const bool canClose = CloseQuery();
-  if (canClose) DoClose(action);
-  if (!canClose || action == caNone) {
+  // A handler of the click that sets it may still take it back.
+  if (value != mrNone && FModalLoop) PostMessage(CM_MODALANSWERED);
+}
+
+void TCustomForm::CloseModal() {
+  if (!FModalLoop || FModalResult == mrNone) return;
+  const TLifeWatch self(this);
+  TCloseAction action = caNone;
+  try {
+    if (CloseQuery() && self.IsAlive()) {
+      action = caHide;
+      DoClose(action);
+    }
+  } catch (...) {
+    if (self.IsAlive()) FModalResult = mrNone;
+    throw;
+  }
+  if (!self.IsAlive()) return;
+  if (action == caNone) {
     FModalResult = mrNone;
     return;
   }
-  FModalLoop->quit();
+  if (action == caFree) Release();
+  if (FModalLoop) std::exchange(FModalLoop, nullptr)->quit();
 }
 
 }  // namespace kt

@@ -113,6 +113,38 @@ TEST_F(FormTest, ClosingAModalFormCancels) {
   EXPECT_EQ(Form.ShowModal(), mrCancel);
 }
 
+TEST_F(FormTest, AHandlerMayTakeTheAnswerOfAModalFormBack) {
+  const auto later = [](auto call) {
+    QMetaObject::invokeMethod(QCoreApplication::instance(), call, Qt::QueuedConnection);
+  };
+  later([this] {
+    Form.SetModalResult(mrOk);
+    Form.SetModalResult(mrNone);
+  });
+  later([&] { later([this] { Form.SetModalResult(mrYes); }); });
+  EXPECT_EQ(Form.ShowModal(), mrYes);
+  EXPECT_EQ(Log(), "query close");
+}
+
+TEST_F(FormTest, AModalFormMayFreeItselfWhenItCloses) {
+  Action = caFree;
+  TForm* form = FForm.release();
+  QMetaObject::invokeMethod(
+      QCoreApplication::instance(), [form] { form->SetModalResult(mrYes); }, Qt::QueuedConnection);
+  EXPECT_EQ(form->ShowModal(), mrYes);
+  TWindowProbe::Settle();
+  EXPECT_EQ(Log(), "query close destroy");
+  EXPECT_EQ(Screen().GetFormCount(), 0);
+}
+
+TEST_F(FormTest, AModalFormThatIsFreedHasCancelled) {
+  TForm* form = FForm.release();
+  QMetaObject::invokeMethod(
+      QCoreApplication::instance(), [form] { delete form; }, Qt::QueuedConnection);
+  EXPECT_EQ(form->ShowModal(), mrCancel);
+  EXPECT_EQ(Screen().GetFormCount(), 0);
+}
+
 TEST_F(FormTest, AVisibleFormCannotBecomeModal) {
   Form.Show();
   EXPECT_EQ(MessageOf<EInvalidOperation>([this] { Form.ShowModal(); }), "Cannot make a visible window modal");
