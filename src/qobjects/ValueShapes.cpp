@@ -60,12 +60,23 @@ std::vector<TValueMember> LineMembers() {
 /// The height for a width, and the other way round, have no names of their own in forms; they stay.
 std::vector<TValueMember> SizePolicyMembers() {
   using T = QSizePolicy;
+  // No pointers to its functions: the compiler takes them for virtual ones of something larger, and warns.
   return TShapeBuilder<T>()
-      .Member("horizontalPolicy", &T::horizontalPolicy, &T::setHorizontalPolicy)
-      .Member("verticalPolicy", &T::verticalPolicy, &T::setVerticalPolicy)
-      .Member("horizontalStretch", &T::horizontalStretch, &T::setHorizontalStretch)
-      .Member("verticalStretch", &T::verticalStretch, &T::setVerticalStretch)
-      .Member("retainSizeWhenHidden", &T::retainSizeWhenHidden, &T::setRetainSizeWhenHidden)
+      .Member(
+          "horizontalPolicy", [](const T& policy) { return policy.horizontalPolicy(); },
+          [](T& policy, T::Policy value) { policy.setHorizontalPolicy(value); })
+      .Member(
+          "verticalPolicy", [](const T& policy) { return policy.verticalPolicy(); },
+          [](T& policy, T::Policy value) { policy.setVerticalPolicy(value); })
+      .Member(
+          "horizontalStretch", [](const T& policy) { return policy.horizontalStretch(); },
+          [](T& policy, int value) { policy.setHorizontalStretch(value); })
+      .Member(
+          "verticalStretch", [](const T& policy) { return policy.verticalStretch(); },
+          [](T& policy, int value) { policy.setVerticalStretch(value); })
+      .Member(
+          "retainSizeWhenHidden", [](const T& policy) { return policy.retainSizeWhenHidden(); },
+          [](T& policy, bool value) { policy.setRetainSizeWhenHidden(value); })
       .Done();
 }
 

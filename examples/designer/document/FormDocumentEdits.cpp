@@ -63,7 +63,7 @@ QString TFormDocument::NewNameBeside(const QString& className, const QStringList
   QString base = className.startsWith(u'T', Qt::CaseInsensitive) ? className.mid(1) : className;
   if (!kt::IsFormIdentifier(base) || base.contains(u'.')) base = QStringLiteral("Component");
   for (int number = 1;; ++number) {
-    const QString name = base + QString::number(number);
+    QString name = base + QString::number(number);
     if (!Find(name) && !others.contains(name, Qt::CaseInsensitive)) return name;
   }
 }
@@ -116,7 +116,7 @@ QString TFormDocument::CopyText(const std::vector<kt::TComponent*>& components) 
 std::vector<kt::TComponent*> TFormDocument::Paste(const QString& text, kt::TComponent* parent) {
   const bool isMenu = dynamic_cast<kt::TMenu*>(parent) || dynamic_cast<kt::TMenuItem*>(parent);
   kt::TComponent* target = isMenu ? parent : TakesControls(parent);
-  const std::vector<kt::TComponent*> pasted = PasteComponents(
+  std::vector<kt::TComponent*> pasted = PasteComponents(
       FForm.get(), target, text,
       [this](const QString& className, const QStringList& others) { return NewNameBeside(className, others); });
   // A menu takes nothing but entries.

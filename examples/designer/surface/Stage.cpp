@@ -140,7 +140,8 @@ void TStage::PaintCaption(QPainter& painter, const QRect& place) {
   painter.setRenderHint(QPainter::Antialiasing);
   const int size = fontMetrics().height() * 2 / 3;
   for (const TCaptionButton button : ButtonsOf(form)) {
-    const QRectF box(rest.right() - size, rest.center().y() - size / 2, size, size);
+    const int top = rest.center().y() - size / 2;
+    const QRectF box(rest.right() - size, top, size, size);
     PaintButton(painter, button, box);
     rest.setRight(qRound(box.left()) - size);
   }

@@ -35,7 +35,7 @@ QStringList ShippedForms() {
   for (const QString& folder :
        {beside + QStringLiteral("/forms"), beside + QStringLiteral("/../share/ktinspector/forms"),
         QStringLiteral(KT_EXAMPLE_FORMS)}) {
-    const QStringList files = FormsIn(QDir(QDir::cleanPath(folder)));
+    QStringList files = FormsIn(QDir(QDir::cleanPath(folder)));
     if (!files.isEmpty()) return files;
   }
   return {};

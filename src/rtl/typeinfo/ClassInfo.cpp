@@ -48,7 +48,7 @@ TMethod TClassInfo::FindMethod(QStringView name, TObject* instance) const {
 
 QString TClassInfo::MethodName(const TMethod& method) const {
   if (!method.Instance()) return {};
-  const QString ownName = method.Handler()->MethodName();
+  QString ownName = method.Handler()->MethodName();
   if (!ownName.isEmpty()) return ownName;
   for (const TPublishedMethod& candidate : FMethods) {
     if (candidate.Bind(method.Instance()) == method) return candidate.Name;

@@ -16,7 +16,7 @@ bool IsWideBoolType(const TEnumTypeInfo* type) { return IsBoolType(type) && type
 QString EnumName(const TEnumTypeInfo* type, qint64 value) {
   if (IsWideBoolType(type)) return type->Names().at(value != 0);
   if (value >= 0 && value < type->Names().size()) return type->Names().at(value);
-  const QString name = type->NameOfUnnamed(value);
+  QString name = type->NameOfUnnamed(value);
   if (name.isNull()) throw ERangeError(SRangeError.toString());
   return name;
 }

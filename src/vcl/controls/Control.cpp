@@ -2,6 +2,7 @@
 
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/actions/ControlActionLink.h"
 #include "kt/vcl/controls/DragSession.h"
@@ -110,8 +111,9 @@ void TControl::SetParent(TWinControl* value) {
 void TControl::SetVisible(bool value) {
   if (FVisible == value) return;
   FVisible = value;
+  const TLifeWatch self(this);
   Perform(CM_VISIBLECHANGED, value);
-  RequestAlign();
+  if (self.IsAlive()) RequestAlign();
 }
 
 void TControl::SetEnabled(bool value) {

@@ -265,7 +265,7 @@ void TCustomImageList::Assign(TPersistent* source) {
 void TCustomImageList::DefineProperties(TFiler& filer) {
   TComponent::DefineProperties(filer);
   const auto* ancestor = dynamic_cast<TCustomImageList*>(filer.GetAncestor());
-  const QByteArray data = WriteData();
+  QByteArray data = WriteData();
   const bool hasData = ancestor ? ancestor->WriteData() != data : !data.isEmpty();
   filer.DefineBinaryProperty(
       u"Bitmap", [this](const QByteArray& bytes) { ReadData(bytes); }, [data] { return data; }, hasData);

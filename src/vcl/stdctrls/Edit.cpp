@@ -57,6 +57,7 @@ void TEdit::CMBiDiModeChanged(TMessage& message) {
 }
 
 void TEdit::DefaultHandler(TMessage& message) {
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): deliberately past the edit, to where the window does nothing
   if (IsDesigned(message)) return TWinControl::DefaultHandler(message);
   TCustomEdit::DefaultHandler(message);
 }

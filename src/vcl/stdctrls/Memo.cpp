@@ -147,9 +147,11 @@ bool TCustomMemo::WantsKey(quint16 key) {
 }
 
 void TCustomMemo::DefaultHandler(TMessage& message) {
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): deliberately past the edit, to where the window does nothing
   if (IsDesigned(message)) return TWinControl::DefaultHandler(message);
   const bool isReturn = message.Msg == WM_CHAR && (message.WParam == u'\r' || message.WParam == u'\n');
   const bool hasCtrl = TShiftState::FromBits(static_cast<quint32>(message.LParam)).Has(ssCtrl);
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): deliberately past the edit, to where the window does nothing
   if (isReturn && !FWantReturns && !hasCtrl) return TWinControl::DefaultHandler(message);
   TCustomEdit::DefaultHandler(message);
 }
