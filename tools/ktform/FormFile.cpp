@@ -3,7 +3,6 @@
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Messages.h"
-#include "kt/rtl/streams/BinaryFormWriter.h"
 #include "kt/rtl/streams/FileSaving.h"
 #include "kt/rtl/streams/FormConversion.h"
 
@@ -32,12 +31,7 @@ QByteArray LoadFile(const QString& fileName) {
 QByteArray BinaryOf(const QByteArray& form, kt::TEightBitEncoding encoding) {
   kt::TFormOptions options;
   options.Encoding = encoding;
-  QByteArray binary;
-  kt::TBinaryWriter writer(binary);
-  kt::TBinaryFormWriter sink(writer);
-  kt::ReadForm(form, sink, options);
-  writer.Flush();
-  return binary;
+  return kt::FormToBinary(form, options);
 }
 
 void SaveFile(const QString& fileName, const QByteArray& content) { kt::SaveBytesToFile(fileName, content); }

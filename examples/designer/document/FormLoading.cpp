@@ -5,7 +5,6 @@
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/Messages.h"
-#include "kt/rtl/streams/BinaryFormWriter.h"
 #include "kt/rtl/streams/FormConversion.h"
 #include "kt/rtl/streams/ReadAll.h"
 #include "kt/rtl/streams/Reader.h"
@@ -31,12 +30,7 @@ QByteArray FileContent(const QString& fileName) {
 QByteArray BinaryOf(const QByteArray& form, kt::TEightBitEncoding encoding) {
   kt::TFormOptions options;
   options.Encoding = encoding;
-  QByteArray binary;
-  kt::TBinaryWriter writer(binary);
-  kt::TBinaryFormWriter sink(writer);
-  kt::ReadForm(form, sink, options);
-  writer.Flush();
-  return binary;
+  return kt::FormToBinary(form, options);
 }
 
 kt::TPlaceWording PlacesIn(const QByteArray& form, kt::TEightBitEncoding encoding) {

@@ -173,4 +173,13 @@ void ReadForm(const QByteArray& form, IFormSink& sink, const TFormOptions& optio
   }
 }
 
+QByteArray FormToBinary(const QByteArray& form, const TFormOptions& options) {
+  QByteArray binary;
+  TBinaryWriter writer(binary);
+  TBinaryFormWriter sink(writer);
+  ReadForm(form, sink, options);
+  writer.Flush();
+  return binary;
+}
+
 }  // namespace kt

@@ -58,5 +58,7 @@ void CheckNothingBehind(const QByteArray& data, qint64 from);
 
 /// Sends the events of a form in whatever format it is; what is neither binary nor a resource is read as text.
 void ReadForm(const QByteArray& form, IFormSink& sink, const TFormOptions& options = {});
+/// Such a form in the binary format, without a resource header.
+QByteArray FormToBinary(const QByteArray& form, const TFormOptions& options = {});
 
 }  // namespace kt
