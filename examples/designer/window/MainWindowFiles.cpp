@@ -1,4 +1,6 @@
 // Opening and saving.
+#include "designer/inspector/InspectorPanel.h"
+#include "designer/surface/Surface.h"
 #include "designer/window/MainWindow.h"
 #include "designer/window/ShippedForms.h"
 #include "kt/rtl/objects/Exceptions.h"
