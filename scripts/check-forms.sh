@@ -19,4 +19,14 @@ if ! build/release/bin/ktform check "${forms[@]}" >"$log" 2>&1; then
   cat "$log" >&2
   die "ktform check found faults"
 fi
+# What a form may lack is an error that is told; anything else, as a crash, is a fault.
+for form in "${forms[@]}"; do
+  status=0
+  build/release/bin/ktform set "$form" build/release/set.form Tag=77 >"$log" 2>&1 || status=$?
+  if [ "$status" -gt 1 ]; then
+    cat "$log" >&2
+    die "ktform set ended with $status over $form"
+  fi
+done
+rm -f build/release/set.form
 say "${#forms[@]} forms: ok"

@@ -123,6 +123,17 @@ void TKTInplaceEditList::PickText(const QString& text) {
   grid.SetEditText(grid.GetCol(), grid.GetRow(), text);
 }
 
+/// What an input method has composed is searched for in the open list, as what comes from keys.
+bool TKTInplaceEditList::InputText(const QString& text) {
+  if (!FListVisible || !FActiveList || text.isEmpty()) return TInplaceEdit::InputText(text);
+  const TLifeWatch self(this);
+  for (const QChar character : text) {
+    if (!self.IsAlive() || !FListVisible || !FActiveList) break;
+    FActiveList->Perform(WM_CHAR, character.unicode());
+  }
+  return true;
+}
+
 void TKTInplaceEditList::WndProc(TMessage& message) {
   if (message.Msg >= WM_MOUSEMOVE && message.Msg <= WM_MBUTTONDBLCLK) FMouse = PointOfMessage(message.LParam);
   const bool isKey = message.Msg == WM_KEYDOWN || message.Msg == WM_SYSKEYDOWN || message.Msg == WM_CHAR;

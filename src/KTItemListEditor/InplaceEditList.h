@@ -104,6 +104,7 @@ class TKTInplaceEditList : public TInplaceEdit {
   void WMCancelMode(TMessage& message) override;
   void WMKillFocus(TMessage& message) override;
   void WndProc(TMessage& message) override;
+  bool InputText(const QString& text) override;
   void DefaultHandler(TMessage& message) override;
 
   bool WantsKey(quint16 key) override;

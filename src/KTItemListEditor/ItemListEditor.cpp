@@ -3,6 +3,7 @@
 #include "kt/KTItemListEditor/Messages.h"
 #include "kt/KTItemListEditor/PublishItemListEditor.h"
 #include "kt/ktcommon/NewLine.h"
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/strings/StringList.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/graphics/Bitmap.h"
@@ -87,29 +88,35 @@ void TKTCustomItemListEditor::CMFontChanged(TMessage& message) {
 }
 
 void TKTCustomItemListEditor::FontChanged() {
-  for (int i = 0; FItems && i < FItems->GetCount(); ++i) FItems->GetItem(i)->ParentFontChanged(nullptr);
-  for (TKTCustomDeltaFont* font : {FTitleCaptionFont.get(), FCategoryFont.get(), FValueFont.get()}) {
-    if (font) font->BaseFontChanged(&GetFont());
-  }
-  FollowFonts();
-  if (FTitleCaptionFont) FitRowHeight();
-  Invalidate();
+  // An item whose font changes is read anew by the cell that is being edited, and what is asked then may free all.
+  const TLifeWatch self(this);
+  for (int i = 0; self.IsAlive() && FItems && i < FItems->GetCount(); ++i)
+    FItems->GetItem(i)->ParentFontChanged(nullptr);
+  if (self.IsAlive() && FTitleCaptionFont) FTitleCaptionFont->BaseFontChanged(&GetFont());
+  if (self.IsAlive() && FCategoryFont) FCategoryFont->BaseFontChanged(&GetFont());
+  if (self.IsAlive() && FValueFont) FValueFont->BaseFontChanged(&GetFont());
+  if (self.IsAlive()) FollowFonts();
+  if (self.IsAlive() && FTitleCaptionFont) FitRowHeight();
+  if (self.IsAlive()) Invalidate();
 }
 
 void TKTCustomItemListEditor::InternalValueFontChanged(TObject*) {
+  const TLifeWatch self(this);
   FitRowHeight();
-  for (int i = 0; i < FItems->GetCount(); ++i) FItems->GetItem(i)->ParentValueFontChanged();
+  for (int i = 0; self.IsAlive() && i < FItems->GetCount(); ++i) FItems->GetItem(i)->ParentValueFontChanged();
 }
 
 /// Also those below categories, and categories once their font has followed.
 void TKTCustomItemListEditor::FollowFonts() {
-  for (int i = 0; FItems && i < FItems->GetCount(); ++i) FItems->GetItem(i)->FollowFonts();
+  const TLifeWatch self(this);
+  for (int i = 0; self.IsAlive() && FItems && i < FItems->GetCount(); ++i) FItems->GetItem(i)->FollowFonts();
 }
 
 void TKTCustomItemListEditor::CategoryFontChanged(TObject*) {
+  const TLifeWatch self(this);
   FitRowHeight();
-  FollowFonts();
-  if (FArrangeByCategory) Invalidate();
+  if (self.IsAlive()) FollowFonts();
+  if (self.IsAlive() && FArrangeByCategory) Invalidate();
 }
 
 void TKTCustomItemListEditor::TitleCaptionFontChanged(TObject*) {

@@ -345,6 +345,7 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
  private:
   // Drawing.
   void UseCellFont(const TGridInfo& info, TKTItemProp* item);
+  void MakeFontLegible();
   void Indent(TKTItemProp& item, QRect& rect);
   QRect GlyphRect(const TKTItemProp& item, const QRect& cell, TPicture& glyph) const;
   void DrawGlyph(const TKTItemProp& item, const QRect& cell);
@@ -370,6 +371,7 @@ class TKTCustomItemListEditor : public TCustomDrawGrid {
   bool PressItem(TShiftState shift, TGridCoord cell, QPoint point);
   bool PressGlyph(TGridCoord cell, QPoint point);
   void PressName(TGridCoord cell, TShiftState shift);
+  bool PressMovedName();
   void MoveItem(int from, int to);
   void ValidateBlank();
 

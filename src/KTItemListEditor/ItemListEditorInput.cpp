@@ -117,7 +117,8 @@ void TKTCustomItemListEditor::AddByKey(bool append, quint16& key) {
   const TLifeWatch self(this);
   const int line = InsertItem({}, {}, append);
   key = 0;
-  if (self.IsAlive()) GoToLine(line, key);
+  // Items that are not shown count in what it answers.
+  if (self.IsAlive()) GoToLine(std::min(line, GetGridCount(gcLineCount) - 1), key);
 }
 
 void TKTCustomItemListEditor::AcceptByKey() {
@@ -140,8 +141,10 @@ bool TKTCustomItemListEditor::PressItem(TShiftState shift, TGridCoord cell, QPoi
   const bool isName = cell.X >= 0 && !IsValueCell(cell.X, cell.Y);
   // A press on the glyph leaves current cell and editor alone, wherever it is.
   if (isName && !shift.Has(ssDouble) && PressGlyph(cell, point)) return true;
+  const TItemWatch pressed(isName ? FindItemProp(cell.X, cell.Y, true) : nullptr);
   if (isName && GetOptions().Has(goEditing)) PressName(cell, shift);
   if (!self.IsAlive()) return true;
+  if (pressed && FindItemProp(cell.X, cell.Y, true) != pressed.Get()) return PressMovedName();
   const bool isFixed = GetCol() < GetFixedCols() || GetRow() < GetFixedRows();
   if (GetOptions().Has(goEditing) && !isFixed) ShowEditor();
   return !self.IsAlive();
@@ -162,6 +165,17 @@ void TKTCustomItemListEditor::PressName(TGridCoord cell, TShiftState shift) {
   if (info.Line == info.CurLine || info.Line < info.FixedLines) return;
   const TGridCoord value = FOrientation == goVertical ? TGridCoord{1, cell.Y} : TGridCoord{cell.X, 1};
   FocusCell(value.X, value.Y, !shift.Has(ssShift));
+}
+
+/// A blank item above has gone as it was left, and another name is under the mouse by now: the one that was pressed is
+/// meant, whose value the cursor is on.
+bool TKTCustomItemListEditor::PressMovedName() {
+  const TLifeWatch self(this);
+  const TGridCoord name = FOrientation == goVertical ? TGridCoord{0, GetRow()} : TGridCoord{GetCol(), 0};
+  const bool goesToName = FPropertyOptions.Has(propEdit) && SelectCell(name.X, name.Y);
+  if (self.IsAlive() && goesToName) FocusCell(name.X, name.Y, true);
+  if (self.IsAlive()) ShowEditor();
+  return true;
 }
 
 // Moving rows and columns.

@@ -23,6 +23,7 @@ void TKTCustomItemListEditor::DrawCell(int col, int row, const QRect& rect, TGri
   QRect inner = rect;
   if (item && info.Field == 0) Indent(*item, inner);
   if (col == GetCol() && row == GetRow()) UseSelectionColors(inner, state);
+  MakeFontLegible();
   DrawCellText(inner, GetCell(col, row));
   TCustomDrawGrid::DrawCell(col, row, inner, state);
 }
@@ -39,7 +40,11 @@ void TKTCustomItemListEditor::UseCellFont(const TGridInfo& info, TKTItemProp* it
   } else {
     canvas.SetFont(info.Field == 0 ? &GetFont() : FValueFont.get());
   }
-  // As that of categories, which is purple.
+}
+
+/// On the ground that the cell has got by now. The font of categories, for one, is purple.
+void TKTCustomItemListEditor::MakeFontLegible() {
+  TCanvas& canvas = GetCanvas();
   const TColor color = canvas.GetFont().GetColor();
   const TColor legible = LegibleColor(color, canvas.RealColor(canvas.GetBrush().GetColor()));
   if (legible != color) canvas.GetFont().SetColor(legible);

@@ -1,6 +1,8 @@
 #include "KTItemListEditor/InplaceEditListFixture.h"
 #include "kt/KTItemListEditor/DropDownList.h"
 
+#include <QInputMethodEvent>
+
 namespace kt::tests {
 namespace {
 
@@ -22,6 +24,16 @@ TEST_F(InplaceEditListSearchTest, TypingSelectsTheFirstLineThatBeginsWithAllThat
   EXPECT_EQ(">Bear badger bat", Lines());
   Type(QStringLiteral("at"));
   EXPECT_EQ("Bear badger >bat", Lines());
+  EXPECT_EQ("1", Edit().GetText());
+}
+
+TEST_F(InplaceEditListSearchTest, ComposedTextIsSearchedForToo) {
+  ShowPickList({QStringLiteral("\u00E4b"), QStringLiteral("\u00E9a"), QStringLiteral("\u00E9b")});
+  OpenList();
+  QInputMethodEvent composed;
+  composed.setCommitString(QStringLiteral("\u00E9b"));
+  QApplication::sendEvent(QApplication::focusWidget(), &composed);
+  EXPECT_EQ("\u00E4b \u00E9a >\u00E9b", Lines());
   EXPECT_EQ("1", Edit().GetText());
 }
 

@@ -18,6 +18,11 @@ const TItemScenario SingleSteps[] = {
     {"Clear", [](TKTItemListEditor& editor) { editor.GetItems().Clear(); }},
     {"InsertItem", [](TKTItemListEditor& editor) { editor.InsertItem("n", "1", false); }},
     {"DeleteItem", [](TKTItemListEditor& editor) { editor.DeleteItem(1, editor.GetRow()); }},
+    {"Options", [](TKTItemListEditor& editor) { editor.SetOptions(editor.GetOptions() - TGridOptions{goEditing}); }},
+    {"Font", [](TKTItemListEditor& editor) { editor.GetFont().SetHeight(-30); }},
+    {"ValueFont", [](TKTItemListEditor& editor) { editor.GetValueFont().SetHeight(-30); }},
+    {"CategoryFont", [](TKTItemListEditor& editor) { editor.GetCategoryFont().SetHeight(-30); }},
+    {"BorderStyle", [](TKTItemListEditor& editor) { editor.SetBorderStyle(bsNone); }},
     {"EditorMode", [](TKTItemListEditor& editor) { editor.SetEditorMode(false); }},
 };
 

@@ -83,6 +83,24 @@ TEST_F(ItemListEditorInputBlanksTest, AClickOnANameBelowLandsOnTheValueOfThatIte
   EXPECT_EQ("1,2", Where());
 }
 
+TEST_F(ItemListEditorInputBlanksTest, AClickOnANameBelowLandsOnThatNameWhereNamesCanBeEdited) {
+  ShowOnBlank("a b c");
+  FEditor->SetPropertyOptions({propAdd, propEdit});
+  ClickCell(0, 3);
+  EXPECT_EQ("a | >b | c", RowsText());
+  EXPECT_EQ("0,2", Where());
+  EXPECT_EQ("b", EditorText());
+}
+
+TEST_F(ItemListEditorInputBlanksTest, AnItemThatIsNotShownDoesNotKeepANewOneFromBeingReached) {
+  Show("a h b");
+  Item("h").SetVisible(false);
+  FEditor->SetPropertyOptions({propAdd, propEdit});
+  FEditor->SetRow(2);
+  Key(Qt::Key_Down);
+  EXPECT_EQ("a | b | >", RowsText());
+}
+
 TEST_F(ItemListEditorInputBlanksTest, AClickOnTheLastNameLandsOnTheValueOfThatItem) {
   ShowOnBlank("a b c");
   ClickCell(0, 4);

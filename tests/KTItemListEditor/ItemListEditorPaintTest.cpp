@@ -77,7 +77,41 @@ TEST_F(ItemListEditorPaintTest, PurpleCategoriesAreDrawnLighterOnADarkGround) {
   EXPECT_EQ(clPurple, FEditor->GetCategoryFont().GetColor());
 }
 
+TEST_F(ItemListEditorPaintTest, AHiddenSelectionIsNoGroundForTheColourOfTheText) {
+  Items().Add("a", "1");
+  FEditor->GetValueFont().SetColor(clRed);
+  ASSERT_TRUE(FEditor->GetHideSelection());
+  ASSERT_EQ(1, FEditor->GetRow());
+  QPalette light(QColor(240, 240, 240));
+  light.setColor(QPalette::Base, Qt::white);
+  light.setColor(QPalette::Highlight, QColor(48, 140, 198));
+  FEditor->GetCanvas().SetPalette(light);
+  FEditor->GetCanvas().GetBrush().SetColor(clHighlight);
+  EXPECT_EQ(clRed, ColorAt(1, 1));
+  QPalette dark(QColor(40, 40, 40));
+  dark.setColor(QPalette::Base, QColor(20, 20, 20));
+  dark.setColor(QPalette::Highlight, QColor(48, 140, 198));
+  FEditor->GetCanvas().SetPalette(dark);
+  FEditor->GetValueFont().SetColor(clNavy);
+  FEditor->GetCanvas().GetBrush().SetColor(clHighlight);
+  EXPECT_GT(QtColor(ColorAt(1, 1)).lightness(), QtColor(clNavy).lightness());
+}
+
 // Texts.
+
+TEST_F(ItemListEditorPaintTest, ANameColumnWithoutRoomForTheNamePaintsNothingBeside) {
+  Fill("a [b]");
+  FEditor->FullExpand();
+  FEditor->GetCanvas().GetBrush().SetColor(clRed);
+  TPaintLog log;
+  {
+    QPainter painter(&log);
+    FEditor->GetCanvas().Begin(painter);
+    static_cast<TPaintedEditor&>(*FEditor).DrawCell(0, 2, QRect(0, 0, 10, 18), {});
+    FEditor->GetCanvas().End();
+  }
+  EXPECT_EQ("", log.Take());
+}
 
 TEST_F(ItemListEditorPaintTest, AValueStartsTwoPixelsInside) {
   Items().Add("a", "one");

@@ -151,6 +151,32 @@ TEST_F(ItemPropsTest, WithoutAnEditorNamesAreComparedWithoutRegardToCase) {
   EXPECT_EQ(0, item->GetItems().IndexOf("A"));
 }
 
+TEST_F(ItemPropsTest, APathMayBeginWithAnItemWithoutName) {
+  TKTItemProp* child = Items().Add()->GetItems().Add("a", "");
+  EXPECT_EQ(child, Items().FindItemByFullPathName(".a"));
+}
+
+TEST_F(ItemPropsTest, AListAssignedToItselfStaysAsItIs) {
+  Fill("a [b] c");
+  Items().Assign(&Items());
+  EXPECT_EQ("b", NameOf(Items().FindItemByFullPathName("a.b")));
+  EXPECT_EQ(2, Items().GetCount());
+}
+
+TEST_F(ItemPropsTest, OtherThingsThanListsOfItemsCannotBeAssigned) {
+  Fill("a");
+  EXPECT_THROW(Items().Assign(&FEditor->GetFont()), EConvertError);
+  EXPECT_EQ(1, Items().GetCount());
+}
+
+TEST_F(ItemPropsTest, AnItemThatBelongsToNoListCanBeRenamed) {
+  Fill("a b");
+  const std::unique_ptr<TKTItemProp> item(&Item("a"));
+  item->SetCollection(nullptr);
+  item->SetName("b");
+  EXPECT_EQ("b", item->GetName());
+}
+
 TEST_F(ItemPropsTest, AFullPathFindsAnItemOfAnyLevel) {
   Fill("a [b [c]] d");
   EXPECT_EQ("c", NameOf(Items().FindItemByFullPathName("A.b.C")));

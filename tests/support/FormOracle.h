@@ -58,7 +58,8 @@ inline void RequireTextSurvives(const QByteArray& form, bool rawUtf8) {
   try {
     ReadForm(form, writer, Options());
   } catch (const EWriteError& error) {
-    Require(Matches(error, R"(cannot be written as text \(.+\)$)"), "a refused name is shown with its path");
+    Require(Matches(error, R"(cannot be written as text (on line \d+, column \d+|at offset \d+ \(.+\))$)"),
+            "a refused name is shown with its place");
     return;
   }
   sink.Flush();
@@ -76,7 +77,8 @@ inline void RequireBinarySurvives(const QByteArray& form) {
   try {
     ReadForm(form, sink, Options());
   } catch (const EWriteError& error) {
-    Require(Matches(error, R"(is too long to be stored at offset \d+)"), "a refused name is shown with its place");
+    Require(Matches(error, R"(is too long to be stored (on line \d+, column \d+|at offset \d+))"),
+            "a refused name is shown with its place");
     return;
   }
   writer.Flush();

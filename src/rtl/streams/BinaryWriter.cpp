@@ -55,7 +55,9 @@ void TBinaryWriter::Count(TValueType type, qsizetype count) {
 }
 
 void TBinaryWriter::FailName(QLatin1StringView what, QStringView name) const {
-  throw EWriteError(AtOffset(MessageAbout(what, ShownName(name)), Position(), FPath.ToString()));
+  const QString message = MessageAbout(what, ShownName(name));
+  const QString path = FPath.ToString();
+  throw ENotStorable(message, path, AtOffset(message, Position(), path));
 }
 
 void TBinaryWriter::WriteResourceHeader(QStringView name, qint64 size) {

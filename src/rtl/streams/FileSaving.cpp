@@ -60,6 +60,18 @@ bool WriteAll(QFileDevice& file, QByteArrayView bytes) {
   return true;
 }
 
+/// A terminal, a pipe, a null device: what stays what it is, and has no old content to lose.
+bool IsDevice(const QString& fileName) {
+  const QFileInfo target(fileName);
+  return target.exists() && !target.isFile() && !target.isDir();
+}
+
+void WriteToDevice(const QString& fileName, QByteArrayView bytes) {
+  QFile file(fileName);
+  if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) RaiseFileError<EFCreateError>(SFCreateError, file);
+  if (!WriteAll(file, bytes)) RaiseFileError<EWriteError>(SFWriteError, file);
+}
+
 /// A reader of a form in any of the formats.
 std::unique_ptr<TReader> ReaderOf(const QByteArray& form, const TLoadOptions& options) {
   const TStreamOriginalFormat format = TestStreamFormat(form);
@@ -104,6 +116,7 @@ TComponent* ReadFile(const QString& fileName, TComponent* root, const TLoadOptio
 }  // namespace
 
 void SaveBytesToFile(const QString& fileName, QByteArrayView bytes) {
+  if (IsDevice(fileName)) return WriteToDevice(fileName, bytes);
   QSaveFile file(fileName);
   // Unbuffered: committing does not notice that its buffer could not be written in full.
   if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) RaiseFileError<EFCreateError>(SFCreateError, file);

@@ -20,12 +20,22 @@ constexpr quint8 kResourceMark = 0xFF;
 constexpr qsizetype kProbeSize = 256;
 
 void ParseText(const QByteArray& text, IFormSink& sink, const TFormOptions& options) {
-  TTextParser(text, sink, {options.Encoding, options.NestingLimit}).ParseForm();
+  TTextParser parser(text, sink, {options.Encoding, options.NestingLimit});
+  try {
+    parser.ParseForm();
+  } catch (const ENotStorable& error) {
+    const TTextPosition place = parser.Place();
+    throw EWriteError(OnLine(error.What, place.Line, place.Column));
+  }
 }
 
 void ParseBinary(TBinaryReader& reader, IFormSink& sink, const TFormOptions& options) {
   reader.SetEncoding(options.Encoding);
-  TBinaryFormParser(reader, sink, options.NestingLimit).ParseForm();
+  try {
+    TBinaryFormParser(reader, sink, options.NestingLimit).ParseForm();
+  } catch (const ENotStorable& error) {
+    throw EWriteError(AtOffset(error.What, reader.Position(), error.Path));
+  }
 }
 
 /// The form must lie within the size that the header states; what the resource holds behind it is skipped.

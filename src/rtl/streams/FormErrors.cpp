@@ -4,15 +4,31 @@
 #include "kt/rtl/objects/Messages.h"
 
 namespace kt {
+namespace {
+
+constexpr qsizetype kShownLength = 60;
+constexpr QLatin1StringView kGap{"..."};
+
+}  // namespace
+
+QString Shortened(QStringView text) {
+  if (text.size() <= kShownLength) return text.toString();
+  QStringView begin = text.first((kShownLength - kGap.size() + 1) / 2);
+  QStringView end = text.last((kShownLength - kGap.size()) / 2);
+  // Half a character would be none.
+  if (begin.back().isHighSurrogate()) begin.chop(1);
+  if (end.front().isLowSurrogate()) end = end.sliced(1);
+  return begin.toString() + kGap + end;
+}
 
 QString MessageAbout(QLatin1StringView pattern, QStringView argument) {
   // A number arrives as text too, and Format() minds the difference.
   if (QString(pattern).contains(QLatin1StringView("%d"))) return Format(pattern, {argument.toLongLong()});
-  return Format(pattern, {argument});
+  return Format(pattern, {Shortened(argument)});
 }
 
 QString ShownName(QStringView name) {
-  QString shown = name.toString();
+  QString shown = Shortened(name);
   for (QChar& c : shown)
     if (!c.isPrint() && !c.isSurrogate()) c = u'?';
   return shown;

@@ -5,6 +5,9 @@
 namespace kt {
 namespace {
 
+/// Of a path with more levels than anybody builds so many are shown at either end.
+constexpr std::size_t kShownLevels = 16;
+
 /// Assignment that keeps the capacity: the path changes with each property, allocating each time would cost more than
 /// parsing.
 void Store(QString& target, QStringView text) {
@@ -46,6 +49,10 @@ QString TFormPath::ToString() const {
     path += ShownName(part);
   };
   for (std::size_t i = 0; i < FDepth; ++i) {
+    if (FDepth > 2 * kShownLevels && i == kShownLevels) {
+      path += QStringLiteral("...");
+      i = FDepth - kShownLevels;
+    }
     const TLevel& level = FLevels[i];
     if (level.Item < 0)
       append(level.Name);

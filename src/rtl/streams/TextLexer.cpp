@@ -17,7 +17,8 @@ constexpr std::array<TCharClass, 256> MakeClasses() {
   for (int c = '0'; c <= '9'; ++c) classes[c] = ccDigit;
   for (int c = 'a'; c <= 'z'; ++c) classes[c] = classes[c - 'a' + 'A'] = ccLetter;
   for (int c = 128; c < 256; ++c) classes[c] = ccBeyondAscii;
-  for (const unsigned char c : {' ', '\t', '\n', '\r', '\f', '\v'}) classes[c] = ccBlank;
+  // With the mark that some old programs put behind the end.
+  for (int c = 1; c <= ' '; ++c) classes[c] = ccBlank;
   classes['_'] = ccLetter;
   return classes;
 }

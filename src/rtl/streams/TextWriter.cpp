@@ -44,9 +44,9 @@ bool IsUnicodeLineBreak(char16_t c) { return c == 0x2028 || c == 0x2029; }
 TTextWriter::TTextWriter(TByteSink& sink, const TTextWriterOptions& options) : FSink(sink), FOptions(options) {}
 
 void TTextWriter::FailName(QStringView name) const {
+  const QString message = MessageAbout(SNameNotText, ShownName(name));
   const QString path = FPath.ToString();
-  throw EWriteError(MessageAbout(SNameNotText, ShownName(name)) +
-                    (path.isEmpty() ? QString() : QStringLiteral(" (") + path + u')'));
+  throw ENotStorable(message, path, path.isEmpty() ? message : message + QStringLiteral(" (") + path + u')');
 }
 
 void TTextWriter::NewLine() {

@@ -9,6 +9,7 @@
 #include "kt/vcl/controls/Mouse.h"
 #include "kt/vcl/controls/WinControl.h"
 #include "kt/vcl/forms/Screen.h"
+#include "kt/vcl/graphics/Presence.h"
 
 #include <QApplication>
 
@@ -84,7 +85,7 @@ TWinControl* TDragSession::Capture() const { return static_cast<TWinControl*>(FC
 // Beginning.
 
 void TDragSession::Begin(TControl& source, bool immediate, int threshold) {
-  const bool hasScreen = qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
+  const bool hasScreen = HasWidgets();
   if (CurrentDrag || !hasScreen || source.HasState(csDestroying)) return;
   const auto drag = std::make_shared<TDragSession>(source);
   CurrentDrag = drag;

@@ -6,6 +6,7 @@
 #include "kt/vcl/controls/ControlBody.h"
 #include "kt/vcl/controls/WinControl.h"
 #include "kt/vcl/forms/Application.h"
+#include "kt/vcl/graphics/Presence.h"
 #include "kt/vcl/graphics/QtColor.h"
 
 #include <QApplication>
@@ -97,7 +98,7 @@ void HintMouseMoved(TWinControl& control, QPoint clientPos, QPoint screenPos) {
 bool IsHintWaiting() { return RestTimer().isActive(); }
 
 void HideControlHint() {
-  if (!qobject_cast<QApplication*>(QCoreApplication::instance())) return;
+  if (!HasWidgets()) return;
   RestTimer().stop();
   QToolTip::hideText();
 }

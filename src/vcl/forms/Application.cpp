@@ -5,6 +5,7 @@
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/forms/Form.h"
 #include "kt/vcl/forms/Screen.h"
+#include "kt/vcl/graphics/Presence.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -16,7 +17,7 @@ namespace kt {
 namespace {
 
 bool HasDisplay() {
-  if (!qobject_cast<QApplication*>(QCoreApplication::instance())) return false;
+  if (!HasWidgets()) return false;
   const QString platform = QGuiApplication::platformName();
   return platform != QLatin1String("offscreen") && platform != QLatin1String("minimal");
 }
@@ -40,7 +41,7 @@ TApplication& Application() {
 
 void TApplication::SetTitle(const QString& value) {
   FTitle = value;
-  if (qobject_cast<QGuiApplication*>(QCoreApplication::instance())) QGuiApplication::setApplicationDisplayName(value);
+  if (HasGui()) QGuiApplication::setApplicationDisplayName(value);
 }
 
 void TApplication::SetHint(const QString& value) {

@@ -2,6 +2,7 @@
 
 #include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/vcl/forms/Form.h"
+#include "kt/vcl/graphics/Presence.h"
 #include "kt/vcl/menus/MainMenu.h"
 #include "kt/vcl/menus/MenuContents.h"
 
@@ -27,7 +28,7 @@ TFormMenuBar::~TFormMenuBar() {
 }
 
 void TFormMenuBar::EnsureBar() {
-  if (FBar || !qobject_cast<QApplication*>(QCoreApplication::instance())) return;
+  if (FBar || !HasWidgets()) return;
   FBar = new QMenuBar;
   FBar->setNativeMenuBar(false);
   TellMenuHints(*FBar);

@@ -6,6 +6,7 @@
 #include "kt/vcl/forms/Form.h"
 #include "kt/vcl/forms/FormMenuBar.h"
 #include "kt/vcl/forms/Screen.h"
+#include "kt/vcl/graphics/Presence.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -77,7 +78,7 @@ void TCustomForm::CMTextChanged(TMessage& message) {
 
 /// A form that is being designed shows where its designer puts it, whatever it says of itself.
 void TCustomForm::CMVisibleChanged(TMessage& message) {
-  if (HasState(csLoading) || HasState(csDesigning)) return;
+  if (HasState(csLoading) || HasState(csDesigning) || !HasWidgets()) return;
   if (IsVisible() && !IsShowing()) {
     GetHandle();
     PlaceWindow();

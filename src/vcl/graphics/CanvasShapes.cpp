@@ -119,6 +119,8 @@ void TCanvas::Ellipse(const QRect& rect) {
 
 void TCanvas::FillRect(const QRect& rect) {
   QPainter& painter = Usable();
+  // Qt takes a rectangle of negative size for one that is turned round.
+  if (rect.isEmpty()) return;
   if (FBrush->GetStyle() == bsSolid && FBrush->GetColor() != clNone) {
     painter.fillRect(rect, RealColor(FBrush->GetColor()));
   } else {

@@ -57,6 +57,8 @@ void TCanvas::TextOut(int x, int y, const QString& text) {
 
 void TCanvas::TextRect(const QRect& rect, int x, int y, const QString& text) {
   QPainter& painter = Usable();
+  // Qt takes a rectangle of negative size for one that is turned round.
+  if (rect.isEmpty()) return;
   FillBehindText(rect);
   if (!text.isEmpty()) {
     TRealFont& font = RealFont();

@@ -1,5 +1,7 @@
 #include "kt/vcl/graphics/QtColor.h"
 
+#include "kt/vcl/graphics/Presence.h"
+
 #include <QGuiApplication>
 #include <QPalette>
 
@@ -62,7 +64,7 @@ QColor QtColor(TColor color, const QPalette& palette) {
   return QColor(static_cast<int>(bits & 0xFF), static_cast<int>(bits >> 8 & 0xFF), static_cast<int>(bits >> 16 & 0xFF));
 }
 
-QColor QtColor(TColor color) { return QtColor(color, qGuiApp ? QGuiApplication::palette() : QPalette()); }
+QColor QtColor(TColor color) { return QtColor(color, HasGui() ? QGuiApplication::palette() : QPalette()); }
 
 TColor ColorOf(const QColor& color) {
   return static_cast<TColor>(color.red() | color.green() << 8 | color.blue() << 16);

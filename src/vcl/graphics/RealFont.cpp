@@ -3,6 +3,7 @@
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/vcl/graphics/Font.h"
 #include "kt/vcl/graphics/GraphicsMessages.h"
+#include "kt/vcl/graphics/Presence.h"
 
 #include <QGuiApplication>
 #include <QTextLayout>
@@ -103,8 +104,11 @@ class TRealFonts {
 
 std::shared_ptr<TRealFont> TRealFont::Of(const TFont& font) {
   const TFontData& data = font.Data();
+  // The cheap question first: this is asked for each text that is drawn.
   if (!qGuiApp) throw EInvalidOperation(SNoCanvasHandle.toString());
-  if (!data.Real || !HasLook(data, data.Real->Look())) data.Real = TRealFonts::Find(data);
+  if (data.Real && HasLook(data, data.Real->Look())) return data.Real;
+  if (!HasGui()) throw EInvalidOperation(SNoCanvasHandle.toString());
+  data.Real = TRealFonts::Find(data);
   return data.Real;
 }
 

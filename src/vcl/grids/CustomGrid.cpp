@@ -44,7 +44,9 @@ void TCustomGrid::SetOptions(TGridOptions value) {
   if (FOptions == value) return;
   FOptions = value;
   UpdateTracking();
+  const TLifeWatch self(this);
   ScrollBarsNeedUpdate();
+  if (!self.IsAlive()) return;
   if (!FEditorMode) {
     if (value.Has(goAlwaysShowEditor)) {
       ShowEditor();
@@ -55,8 +57,8 @@ void TCustomGrid::SetOptions(TGridOptions value) {
     // It could not follow the cell any more.
     HideEdit();
   }
-  if (value.Has(goRowSelect)) MoveCurrent(FCurrent.X, FCurrent.Y, true, false);
-  InvalidateGrid();
+  if (self.IsAlive() && value.Has(goRowSelect)) MoveCurrent(FCurrent.X, FCurrent.Y, true, false);
+  if (self.IsAlive()) InvalidateGrid();
 }
 
 void TCustomGrid::SetFixedColor(TColor value) {
@@ -74,8 +76,9 @@ void TCustomGrid::SetScrollBars(TScrollStyle value) {
 void TCustomGrid::SetBorderStyle(TBorderStyle value) {
   if (FBorderStyle == value) return;
   FBorderStyle = value;
+  const TLifeWatch self(this);
   ScrollBarsNeedUpdate();
-  InvalidateGrid();
+  if (self.IsAlive()) InvalidateGrid();
 }
 
 void TCustomGrid::DestroyWnd() {
@@ -87,8 +90,9 @@ void TCustomGrid::DestroyWnd() {
 }
 
 void TCustomGrid::CMExit(TMessage& message) {
+  const TLifeWatch self(this);
   ValidateEditor();
-  TCustomControl::CMExit(message);
+  if (self.IsAlive()) TCustomControl::CMExit(message);
 }
 
 void TCustomGrid::DoExit() {
@@ -107,22 +111,24 @@ void TCustomGrid::WMSetFocus(TMessage& message) {
 }
 
 void TCustomGrid::WMKillFocus(TMessage& message) {
+  const TLifeWatch self(this);
   TCustomControl::WMKillFocus(message);
-  InvalidateCells(GetSelection());
+  if (self.IsAlive()) InvalidateCells(GetSelection());
 }
 
 void TCustomGrid::CMShowingChanged(TMessage& message) {
-  TCustomControl::CMShowingChanged(message);
-  if (!IsShowing()) return;
   const TLifeWatch self(this);
+  TCustomControl::CMShowingChanged(message);
+  if (!self.IsAlive() || !IsShowing()) return;
   ScrollBarsNeedUpdate();
   if (self.IsAlive()) UpdateEdit();
 }
 
 void TCustomGrid::CMBiDiModeChanged(TMessage& message) {
+  const TLifeWatch self(this);
   TCustomControl::CMBiDiModeChanged(message);
-  ScrollBarsNeedUpdate();
-  MoveEditor();
+  if (self.IsAlive()) ScrollBarsNeedUpdate();
+  if (self.IsAlive()) MoveEditor();
 }
 
 void TCustomGrid::CMCancelMode(TMessage& message) {

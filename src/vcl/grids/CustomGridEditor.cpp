@@ -42,11 +42,12 @@ bool TCustomGrid::CanEditShow() {
 }
 
 void TCustomGrid::SetEditorMode(bool value) {
+  const TLifeWatch self(this);
   if (!value) {
     ValidateEditor();
-    return HideEditor();
+    if (self.IsAlive()) HideEditor();
+    return;
   }
-  const TLifeWatch self(this);
   ShowEditor();
   if (self.IsAlive() && FInplaceEdit) FInplaceEdit->Deselect();
 }
@@ -137,10 +138,11 @@ void TCustomGrid::HideEdit() {
 /// Raises what is wrong with the text of the cell being edited, and shows it.
 void TCustomGrid::ValidateEditor() {
   if (!FInplaceEdit || FInplaceCell.X < 0 || FInplaceCell != FCurrent) return;
+  const TLifeWatch self(this);
   try {
     FInplaceEdit->ValidateEdit();
   } catch (...) {
-    if (FInplaceCell == FCurrent) ClampInView(FCurrent);
+    if (self.IsAlive() && FInplaceCell == FCurrent) ClampInView(FCurrent);
     throw;
   }
 }

@@ -143,8 +143,9 @@ void TCustomGrid::MoveByTab(bool isBack, TGridCoord& cell) const {
 }
 
 void TCustomGrid::KeyPress(QChar& key) {
+  const TLifeWatch self(this);
   TCustomControl::KeyPress(key);
-  if (FOptions.Has(goAlwaysShowEditor) || key != u'\r') return;
+  if (!self.IsAlive() || FOptions.Has(goAlwaysShowEditor) || key != u'\r') return;
   if (FEditorMode) {
     SetEditorMode(false);
   } else {

@@ -21,15 +21,17 @@ int AfterMove(int index, int from, int to) {
 void TCustomGrid::SetColCount(int value) {
   value = std::max(value, 1);
   if (FCols.Count == value) return;
+  const TLifeWatch self(this);
   if (value <= FCols.Fixed) SetFixedCols(value - 1);
-  ChangeSize(value, FRows.Count);
+  if (self.IsAlive()) ChangeSize(value, FRows.Count);
 }
 
 void TCustomGrid::SetRowCount(int value) {
   value = std::max(value, 1);
   if (FRows.Count == value) return;
+  const TLifeWatch self(this);
   if (value <= FRows.Fixed) SetFixedRows(value - 1);
-  ChangeSize(FCols.Count, value);
+  if (self.IsAlive()) ChangeSize(FCols.Count, value);
 }
 
 void TCustomGrid::SetFixedCols(int value) {
@@ -38,8 +40,9 @@ void TCustomGrid::SetFixedCols(int value) {
   if (value >= FCols.Count) throw EInvalidGridOperation(SFixedColTooBig);
   FCols.Fixed = value;
   Initialize();
+  const TLifeWatch self(this);
   ScrollBarsNeedUpdate();
-  InvalidateGrid();
+  if (self.IsAlive()) InvalidateGrid();
 }
 
 void TCustomGrid::SetFixedRows(int value) {
@@ -48,8 +51,9 @@ void TCustomGrid::SetFixedRows(int value) {
   if (value >= FRows.Count) throw EInvalidGridOperation(SFixedRowTooBig);
   FRows.Fixed = value;
   Initialize();
+  const TLifeWatch self(this);
   ScrollBarsNeedUpdate();
-  InvalidateGrid();
+  if (self.IsAlive()) InvalidateGrid();
 }
 
 void TCustomGrid::ChangeSize(int newColCount, int newRowCount) {
@@ -143,9 +147,10 @@ void TCustomGrid::SetTabStops(int index, bool value) {
 void TCustomGrid::SetGridLineWidth(int value) {
   if (FGridLineWidth == value) return;
   FGridLineWidth = std::max(value, 0);
+  const TLifeWatch self(this);
   ScrollBarsNeedUpdate();
-  MoveEditor();
-  InvalidateGrid();
+  if (self.IsAlive()) MoveEditor();
+  if (self.IsAlive()) InvalidateGrid();
 }
 
 void TCustomGrid::MoveColumn(int fromIndex, int toIndex) {

@@ -1,5 +1,6 @@
 #include "kt/vcl/mask/MaskEdit.h"
 
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/mask/MaskErrors.h"
 #include "kt/vcl/mask/MaskLine.h"
@@ -104,11 +105,13 @@ void TCustomMaskEdit::ValidateError() {
 
 void TCustomMaskEdit::ValidateEdit() {
   if (!IsMasked() || !IsModified()) return;
+  const TLifeWatch self(this);
   const QString moved = ReflowMasked(FSyntax, WindowText());
   if (moved != WindowText()) ShowChanged(moved, CaretPlace(FSyntax.Size()), CaretPlace(FSyntax.Size()));
   int pos = 0;
-  if (Validate(WindowText(), pos)) return;
+  if (!self.IsAlive() || Validate(WindowText(), pos)) return;
   if (!HasState(csDesigning) && HandleAllocated() && CanFocus()) SetFocus();
+  if (!self.IsAlive()) throw EDBEditError(SMaskEditErr);
   SetSelStart(pos);
   ValidateError();
 }
@@ -128,8 +131,9 @@ void TCustomMaskEdit::CMEnter(TMessage& message) {
 }
 
 void TCustomMaskEdit::CMExit(TMessage& message) {
+  const TLifeWatch self(this);
   if (!HasState(csDesigning)) ValidateEdit();
-  TCustomEdit::CMExit(message);
+  if (self.IsAlive()) TCustomEdit::CMExit(message);
 }
 
 }  // namespace kt

@@ -174,8 +174,9 @@ bool TCustomMaskEdit::HandleCharacter(QChar character, TShiftState shift) {
   if (character == kUndo && !shift.Has(ssShift)) return TakeBack();
   if (character == kEscape) return Escape();
   if (character == u'\r') {
+    const TLifeWatch self(this);
     ValidateEdit();
-    return false;
+    return !self.IsAlive();
   }
   if (character == u'\b') {
     TMaskLine line = Line();

@@ -1,4 +1,5 @@
 // Selection, undo and clipboard of TCustomEdit.
+#include "kt/vcl/graphics/Presence.h"
 #include "kt/vcl/stdctrls/CustomEdit.h"
 #include "kt/vcl/stdctrls/EditWidget.h"
 
@@ -64,18 +65,18 @@ void TCustomEdit::ClearUndo() {
 // The clipboard.
 
 void TCustomEdit::CopyToClipboard() {
-  if (!qGuiApp || GetSelLength() == 0 || !FPasswordChar.isNull()) return;
+  if (!HasGui() || GetSelLength() == 0 || !FPasswordChar.isNull()) return;
   QGuiApplication::clipboard()->setText(GetSelText());
 }
 
 void TCustomEdit::CutToClipboard() {
-  if (!qGuiApp || GetSelLength() == 0 || FReadOnly || !FPasswordChar.isNull()) return;
+  if (!HasGui() || GetSelLength() == 0 || FReadOnly || !FPasswordChar.isNull()) return;
   CopyToClipboard();
   SetSelText({});
 }
 
 void TCustomEdit::PasteFromClipboard() {
-  if (qGuiApp && !FReadOnly) SetSelText(QGuiApplication::clipboard()->text());
+  if (HasGui() && !FReadOnly) SetSelText(QGuiApplication::clipboard()->text());
 }
 
 }  // namespace kt

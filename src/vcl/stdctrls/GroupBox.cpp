@@ -4,6 +4,7 @@
 #include "kt/vcl/controls/ControlBody.h"
 #include "kt/vcl/controls/ControlText.h"
 #include "kt/vcl/controls/Publish.h"
+#include "kt/vcl/graphics/Presence.h"
 #include "kt/vcl/graphics/QtColor.h"
 #include "kt/vcl/graphics/RealFont.h"
 
@@ -106,7 +107,7 @@ void TCustomGroupBox::SetParentBackground(bool value) {
 
 void TCustomGroupBox::AdjustClientRect(QRect& rect) {
   TCustomControl::AdjustClientRect(rect);
-  const bool canMeasure = qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
+  const bool canMeasure = HasWidgets();
   const int lineHeight = canMeasure ? TRealFont::Of(GetFont())->Height() : std::abs(GetFont().GetHeight());
   rect.adjust(kFrame, lineHeight + kFrame, -kFrame, -kFrame);
   if (!canMeasure) return;

@@ -5,6 +5,7 @@
 #include "kt/vcl/controls/ControlText.h"
 #include "kt/vcl/controls/Publish.h"
 #include "kt/vcl/graphics/DrawText.h"
+#include "kt/vcl/graphics/Presence.h"
 #include "kt/vcl/graphics/RealFont.h"
 
 #include <QGuiApplication>
@@ -96,7 +97,7 @@ QSize TCustomLabel::TextSize() {
 }
 
 void TCustomLabel::AdjustBounds() {
-  if (!FAutoSize || HasState(csReading) || !qGuiApp) return;
+  if (!FAutoSize || HasState(csReading) || !HasGui()) return;
   const QSize size = TextSize();
   const bool isRight = (FAlignment == taRightJustify) != (UseRightToLeftAlignment() && FAlignment != taCenter);
   SetBounds(isRight ? GetLeft() + GetWidth() - size.width() : GetLeft(), GetTop(), size.width(), size.height());

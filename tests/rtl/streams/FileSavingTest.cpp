@@ -6,11 +6,15 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <csignal>
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace kt {
 namespace {
@@ -60,6 +64,26 @@ TEST_F(FileSavingTest, AnEmptyFileIsSavedToo) {
   SaveBytesToFile(Path(), "old");
   SaveBytesToFile(Path(), QByteArray());
   EXPECT_EQ(QByteArray(), Content());
+}
+
+TEST_F(FileSavingTest, APipeIsWrittenToAndStaysAPipe) {
+  const QByteArray name = QFile::encodeName(Path());
+  ASSERT_EQ(0, mkfifo(name.constData(), 0600));
+  const int reader = open(name.constData(), O_RDONLY | O_NONBLOCK);
+  SaveBytesToFile(Path(), "abc");
+  char read[8] = {};
+  EXPECT_EQ(3, ::read(reader, read, sizeof(read)));
+  EXPECT_STREQ("abc", read);
+  close(reader);
+  struct stat now = {};
+  ASSERT_EQ(0, lstat(name.constData(), &now));
+  EXPECT_TRUE(S_ISFIFO(now.st_mode));
+}
+
+TEST_F(FileSavingTest, ALinkToADeviceStaysALink) {
+  ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), Path()));
+  EXPECT_THROW(SaveBytesToFile(Path(), "abc"), EWriteError);
+  EXPECT_TRUE(QFileInfo(Path()).isSymLink());
 }
 
 TEST_F(FileSavingTest, AFullDiskLeavesTheOldFileAndNothingElse) {

@@ -94,7 +94,32 @@ TEST_F(KtFormTest, CheckFindsWhatTheOtherFormatCannotHold) {
   Write("a.dfm", "object " + QByteArray(256, 'x') + ": TA\nend");
   const TRun run = Run({"check", "a.dfm"});
   EXPECT_EQ(1, run.Status);
-  EXPECT_TRUE(run.Errors.contains("x' is too long to be stored at offset 7"));
+  EXPECT_TRUE(run.Errors.contains("x' is too long to be stored on line 1, column 1"));
+  Write("b.dfm", "object A: TA\n  " + QByteArray(256, 'x') + " = 1\nend");
+  EXPECT_TRUE(Run({"to-binary", "b.dfm", "b.bin"}).Errors.contains("x' is too long to be stored on line 2, column 3"));
+}
+
+TEST_F(KtFormTest, ToTextTellsWhereTheNameStandsThatTextCannotHold) {
+  Write("a.bin", QByteArray("TPF0\x02TA\x01"
+                            "A\x03"
+                            "B-1\x02\x05\0\0",
+                            17));
+  const TRun run = Run({"to-text", "a.bin", "a.dfm"});
+  EXPECT_EQ(1, run.Status);
+  EXPECT_EQ("a.bin: error: The name 'B-1' cannot be written as text at offset 13 (A.B-1)\n", run.Errors);
+}
+
+TEST_F(KtFormTest, AMessageStaysShortWhateverTheFileHolds) {
+  Write("a.dfm", "object A: TA\n  B = " + QByteArray(1000000, '1') + "\nend");
+  Write("b.dfm", "object A" + QByteArray(1000000, 'b') + ": TA\nend");
+  EXPECT_LT(Run({"to-binary", "a.dfm", "a.bin"}).Errors.size(), 200);
+  EXPECT_LT(Run({"to-binary", "b.dfm", "b.bin"}).Errors.size(), 200);
+}
+
+TEST_F(KtFormTest, AMarkOfTheEndBehindTheFormIsNoFault) {
+  Write("a.dfm", "object A: TA\nend\r\n\x1A");
+  EXPECT_EQ(0, Run({"to-text", "a.dfm", "b.dfm"}).Status);
+  EXPECT_EQ("object A: TA\nend\n", Content("b.dfm"));
 }
 
 TEST_F(KtFormTest, CheckTellsAFolderAnEmptyFileAndWhatIsNotThere) {

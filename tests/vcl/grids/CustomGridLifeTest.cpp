@@ -83,5 +83,57 @@ TEST_F(CustomGridLifeTest, OnKeyDownMayFreeTheGrid) {
   EXPECT_EQ(FGrid, nullptr);
 }
 
+TEST_F(CustomGridLifeTest, OnKeyPressMayFreeTheGrid) {
+  FGrid->OnKeyPress = [this](TObject*, QChar&) { FGrid.reset(); };
+  TWindowProbe::Key(Qt::Key_Return);
+  EXPECT_EQ(FGrid, nullptr);
+}
+
+TEST_F(CustomGridLifeTest, OnKeyPressMayFreeTheGridBelowItsEditor) {
+  FGrid->SetOptions(FGrid->GetOptions() + TGridOptions{goEditing});
+  TWindowProbe::Key(Qt::Key_F2);
+  FGrid->OnKeyPress = [this](TObject*, QChar&) { FGrid.reset(); };
+  TWindowProbe::Key(Qt::Key_Escape);
+  EXPECT_EQ(FGrid, nullptr);
+}
+
+TEST_F(CustomGridLifeTest, OnSetEditTextMayFreeTheGridWhoseMaskFillsFromTheRight) {
+  FGrid->SetOptions(FGrid->GetOptions() + TGridOptions{goEditing});
+  FGrid->OnGetEditMask = [](TObject*, int, int, QString& mask) { mask = QStringLiteral("!9999;1;_"); };
+  TWindowProbe::Key(Qt::Key_F2);
+  TWindowProbe::Key(Qt::Key_7);
+  int calls = 0;
+  FGrid->OnSetEditText = [&](TObject*, int, int, const QString&) {
+    if (calls++ == 0) FGrid.reset();
+  };
+  TWindowProbe::Key(Qt::Key_Down);
+  EXPECT_EQ(FGrid, nullptr);
+}
+
+/// What brings or takes a scroll bar, and so raises OnResize.
+struct TBarChange {
+  const char* Name;
+  void (*Change)(TDrawGrid& grid);
+};
+
+class CustomGridBarLifeTest : public CustomGridLifeTest, public testing::WithParamInterface<TBarChange> {};
+
+TEST_P(CustomGridBarLifeTest, OnResizeMayFreeTheGrid) {
+  FGrid->OnResize = Freeing();
+  GetParam().Change(*FGrid);
+  if (FGrid) FGrid->OnResize = nullptr;
+}
+
+INSTANTIATE_TEST_SUITE_P(Changes, CustomGridBarLifeTest,
+                         testing::Values(TBarChange{"RowCount", [](TDrawGrid& grid) { grid.SetRowCount(1); }},
+                                         TBarChange{"ColCount", [](TDrawGrid& grid) { grid.SetColCount(50); }},
+                                         TBarChange{"FixedCols", [](TDrawGrid& grid) { grid.SetFixedCols(4); }},
+                                         TBarChange{"FixedRows", [](TDrawGrid& grid) { grid.SetFixedRows(99); }},
+                                         TBarChange{"Lines", [](TDrawGrid& grid) { grid.SetGridLineWidth(20); }},
+                                         TBarChange{"Border", [](TDrawGrid& grid) { grid.SetBorderStyle(bsNone); }},
+                                         TBarChange{"Direction",
+                                                    [](TDrawGrid& grid) { grid.SetBiDiMode(bdRightToLeft); }}),
+                         [](const auto& test) { return std::string(test.param.Name); });
+
 }  // namespace
 }  // namespace kt

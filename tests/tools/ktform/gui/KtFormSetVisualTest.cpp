@@ -9,6 +9,7 @@ using ktform::tests::TRun;
 
 constexpr char kVisualForm[] = R"(object Form1: TForm1
   Left = 12
+  Visible = True
   object Editor1: TKTItemListEditor
     Left = 8
     Foreign = 5
@@ -26,6 +27,10 @@ constexpr char kVisualForm[] = R"(object Form1: TForm1
   end
   object Inspector1: TKTObjectInspector
     Left = 40
+  end
+  object Label1: TLabel
+    Left = 4
+    Caption = 'Name'
   end
 end
 )";
@@ -52,6 +57,7 @@ INSTANTIATE_TEST_SUITE_P(
     Values, KtFormSetVisualTest,
     ::testing::Values(
         TEdit{"Left=13", "Left = 12", "Left = 13"}, TEdit{"Editor1.Left=9", "Left = 8", "Left = 9"},
+        TEdit{"Label1.Caption=Other", "'Name'", "'Other'"}, TEdit{"Visible=False", "Visible = True", "Visible = False"},
         TEdit{"Editor1.Items[1].Name=c", "'b'", "'c'"}, TEdit{"Editor1.Foreign=6", "Foreign = 5", "Foreign = 6"},
         TEdit{"Grid1.ColCount=3", "ColCount = 4", "ColCount = 3"}, TEdit{"Grid1.Color=$FF0000", "clRed", "clBlue"},
         // The form has none of these: the class knows them.
