@@ -14,7 +14,7 @@ namespace {
 
 using tests::InThreads;
 
-char Letters[] = "abc";
+char ThreadLetters[] = "abc";
 
 std::string Shown(TThreadList& threadList) {
   const TThreadListLock list(threadList);
@@ -40,12 +40,12 @@ TEST(ThreadListTest, IsAClassDirectlyBelowTheRoot) {
 
 TEST(ThreadListTest, AddsRemovesAndClears) {
   auto list = Make<TThreadListOf<char>>();
-  list->Add(&Letters[0]);
-  list->Add(&Letters[1]);
-  list->Add(&Letters[2]);
-  list->Remove(&Letters[1]);
+  list->Add(&ThreadLetters[0]);
+  list->Add(&ThreadLetters[1]);
+  list->Add(&ThreadLetters[2]);
+  list->Remove(&ThreadLetters[1]);
   EXPECT_EQ("ac", Shown(*list));
-  list->Remove(&Letters[1]);
+  list->Remove(&ThreadLetters[1]);
   EXPECT_EQ("ac", Shown(*list));
   list->Clear();
   EXPECT_EQ("", Shown(*list));
@@ -54,16 +54,16 @@ TEST(ThreadListTest, AddsRemovesAndClears) {
 TEST(ThreadListTest, LeavesOutDuplicatesByDefault) {
   auto list = Make<TThreadList>();
   EXPECT_EQ(dupIgnore, list->GetDuplicates());
-  list->Add(&Letters[0]);
-  list->Add(&Letters[0]);
+  list->Add(&ThreadLetters[0]);
+  list->Add(&ThreadLetters[0]);
   EXPECT_EQ("a", Shown(*list));
 }
 
 TEST(ThreadListTest, AcceptsDuplicates) {
   auto list = Make<TThreadList>();
   list->SetDuplicates(dupAccept);
-  list->Add(&Letters[0]);
-  list->Add(&Letters[0]);
+  list->Add(&ThreadLetters[0]);
+  list->Add(&ThreadLetters[0]);
   EXPECT_EQ("aa", Shown(*list));
 }
 
@@ -71,8 +71,8 @@ TEST(ThreadListTest, AcceptsDuplicates) {
 TEST(ThreadListTest, RefusesDuplicatesWithTheTextOfStringLists) {
   auto list = Make<TThreadList>();
   list->SetDuplicates(dupError);
-  list->Add(&Letters[0]);
-  EXPECT_EQ("String list does not allow duplicates", ErrorOfAdding(*list, &Letters[0]));
+  list->Add(&ThreadLetters[0]);
+  EXPECT_EQ("String list does not allow duplicates", ErrorOfAdding(*list, &ThreadLetters[0]));
   EXPECT_EQ("a", Shown(*list));
   InThreads(1, [&list](int) { EXPECT_EQ("a", Shown(*list)) << "the lock must be free after the error"; });
 }
@@ -80,13 +80,13 @@ TEST(ThreadListTest, RefusesDuplicatesWithTheTextOfStringLists) {
 TEST(ThreadListTest, OneThreadMayLockSeveralTimes) {
   auto list = Make<TThreadList>();
   TList& outer = list->LockList();
-  list->Add(&Letters[0]);
+  list->Add(&ThreadLetters[0]);
   TList& inner = list->LockList();
   EXPECT_EQ(&outer, &inner);
   EXPECT_EQ(1, inner.GetCount());
   list->UnlockList();
   list->UnlockList();
-  InThreads(1, [&list](int) { list->Add(&Letters[1]); });
+  InThreads(1, [&list](int) { list->Add(&ThreadLetters[1]); });
   EXPECT_EQ("ab", Shown(*list));
 }
 

@@ -12,8 +12,8 @@
 namespace kt {
 namespace {
 
-constexpr qint64 MinInt64 = std::numeric_limits<qint64>::min();
-constexpr qint64 MaxInt64 = std::numeric_limits<qint64>::max();
+constexpr qint64 LeastInt64 = std::numeric_limits<qint64>::min();
+constexpr qint64 GreatestInt64 = std::numeric_limits<qint64>::max();
 constexpr quint64 MaxUInt64 = std::numeric_limits<quint64>::max();
 
 QString CastError(const Variant& v, TVarType type) {
@@ -38,7 +38,7 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(TToText{Variant(), ""}, TToText{Variant::Null(), ""}, TToText{true, "True"},
                       TToText{false, "False"}, TToText{qint8{-128}, "-128"}, TToText{quint8{255}, "255"},
                       TToText{qint16{-32768}, "-32768"}, TToText{quint16{65535}, "65535"}, TToText{-5, "-5"},
-                      TToText{4294967295U, "4294967295"}, TToText{MinInt64, "-9223372036854775808"},
+                      TToText{4294967295U, "4294967295"}, TToText{LeastInt64, "-9223372036854775808"},
                       TToText{MaxUInt64, "18446744073709551615"}, TToText{0.1F, "0.1"}, TToText{0.1, "0.1"},
                       TToText{1e20, "1E20"}, TToText{Currency::FromScaled(12345), "1.2345"},
                       TToText{VarFromDateTime(2.5), "1900-01-01 12:00:00"}, TToText{VarFromDateTime(2), "1900-01-01"},
@@ -75,10 +75,10 @@ INSTANTIATE_TEST_SUITE_P(
                       TToInteger{Currency(2.5), 2}, TToInteger{Currency(3.5), 4}, TToInteger{Currency(-2.5), -2},
                       TToInteger{Currency(-2.5001), -3}, TToInteger{Currency(-1), -1}, TToInteger{"5", 5},
                       TToInteger{" 5 ", 5}, TToInteger{"2.5", 2}, TToInteger{"3.5", 4}, TToInteger{"$1F", 31},
-                      TToInteger{"1e3", 1000}, TToInteger{"9223372036854775807", MaxInt64},
+                      TToInteger{"1e3", 1000}, TToInteger{"9223372036854775807", GreatestInt64},
                       TToInteger{VarFromDateTime(2.75), 3}, TToInteger{quint64{7}, 7},
-                      TToInteger{4294967295U, 4294967295}, TToInteger{MinInt64, MinInt64},
-                      TToInteger{-0x1p63, MinInt64}, TToInteger{Variant::FromOleStr(QStringLiteral("8")), 8}));
+                      TToInteger{4294967295U, 4294967295}, TToInteger{LeastInt64, LeastInt64},
+                      TToInteger{-0x1p63, LeastInt64}, TToInteger{Variant::FromOleStr(QStringLiteral("8")), 8}));
 
 class VariantConvertNoNumberTest : public ::testing::TestWithParam<const char*> {};
 
@@ -132,7 +132,7 @@ INSTANTIATE_TEST_SUITE_P(VariantConvertTest, VariantConvertOverflowTest,
                                            TTooLarge{"99999999999", varInteger, "(String) into type (Integer)"},
                                            TTooLarge{1e300, varSingle, "(Double) into type (Single)"},
                                            TTooLarge{1e15, varCurrency, "(Double) into type (Currency)"},
-                                           TTooLarge{MaxInt64, varCurrency, "(Int64) into type (Currency)"}));
+                                           TTooLarge{GreatestInt64, varCurrency, "(Int64) into type (Currency)"}));
 
 TEST(VariantConvertTest, TheBoundsOfEachWidthFit) {
   EXPECT_EQ(varShortInt, Variant(-128).AsType(varShortInt).VarType());
@@ -174,7 +174,7 @@ TEST(VariantConvertTest, ADateComesFromItsTextAndFromNumbers) {
 }
 
 TEST(VariantConvertTest, AnAmountIsExactFromTextsIntegersAndAmounts) {
-  EXPECT_EQ(MaxInt64, Variant("922337203685477.5807").ToCurrency().Scaled());
+  EXPECT_EQ(GreatestInt64, Variant("922337203685477.5807").ToCurrency().Scaled());
   EXPECT_EQ(9223372036854770000, Variant(qint64{922337203685477}).ToCurrency().Scaled());
   EXPECT_EQ(12345, Variant(Currency::FromScaled(12345)).ToCurrency().Scaled());
   EXPECT_EQ(15000, Variant(1.5).ToCurrency().Scaled());

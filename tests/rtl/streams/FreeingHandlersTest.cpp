@@ -121,7 +121,7 @@ const TClassInfo* TMortal::Class() {
   return &info;
 }
 
-constexpr char kForm[] = R"(object Root: TMortal
+constexpr char kFormThatFrees[] = R"(object Root: TMortal
   object Parent: TMortal
     object Before: TMortal
     end
@@ -174,7 +174,7 @@ void ListenTo(TReader& reader) {
 
 /// "loaded", or the error with its offset as N.
 QString Outcome(TComponent* root) {
-  TReader reader(BinaryOf(kForm));
+  TReader reader(BinaryOf(kFormThatFrees));
   ListenTo(reader);
   try {
     reader.ReadRootComponent(root);

@@ -34,10 +34,10 @@ class ReaderHooksTest : public ::testing::Test {
   ~ReaderHooksTest() override { UnRegisterClass(TSample::Class()); }
 };
 
-constexpr char kForm[] = "object A: TSample\n  object B: TSample\n  end\nend\n";
+constexpr char kFormOfHooks[] = "object A: TSample\n  object B: TSample\n  end\nend\n";
 
 TEST_F(ReaderHooksTest, TheApplicationIsAskedForEveryClass) {
-  TReader reader(BinaryOf(kForm));
+  TReader reader(BinaryOf(kFormOfHooks));
   QStringList asked;
   reader.OnFindComponentClass = [&asked](const QString& name) -> const TClassInfo* {
     asked.append(name);
@@ -48,7 +48,7 @@ TEST_F(ReaderHooksTest, TheApplicationIsAskedForEveryClass) {
 }
 
 TEST_F(ReaderHooksTest, TheApplicationMayReplaceARegisteredClass) {
-  TReader reader(BinaryOf(kForm));
+  TReader reader(BinaryOf(kFormOfHooks));
   reader.OnFindComponentClass = [](const QString&) { return TBetterSample::Class(); };
   EXPECT_EQ(TBetterSample::Class(), reader.ReadRoot<TSample>()->ClassType());
 }

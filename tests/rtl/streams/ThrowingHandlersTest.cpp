@@ -178,7 +178,7 @@ const TClassInfo* TBrittle::Class() {
   return &info;
 }
 
-constexpr char kForm[] = R"(object Form1: TBrittle
+constexpr char kFormThatThrows[] = R"(object Form1: TBrittle
   Number = 1
   Partner = Second
   Items = <
@@ -247,7 +247,7 @@ void ListenTo(TReader& reader) {
   reader.OnSetName = [](TComponent*, QString&) { CallOut("OnSetName"); };
 }
 
-std::unique_ptr<TComponent> Load(const char* text = kForm) {
+std::unique_ptr<TComponent> Load(const char* text = kFormThatThrows) {
   TReader reader(BinaryOf(text));
   ListenTo(reader);
   return std::unique_ptr<TComponent>(reader.ReadRootComponent(nullptr));
@@ -310,7 +310,7 @@ TEST_P(ThrowingHandlersTest, AnExistingRootStaysAsItIsWhenALoadThrows) {
       ThrowAtEachCallOut(
           GetParam(),
           [&root] {
-            TReader reader(BinaryOf(kForm));
+            TReader reader(BinaryOf(kFormThatThrows));
             ListenTo(reader);
             reader.ReadRootComponent(root.get());
           },
