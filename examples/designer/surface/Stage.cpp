@@ -1,5 +1,6 @@
 #include "designer/surface/Stage.h"
 
+#include "designer/surface/Grid.h"
 #include "designer/surface/Surface.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
 
@@ -72,7 +73,9 @@ void TStage::Refresh() {
   TakeForm();
   Quiet();
   const TCustomForm& form = FSession.Form();
-  FInside->setGeometry(kMargin + kBorder, kMargin + kBorder + CaptionHeight(), form.GetWidth(), form.GetHeight());
+  // A file may say any size.
+  const QSize shown = QSize(form.GetWidth(), form.GetHeight()).boundedTo(QSize(kLargestSize, kLargestSize));
+  FInside->setGeometry(QRect(QPoint(kMargin + kBorder, kMargin + kBorder + CaptionHeight()), shown));
   const QSize needed(FrameRect().right() + 1 + kMargin, FrameRect().bottom() + 1 + kMargin);
   if (minimumSize() != needed) setMinimumSize(needed);
   if (!parentWidget()) resize(needed);

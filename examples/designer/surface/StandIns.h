@@ -16,5 +16,10 @@ bool IsOnStandIn(const kt::TComponent& component);
 /// Where the file places the component on what is around it; the size is empty where the file says none. Nothing when
 /// it says no place.
 std::optional<QRect> StandInBounds(const kt::TComponent& component);
+/// Changes what the file says of the place, or the size, of one that has a place there.
+void SetStandInPlace(kt::TComponent& component, QPoint place);
+void SetStandInSize(kt::TComponent& component, QSize size);
+/// Whether the file has it keep to a side of what is around it.
+bool IsStandInAligned(const kt::TComponent& component);
 
 }  // namespace designer

@@ -81,6 +81,20 @@ TEST_F(DesignInspectorTest, EveryObjectGetsAWidth) {
   EXPECT_EQ(UndoText(), "Change Width");
 }
 
+TEST_F(DesignInspectorTest, ASizeThatNoScreenShowsIsToldAndLeavesTheOldOne) {
+  Select("SmallForm");
+  TypeInto("ClientWidth", "99999999");
+  EXPECT_EQ(TakeTold(), "\"99999999\" is not a valid Integer value: ClientWidth must be from -32767 to 32767");
+  EXPECT_EQ(Bounds("SmallForm"), "40 30 300 200");
+  EXPECT_FALSE(Document().IsModified());
+}
+
+TEST_F(DesignInspectorTest, NeitherDoesAConstraintForceOne) {
+  Select("Button1");
+  EXPECT_THROW(Write("Constraints.MinWidth", "99999999"), kt::Exception);
+  EXPECT_EQ(Bounds("Button1"), "16 16 75 25");
+}
+
 TEST_F(DesignInspectorTest, SeveralObjectsHaveNoNameInCommon) {
   SelectBoth();
   EXPECT_FALSE(Rows().split(u' ').contains("Name"));
@@ -228,7 +242,7 @@ TEST_F(DesignInspectorTest, TheTitleIsNobodysWhenSeveralAreInspected) {
 TEST_F(DesignInspectorTest, MovingOnTheFormShowsInTheInspector) {
   Select("Button1");
   Surface().setFocus();
-  Key(Qt::Key_Right, Qt::ControlModifier);
+  Key(Qt::Key_Right);
   EXPECT_EQ(Value("Left"), "17");
 }
 

@@ -1,4 +1,6 @@
 #include "DesignerFixture.h"
+#include "designer/surface/Drag.h"
+#include "designer/surface/Grid.h"
 #include "designer/surface/StandIns.h"
 
 namespace designer::tests {
@@ -7,7 +9,7 @@ namespace {
 class StandInsTest : public TDesignerTest {
  protected:
   StandInsTest() {
-    EXPECT_TRUE(FWindow->Open(FileWith("unknown.dfm",
+    FFile = FileWith("unknown.dfm",
                                        "object Form1: TForm1\n"
                                        "  ClientHeight = 200\n"
                                        "  ClientWidth = 400\n"
@@ -27,7 +29,9 @@ class StandInsTest : public TDesignerTest {
                                        "  end\n"
                                        "  object Nowhere: TNobodysThing\n"
                                        "  end\n"
-                                       "end\n")));
+                                       "end\n");
+    EXPECT_TRUE(FWindow->Open(FFile));
+    Surface().setFocus();
     Settle();
   }
 };
@@ -51,9 +55,73 @@ TEST_F(StandInsTest, HaveNoIconsForTheirParts) {
   EXPECT_FALSE(Surface().Places().IsShown(Component("Item")));
 }
 
-TEST_F(StandInsTest, StayWhereTheyAre) {
+TEST_F(StandInsTest, AreMovedByADrag) {
   Drag(OnForm(200, 50), OnForm(240, 90));
+  EXPECT_EQ(StandInBounds(Component("Box")), QRect(64, 48, 300, 100));
+  EXPECT_EQ(UndoText(), "Move Box");
+  EXPECT_EQ(QString::fromUtf8(Document().FileBytes()),
+            ContentOf(FFile).replace("Left = 20", "Left = 64").replace("Top = 10", "Top = 48"));
+}
+
+TEST_F(StandInsTest, AreMovedByKeysWithWhatIsOnThem) {
+  Session().Select({&Component("Box"), &Component("Inner")});
+  Key(Qt::Key_Right);
+  EXPECT_EQ(StandInBounds(Component("Box")), QRect(21, 10, 300, 100));
+  EXPECT_EQ(RectOf("Inner").topLeft(), OnForm(26, 16));
+}
+
+TEST_F(StandInsTest, AreSizedByAHandle) {
+  Select("Box");
+  const QPoint corner = HandleRect(RectOf("Box"), kHandles[4]).center();
+  Drag(corner, corner + QPoint(30, 20));
+  EXPECT_EQ(StandInBounds(Component("Box")), QRect(20, 10, 332, 118));
+  EXPECT_EQ(UndoText(), "Size Box");
+}
+
+TEST_F(StandInsTest, SizedByKeysSayASizeThatTheFileLeftToTheClass) {
+  Select("Inner");
+  Key(Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_EQ(StandInBounds(Component("Inner")), QRect(5, 6, 29, 28));
+  EXPECT_EQ(QString::fromUtf8(Document().FileBytes()),
+            ContentOf(FFile).replace("      Top = 6\n", "      Top = 6\n      Width = 29\n      Height = 28\n"));
+}
+
+TEST_F(StandInsTest, MovesAreUndone) {
+  Select("Box");
+  Key(Qt::Key_Down);
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(StandInBounds(Component("Box")), QRect(20, 10, 300, 100));
+  EXPECT_EQ(QString::fromUtf8(Document().FileBytes()), ContentOf(FFile));
+}
+
+TEST_F(StandInsTest, StayAtTheSideThatTheFileHasThemKeepTo) {
+  FFile = FileWith("aligned.dfm",
+                   "object Form1: TForm1\n"
+                   "  object Bar: TNobodysBar\n"
+                   "    Left = 0\n"
+                   "    Top = 0\n"
+                   "    Width = 100\n"
+                   "    Height = 30\n"
+                   "    Align = alTop\n"
+                   "  end\n"
+                   "end\n");
+  EXPECT_TRUE(FWindow->Open(FFile));
+  Select("Bar");
+  Key(Qt::Key_Down);
+  Key(Qt::Key_Down, Qt::ShiftModifier);
   EXPECT_FALSE(Document().IsModified());
+  EXPECT_FALSE(CanDrag(Component("Bar"), kHandles[4]));
+}
+
+TEST_F(StandInsTest, HaveNoPlaceWhereTheFileSaysATextForIt) {
+  EXPECT_TRUE(FWindow->Open(FileWith("text.dfm",
+                                     "object Form1: TForm1\n"
+                                     "  object Odd: TNobodysBar\n"
+                                     "    Left = ''\n"
+                                     "    Top = 0\n"
+                                     "  end\n"
+                                     "end\n")));
+  EXPECT_EQ(StandInBounds(Component("Odd")), std::nullopt);
 }
 
 TEST_F(StandInsTest, AreCalledByTheirClass) {
