@@ -99,7 +99,7 @@ class TFormDocument {
   /// it has that.
   bool Revert();
   /// Takes the live form for what was last read or committed, whatever it writes: once it has its windows, edits are as
-  /// high as their font, and nobody has changed anything. To be called when it has just been shown.
+  /// high as their font, and nobody has changed anything. To be called when it has just been shown or looked at.
   void Settle();
   /// What was not committed is lost.
   void Undo();

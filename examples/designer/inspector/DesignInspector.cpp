@@ -56,6 +56,7 @@ void TDesignInspector::Inspect(const std::vector<TObject*>& objects) {
 
 void TDesignInspector::SetProperty(TKTItemProperty* item) {
   const TLifeWatch self(this);
+  if (OnWriting) OnWriting();
   const QString name = item->GetPropertyKind() == pkSetMember && item->GetParent()
                            ? item->GetParent()->GetName() + u'.' + item->GetName()
                            : item->GetName();

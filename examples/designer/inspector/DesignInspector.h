@@ -11,6 +11,8 @@ namespace designer {
 /// row that has the keyboard always shows its editor, as nothing else tells which one that is.
 class TDesignInspector : public kt::TKTObjectInspector {
  public:
+  /// A property is about to be written.
+  std::function<void()> OnWriting;
   /// A property was written; its name.
   std::function<void(const QString& name)> OnWritten;
   /// Something else has changed by way of a row; what, as a step is called.

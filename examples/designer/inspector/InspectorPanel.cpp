@@ -33,6 +33,8 @@ TInspectorPanel::TInspectorPanel(TSession& session, QWidget* parent)
   AddItemsButton(*FInspector);
   AddPictureButton(*FInspector, [this] { return OnAskPicture ? OnAskPicture() : QString(); });
   FInspector->SetDropDownRows(14);
+  // What the rows had to look at is no part of the step.
+  FInspector->OnWriting = [this] { FSession.Document().Settle(); };
   FInspector->OnEdited = [this](const QString& step) { FSession.Edited(step); };
   FInspector->OnWritten = [this](const QString& name) { Written(name); };
   // Later: what failed is still being handled by the item that would go.

@@ -22,7 +22,7 @@ void SetBoundsOf(TComponent& component, const QRect& bounds) {
   const std::optional<QRect> before = BoundsOf(component);
   Q_ASSERT(before);
   SetStandInPlace(component, bounds.topLeft());
-  // What the file leaves to the class stays so until somebody sizes it.
+  // One without a size in the file is as large as an icon.
   if (bounds.size() != before->size()) SetStandInSize(component, bounds.size());
 }
 

@@ -95,8 +95,14 @@ THandle FreeSides(TControl& control) {
 
 THandle FreeSides(TComponent& component) {
   if (auto* control = dynamic_cast<TControl*>(&component)) return FreeSides(*control);
-  const bool isFree = BoundsOf(component) && !IsStandInAligned(component);
+  const bool isFree = IsStandInSized(component) && !IsStandInAligned(component);
   return {isFree, isFree, isFree, isFree};
+}
+
+/// By keys, which also size what keeps to a side where that is of use.
+bool IsSizable(TComponent& component) {
+  if (IsStandIn(component)) return FreeSides(component).MovesRight;
+  return !dynamic_cast<TTabSheet*>(&component);
 }
 
 }  // namespace
@@ -115,7 +121,7 @@ void SizeSelected(TSession& session, QSize by) {
   std::vector<TComponent*> sized;
   for (TComponent* component : session.Selected()) {
     const std::optional<QRect> bounds = BoundsOf(*component);
-    if (!bounds || IsStandInAligned(*component)) continue;
+    if (!bounds || !IsSizable(*component)) continue;
     SetBoundsOf(*component, QRect(bounds->topLeft(), (bounds->size() + by).expandedTo(QSize(0, 0))));
     sized.push_back(component);
   }

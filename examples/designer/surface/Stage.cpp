@@ -7,6 +7,8 @@
 #include <QEvent>
 #include <QPainter>
 
+#include <utility>
+
 namespace designer {
 
 using namespace kt;
@@ -65,6 +67,8 @@ TStage::TStage(TSession& session)
 }
 
 void TStage::Heard(TNews news) {
+  // What the inspector looks at may fill in what it has not had.
+  if (news == nwSelection) SettleLater();
   // The form's widget goes with the form.
   if (news == nwForm || news == nwEdited) GuardedCall([this] { Refresh(); });
 }
@@ -92,18 +96,24 @@ void TStage::TakeForm() {
   body->setParent(FInside);
   body->move(0, 0);
   body->show();
+  FIsPainted = false;
   Settle();
   // And again when layouts are done.
-  QMetaObject::invokeMethod(this, &TStage::Settle, Qt::QueuedConnection);
+  SettleLater();
 }
 
-/// What windows bring about is no edit.
+void TStage::SettleLater() { QMetaObject::invokeMethod(this, &TStage::Settle, Qt::QueuedConnection); }
+
+/// What windows bring about is no edit, nor what comes of looking; but what is in the middle of being dragged is one.
 void TStage::Settle() {
+  if (FSurface->IsDragging()) return;
   GuardedCall([this] { FSession.Document().Settle(); });
 }
 
-/// A form would take over the place of its widget as its own.
+/// A form would take over the place of its widget as its own. When it is painted for the first time, its controls may
+/// fill in what they have not had.
 bool TStage::eventFilter(QObject* object, QEvent* event) {
+  if (object == FBody && event->type() == QEvent::Paint && !std::exchange(FIsPainted, true)) SettleLater();
   const bool tellsPlace = event->type() == QEvent::Move || event->type() == QEvent::Resize;
   return object == FBody && tellsPlace;
 }
@@ -154,7 +164,8 @@ void TStage::PaintCaption(QPainter& painter, const QRect& place) {
   painter.setFont(bold);
   painter.setPen(text);
   const QString caption = painter.fontMetrics().elidedText(form.GetCaption(), Qt::ElideRight, rest.width());
-  painter.drawText(rest, Qt::AlignVCenter | Qt::AlignLeft, caption);
+  // On the left whichever way the designer reads, as the form stands that way, too.
+  painter.drawText(rest, Qt::AlignVCenter | Qt::AlignLeft | Qt::AlignAbsolute, caption);
 }
 
 void TStage::resizeEvent(QResizeEvent*) { FSurface->setGeometry(rect()); }

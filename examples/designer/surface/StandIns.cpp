@@ -7,7 +7,6 @@
 #include <QtEndian>
 
 #include <algorithm>
-#include <iterator>
 
 namespace designer {
 
@@ -49,15 +48,10 @@ std::optional<int> NumberOf(const TKeptData& kept, QStringView name) {
   return found == kept.Properties.end() ? std::nullopt : NumberIn(found->Value);
 }
 
-/// One that the file does not say comes behind the property `before`.
-void SetNumber(TKeptData& kept, QStringView name, int number, QStringView before) {
+/// Of what the file says.
+void SetNumber(TKeptData& kept, QStringView name, int number) {
   const auto found = FindKept(kept, name);
-  if (found == kept.Properties.end()) {
-    const auto behind = std::next(FindKept(kept, before));
-    kept.Properties.insert(behind, {name.toString(), ValueOf(number)});
-  } else if (NumberIn(found->Value) != number) {
-    found->Value = ValueOf(number);
-  }
+  if (found != kept.Properties.end() && NumberIn(found->Value) != number) found->Value = ValueOf(number);
 }
 
 }  // namespace
@@ -81,14 +75,19 @@ std::optional<QRect> StandInBounds(const TComponent& component) {
 
 void SetStandInPlace(TComponent& component, QPoint place) {
   TKeptData& kept = EnsureKeptData(&component);
-  SetNumber(kept, u"Left", place.x(), u"Left");
-  SetNumber(kept, u"Top", place.y(), u"Top");
+  SetNumber(kept, u"Left", place.x());
+  SetNumber(kept, u"Top", place.y());
 }
 
 void SetStandInSize(TComponent& component, QSize size) {
   TKeptData& kept = EnsureKeptData(&component);
-  SetNumber(kept, u"Width", std::max(size.width(), 0), u"Top");
-  SetNumber(kept, u"Height", std::max(size.height(), 0), u"Width");
+  SetNumber(kept, u"Width", std::max(size.width(), 0));
+  SetNumber(kept, u"Height", std::max(size.height(), 0));
+}
+
+bool IsStandInSized(const TComponent& component) {
+  const std::optional<QRect> bounds = StandInBounds(component);
+  return bounds && !bounds->isEmpty();
 }
 
 bool IsStandInAligned(const TComponent& component) {

@@ -33,6 +33,7 @@ class TSurface : public QWidget {
   const kt::TClassInfo* Tool() const { return FTool; }
   /// Takes back what the mouse is in the middle of; false when there is nothing.
   bool CancelDrag();
+  bool IsDragging() const { return FDrag != nullptr; }
   /// The tool was used, or laid aside.
   std::function<void()> OnToolDone;
   /// The Return key.

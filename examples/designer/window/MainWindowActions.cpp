@@ -199,7 +199,7 @@ void TMainWindow::ShowKeys() {
           "<p><b>Object inspector</b></p><table cellspacing=\"4\">"
           "<tr><td>Alt+Right, Alt+Left</td><td>expand, collapse</td></tr>"
           "<tr><td>Alt+Down</td><td>open the list of values</td></tr>"
-          "<tr><td>Ctrl+E</td><td>what the button of the row does</td></tr>"
+          "<tr><td>Alt+Return</td><td>what the button of the row does</td></tr>"
           "<tr><td>Return, Escape</td><td>accept, take back</td></tr></table>"
           "<p><b>Anywhere</b></p><table cellspacing=\"4\">"
           "<tr><td>F6, Shift+F6</td><td>next, previous pane</td></tr>"

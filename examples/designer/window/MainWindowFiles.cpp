@@ -28,6 +28,8 @@ bool TMainWindow::Try(const std::function<void()>& call) {
 bool TMainWindow::FinishEdits() {
   return Try([this] {
     Surface().CancelDrag();
+    // What the form's windows have brought about is no edit.
+    FSession.Document().Settle();
     FPanel->Inspector().Validate();
   });
 }

@@ -29,7 +29,7 @@ void TMainWindow::BuildComponentMenu() {
   menu->addAction(Add({"newAction", QStringLiteral("New &action"), insert, [this] { NewPart(*TAction::Class()); }, true}));
   menu->addSeparator();
   menu->addAction(
-      Add({"editValue", QStringLiteral("&Edit value of the row..."), QKeySequence(QStringLiteral("Ctrl+E")), [this] {
+      Add({"editValue", QStringLiteral("&Edit value of the row..."), QKeySequence(QStringLiteral("Alt+Return")), [this] {
              if (FinishEdits()) FPanel->EditSelected();
            }}));
   menu->addAction(Add({"clearPicture", QStringLiteral("&Clear picture"), {}, [this] { ClearPicture(); }}));

@@ -48,7 +48,7 @@ class ItemsWindowTest : public TDesignerTest {
       if (wasThere) act(*window);
       if (window) QTest::keyClick(window, Qt::Key_Escape);
     });
-    Key(Qt::Key_E, Qt::ControlModifier);
+    Key(Qt::Key_Return, Qt::AltModifier);
     EXPECT_TRUE(wasThere);
     // As a desktop does when a dialog has gone.
     QApplication::setActiveWindow(FWindow.get());

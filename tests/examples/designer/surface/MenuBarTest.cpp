@@ -73,6 +73,12 @@ TEST_F(MenuBarTest, ASelectedItemHasItsFrameAroundTheEntry) {
   EXPECT_FALSE(Surface().Places().IsShown(Component("OpenItem")));
 }
 
+TEST_F(MenuBarTest, WhatIsPlacedOnTheBarComesBelowIt) {
+  Surface().SetTool(TPaletteList::ClassOf(FWindow->Palette().ItemOf("TCheckBox")));
+  Click(OnBar(Bar().rect().center()));
+  EXPECT_EQ(Control("CheckBox1").GetTop(), 0);
+}
+
 TEST_F(MenuBarTest, AnEntryIsNotMoved) {
   const QPoint entry = OnBar(Bar().actionGeometry(Bar().actions().at(0)).center());
   Drag(entry, entry + QPoint(60, 60));

@@ -78,12 +78,18 @@ TEST_F(StandInsTest, AreSizedByAHandle) {
   EXPECT_EQ(UndoText(), "Size Box");
 }
 
-TEST_F(StandInsTest, SizedByKeysSayASizeThatTheFileLeftToTheClass) {
+TEST_F(StandInsTest, AreSizedByKeys) {
+  Select("Box");
+  Key(Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_EQ(StandInBounds(Component("Box")), QRect(20, 10, 301, 100));
+  EXPECT_EQ(QString::fromUtf8(Document().FileBytes()), ContentOf(FFile).replace("Width = 300", "Width = 301"));
+}
+
+TEST_F(StandInsTest, WithoutASizeInTheFileGetNone) {
   Select("Inner");
   Key(Qt::Key_Right, Qt::ShiftModifier);
-  EXPECT_EQ(StandInBounds(Component("Inner")), QRect(5, 6, 29, 28));
-  EXPECT_EQ(QString::fromUtf8(Document().FileBytes()),
-            ContentOf(FFile).replace("      Top = 6\n", "      Top = 6\n      Width = 29\n      Height = 28\n"));
+  EXPECT_FALSE(Document().IsModified());
+  EXPECT_FALSE(CanDrag(Component("Inner"), kHandles[4]));
 }
 
 TEST_F(StandInsTest, MovesAreUndone) {

@@ -112,6 +112,21 @@ TEST_F(ExamplesTest, EachIsSavedByteForByteAfterAnEditThatWasUndone) {
             "");
 }
 
+TEST_F(ExamplesTest, WhatWasOnlyLookedAtInTheInspectorIsSavedAsItWas) {
+  EXPECT_TRUE(FWindow->OpenExample(Example("drawing.dfm")));
+  const QByteArray before = BytesOf(Example("drawing.dfm"));
+  Select("Settings");
+  GoToRow("Items");
+  Key(Qt::Key_Right, Qt::AltModifier);
+  TypeInto("Left", "297");
+  Select("ZoomBar");
+  Surface().setFocus();
+  Key(Qt::Key_Right);
+  EXPECT_EQ(SavedBytes(), QByteArray(before)
+                              .replace("    Left = 16\n    Top = 288\n", "    Left = 17\n    Top = 288\n")
+                              .replace("    Left = 296\n    Top = 16\n", "    Left = 297\n    Top = 16\n"));
+}
+
 TEST_F(ExamplesTest, WhatNobodyKnowsIsSavedByteForByteBesideAnEdit) {
   const QByteArray text =
       "object Strange: TStrange\n"

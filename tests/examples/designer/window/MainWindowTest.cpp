@@ -133,6 +133,19 @@ TEST_F(MainWindowTest, WhatIsSelectedComesIntoView) {
   EXPECT_TRUE(Surface().visibleRegion().contains(At("Button2")));
 }
 
+TEST_F(MainWindowTest, AFormLargerThanAnyScreenIsShownInPartAndKept) {
+  const QByteArray huge = QByteArray(SmallForm()).replace("ClientWidth = 300", "ClientWidth = 99999999");
+  FFile = FileWith("huge.dfm", huge);
+  EXPECT_TRUE(FWindow->Open(FFile));
+  Settle();
+  EXPECT_LT(Surface().width(), 40000);
+  Click(At("Button1"));
+  EXPECT_EQ(Selected(), "Button1");
+  Key(Qt::Key_Right);
+  Key(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(ContentOf(FFile), QString(huge).replace("Left = 16\n    Top = 16", "Left = 17\n    Top = 16"));
+}
+
 TEST_F(MainWindowTest, UndoBringsBackWhatWasDeleted) {
   Select("Button1");
   Surface().setFocus();

@@ -42,7 +42,7 @@ class PicturesTest : public TDesignerTest {
     FAnswered = {file};
     Select("Image");
     GoToRow("Picture");
-    Key(Qt::Key_E, Qt::ControlModifier);
+    Key(Qt::Key_Return, Qt::AltModifier);
   }
   QSize ShownSize() {
     auto& picture = dynamic_cast<kt::TImage&>(Component("Image")).GetPicture();
