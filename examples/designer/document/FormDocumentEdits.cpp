@@ -128,8 +128,7 @@ QString TFormDocument::CopyText(const std::vector<kt::TComponent*>& components) 
   return TextOfComponents(FForm.get(), Outermost(FForm.get(), components));
 }
 
-std::vector<kt::TComponent*> TFormDocument::Paste(const QString& text, kt::TComponent* parent,
-                                                  kt::TComponent* origin) {
+std::vector<kt::TComponent*> TFormDocument::Paste(const QString& text, kt::TComponent* parent, kt::TComponent* origin) {
   const THolders holders(FForm.get(), parent, origin);
   kt::TComponent* target = TakesControls(parent);
   const std::vector<kt::TComponent*> pasted = PasteComponents(

@@ -70,8 +70,8 @@ kt::TComponent* THolders::For(const kt::TClassInfo* part) const {
   for (const TKind& kind : Kinds()) {
     if (!part->InheritsFrom(kind.Part)) continue;
     if (kt::TComponent* holder = FByKind.at(kind.Part)) return holder;
-    throw EDocumentError(
-        QStringLiteral("A %1 needs a %2, and the form has none").arg(part->ClassName(), QLatin1StringView(kind.Holder)));
+    throw EDocumentError(QStringLiteral("A %1 needs a %2, and the form has none")
+                             .arg(part->ClassName(), QLatin1StringView(kind.Holder)));
   }
   return nullptr;
 }

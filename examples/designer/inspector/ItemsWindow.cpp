@@ -27,9 +27,9 @@ TItemsWindow::TItemsWindow(const QString& title, TCollection& items, QWidget* pa
   auto* label = new QLabel(QStringLiteral("&Items:"));
   label->setBuddy(FList);
   auto* buttons = new QVBoxLayout;
-  buttons->addWidget(
-      MakeButton(QStringLiteral("&Add"), "add", QStringLiteral("Add item to"), &TItemsWindow::AddItem));
-  FDelete = MakeButton(QStringLiteral("&Delete"), "delete", QStringLiteral("Delete item of"), &TItemsWindow::DeleteItem);
+  buttons->addWidget(MakeButton(QStringLiteral("&Add"), "add", QStringLiteral("Add item to"), &TItemsWindow::AddItem));
+  FDelete =
+      MakeButton(QStringLiteral("&Delete"), "delete", QStringLiteral("Delete item of"), &TItemsWindow::DeleteItem);
   FUp = MakeButton(QStringLiteral("Move &up"), "up", QStringLiteral("Move item of"), &TItemsWindow::MoveUp);
   FDown = MakeButton(QStringLiteral("Move do&wn"), "down", QStringLiteral("Move item of"), &TItemsWindow::MoveDown);
   for (QPushButton* button : {FDelete, FUp, FDown}) buttons->addWidget(button);

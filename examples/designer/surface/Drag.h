@@ -47,8 +47,8 @@ std::unique_ptr<TDrag> MakePlaceDrag(TSession& session, const QWidget& surface, 
 /// Moves or sizes by so many pixels what can be: the arrow keys.
 void MoveSelected(TSession& session, QPoint by);
 void SizeSelected(TSession& session, QSize by);
-/// Whether a handle of a component can be dragged: of a control that keeps to a side only the one towards the middle, of the
-/// form only those that leave its top left corner alone.
+/// Whether a handle of a component can be dragged: of a control that keeps to a side only the one towards the middle,
+/// of the form only those that leave its top left corner alone.
 bool CanDrag(kt::TComponent& component, const THandle& handle);
 /// Creates a component on a container, at a place in its client area, and selects it.
 void PlaceComponent(TSession& session, const kt::TClassInfo* classInfo, kt::TComponent* container, const QRect& place);

@@ -158,7 +158,8 @@ TWinControl* TPlaces::ContainerOf(TComponent* component) const {
   auto* control = dynamic_cast<TControl*>(component);
   while (control && control != &FForm) {
     // On its pages, of which one shows.
-    if (auto* pages = dynamic_cast<TPageControl*>(control); pages && pages->GetActivePage()) return pages->GetActivePage();
+    if (auto* pages = dynamic_cast<TPageControl*>(control); pages && pages->GetActivePage())
+      return pages->GetActivePage();
     const bool accepts = control->GetControlStyle().Has(csAcceptsControls) && IsOfForm(FForm, *control);
     if (auto* window = dynamic_cast<TWinControl*>(control); window && accepts) return window;
     control = control->GetParent();

@@ -22,16 +22,19 @@ void TMainWindow::BuildComponentMenu() {
   QMenu* menu = menuBar()->addMenu(QStringLiteral("&Component"));
   // What fits the selection is one of these at most.
   const QKeySequence insert(QStringLiteral("Ins"));
-  menu->addAction(Add({"newPage", QStringLiteral("New &page"), insert, [this] { NewPart(*TTabSheet::Class()); }, true}));
-  menu->addAction(Add({"newItem", QStringLiteral("New &item"), insert, [this] { NewPart(*TMenuItem::Class()); }, true}));
+  menu->addAction(
+      Add({"newPage", QStringLiteral("New &page"), insert, [this] { NewPart(*TTabSheet::Class()); }, true}));
+  menu->addAction(
+      Add({"newItem", QStringLiteral("New &item"), insert, [this] { NewPart(*TMenuItem::Class()); }, true}));
   menu->addAction(Add({"newSubItem", QStringLiteral("New &submenu item"), QKeySequence(QStringLiteral("Alt+Ins")),
                        [this] { NewPartIn(FSession.Main(), *TMenuItem::Class()); }, true}));
-  menu->addAction(Add({"newAction", QStringLiteral("New &action"), insert, [this] { NewPart(*TAction::Class()); }, true}));
-  menu->addSeparator();
   menu->addAction(
-      Add({"editValue", QStringLiteral("&Edit value of the row..."), QKeySequence(QStringLiteral("Alt+Return")), [this] {
-             if (FinishEdits()) FPanel->EditSelected();
-           }}));
+      Add({"newAction", QStringLiteral("New &action"), insert, [this] { NewPart(*TAction::Class()); }, true}));
+  menu->addSeparator();
+  menu->addAction(Add(
+      {"editValue", QStringLiteral("&Edit value of the row..."), QKeySequence(QStringLiteral("Alt+Return")), [this] {
+         if (FinishEdits()) FPanel->EditSelected();
+       }}));
   menu->addAction(Add({"clearPicture", QStringLiteral("&Clear picture"), {}, [this] { ClearPicture(); }}));
   menu->addSeparator();
   menu->addAction(Add({"addImages", QStringLiteral("Add i&mages..."), {}, [this] { AddImages(); }}));
@@ -39,8 +42,8 @@ void TMainWindow::BuildComponentMenu() {
 }
 
 QStringList TMainWindow::PartActions() {
-  return {QStringLiteral("newPage"),      QStringLiteral("newItem"),   QStringLiteral("newSubItem"),
-          QStringLiteral("newAction"),    QStringLiteral("addImages"), QStringLiteral("clearImages"),
+  return {QStringLiteral("newPage"),     QStringLiteral("newItem"),   QStringLiteral("newSubItem"),
+          QStringLiteral("newAction"),   QStringLiteral("addImages"), QStringLiteral("clearImages"),
           QStringLiteral("clearPicture")};
 }
 

@@ -153,10 +153,9 @@ INSTANTIATE_TEST_SUITE_P(Forms, KtFormSampleTest,
                                            TSampleForm{"values.dfm", "(1 object, 21 properties)"}));
 
 TEST_F(KtFormTest, EverySampleFormIsChecked) {
-  EXPECT_EQ(
-      QString("about.dfm collections.dfm contact.dfm drawing.dfm inherited.dfm nested.dfm notepad.dfm player.dfm "
-              "preferences.dfm settings.dfm strings.dfm values.dfm"),
-      QDir(SampleForm("")).entryList(QDir::Files, QDir::Name).join(u' '));
+  EXPECT_EQ(QString("about.dfm collections.dfm contact.dfm drawing.dfm inherited.dfm nested.dfm notepad.dfm player.dfm "
+                    "preferences.dfm settings.dfm strings.dfm values.dfm"),
+            QDir(SampleForm("")).entryList(QDir::Files, QDir::Name).join(u' '));
 }
 
 TEST_F(KtFormTest, HelpNamesEveryCommand) {

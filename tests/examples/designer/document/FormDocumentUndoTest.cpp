@@ -112,7 +112,8 @@ TEST_F(FormDocumentUndoTest, WhoIsToldOfAnotherFormFindsTheListOfStepsWhereItIs)
   Move(50);
   QStringList log;
   FDocument->OnFormReplaced = [&] {
-    log += QStringLiteral("at %1%2").arg(FDocument->UndoStack().index()).arg(FDocument->IsModified() ? " modified" : "");
+    log +=
+        QStringLiteral("at %1%2").arg(FDocument->UndoStack().index()).arg(FDocument->IsModified() ? " modified" : "");
   };
   FDocument->Undo();
   FDocument->Redo();

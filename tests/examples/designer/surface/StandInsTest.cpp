@@ -10,26 +10,26 @@ class StandInsTest : public TDesignerTest {
  protected:
   StandInsTest() {
     FFile = FileWith("unknown.dfm",
-                                       "object Form1: TForm1\n"
-                                       "  ClientHeight = 200\n"
-                                       "  ClientWidth = 400\n"
-                                       "  object Box: TNobodysBox\n"
-                                       "    Left = 20\n"
-                                       "    Top = 10\n"
-                                       "    Width = 300\n"
-                                       "    Height = 100\n"
-                                       "    object Inner: TNobodysLine\n"
-                                       "      Left = 5\n"
-                                       "      Top = 6\n"
-                                       "    end\n"
-                                       "  end\n"
-                                       "  object Menu: TNobodysMenu\n"
-                                       "    object Item: TMenuItem\n"
-                                       "    end\n"
-                                       "  end\n"
-                                       "  object Nowhere: TNobodysThing\n"
-                                       "  end\n"
-                                       "end\n");
+                     "object Form1: TForm1\n"
+                     "  ClientHeight = 200\n"
+                     "  ClientWidth = 400\n"
+                     "  object Box: TNobodysBox\n"
+                     "    Left = 20\n"
+                     "    Top = 10\n"
+                     "    Width = 300\n"
+                     "    Height = 100\n"
+                     "    object Inner: TNobodysLine\n"
+                     "      Left = 5\n"
+                     "      Top = 6\n"
+                     "    end\n"
+                     "  end\n"
+                     "  object Menu: TNobodysMenu\n"
+                     "    object Item: TMenuItem\n"
+                     "    end\n"
+                     "  end\n"
+                     "  object Nowhere: TNobodysThing\n"
+                     "  end\n"
+                     "end\n");
     EXPECT_TRUE(FWindow->Open(FFile));
     Surface().setFocus();
     Settle();

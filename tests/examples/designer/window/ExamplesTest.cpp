@@ -5,8 +5,8 @@
 #include "designer/window/ShippedForms.h"
 #include "kt/rtl/collections/Collection.h"
 #include "kt/rtl/objects/ClassRegistry.h"
-#include "kt/rtl/strings/Strings.h"
 #include "kt/rtl/streams/FormConversion.h"
+#include "kt/rtl/strings/Strings.h"
 #include "kt/rtl/typeinfo/ClassInfo.h"
 #include "kt/rtl/typeinfo/PropValues.h"
 #include "kt/vcl/forms/Form.h"
@@ -207,7 +207,8 @@ TEST_F(ExamplesTest, TheExamplesBetweenThemUseEveryComponent) {
     // The class of all components is none by itself, and forms are what the others stand on.
     const bool isComponent = info->ClassParent() && info->ClassParent()->InheritsFrom(kt::TComponent::Class());
     const bool isForm = info->InheritsFrom(kt::TCustomForm::Class());
-    if (isComponent && info->IsCreatable() && !isForm && !census.Classes.contains(info->ClassName())) missing.append(info->ClassName());
+    if (isComponent && info->IsCreatable() && !isForm && !census.Classes.contains(info->ClassName()))
+      missing.append(info->ClassName());
   }
   EXPECT_EQ(missing.join(u' '), "");
 }

@@ -1,6 +1,5 @@
 // Pages, menu items and actions: adding, copying and pasting them.
 #include "DesignerFixture.h"
-
 #include "kt/vcl/comctrls/PageControl.h"
 #include "kt/vcl/comctrls/TabSheet.h"
 #include "kt/vcl/menus/MenuItem.h"
