@@ -59,6 +59,7 @@ QPushButton* TItemsWindow::MakeButton(const QString& text, const char* name, con
   connect(button, &QPushButton::clicked, this, [this, what, change] {
     GuardedCall([&] {
       if (!Items()) return reject();
+      if (OnChanging) OnChanging();
       (this->*change)();
       if (OnChanged) OnChanged(what);
     });
@@ -120,6 +121,7 @@ void EditItems(TDesignInspector& inspector, TKTItemProperty& item) {
   if (!items) return;
   const QString name = item.GetName();
   TItemsWindow window(item.GetFullPathName(), *items, inspector.GetHandle()->window());
+  window.OnChanging = inspector.OnWriting;
   window.OnChanged = [&inspector, name](const QString& what) {
     if (inspector.OnEdited) inspector.OnEdited(what + u' ' + name);
     inspector.InvalidateScan();

@@ -20,6 +20,8 @@ class TItemsWindow : public QDialog {
  public:
   TItemsWindow(const QString& title, kt::TCollection& items, QWidget* parent);
 
+  /// The collection is about to change.
+  std::function<void()> OnChanging;
   /// The collection has changed; what was done: "Add item to".
   std::function<void(const QString& what)> OnChanged;
 

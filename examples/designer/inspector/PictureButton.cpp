@@ -14,6 +14,7 @@ using namespace kt;
 namespace {
 
 void LoadInto(TDesignInspector& inspector, TKTItemProperty& item, const QString& fileName) {
+  if (inspector.OnWriting) inspector.OnWriting();
   try {
     const TKTInspectorObjects& objects = inspector.GetObjects();
     for (int i = 0; i < objects.GetCount(); ++i) {

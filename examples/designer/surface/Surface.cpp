@@ -32,6 +32,8 @@ void TSurface::Heard(TNews news) {
   if (news == nwLeaving) return;
   Describe();
   update();
+  // The menu bar shows its entries anew a little later.
+  QMetaObject::invokeMethod(this, qOverload<>(&QWidget::update), Qt::QueuedConnection);
 }
 
 /// For those who cannot see it.

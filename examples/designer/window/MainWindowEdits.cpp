@@ -68,6 +68,7 @@ void TMainWindow::Remove(const QString& verb) {
   TComponent* around = FSession.Document().ParentOf(parts.front());
   // What is around may be selected itself, and go too.
   while (std::find(parts.begin(), parts.end(), around) != parts.end()) around = FSession.Document().ParentOf(around);
+  FSession.Document().Settle();
   FSession.Document().Delete(parts);
   FSession.Edited(text);
   FSession.Select(around);
@@ -115,6 +116,7 @@ void TMainWindow::SelectAll() {
 }
 
 void TMainWindow::PlaceInMiddle(const TClassInfo* classInfo) {
+  FSession.Document().Settle();
   TWinControl* container = Surface().Places().ContainerOf(FSession.Main());
   const QPoint middle = container->GetClientRect().center();
   TComponent* added = FSession.Document().Add(classInfo, container, {Snapped(middle), QSize(0, 0)});

@@ -3,6 +3,8 @@
 #include "kt/vcl/menus/PopupMenu.h"
 #include "kt/vcl/stdctrls/Button.h"
 
+#include <QLineEdit>
+
 namespace designer::tests {
 namespace {
 
@@ -230,6 +232,16 @@ TEST_F(DesignInspectorTest, TheRowWithTheKeyboardShowsItsEditor) {
   Key(Qt::Key_F12);
   Key(Qt::Key_F11);
   EXPECT_TRUE(Inspector().InplaceEditor()->Visible());
+}
+
+TEST_F(DesignInspectorTest, TheEditorShowsWhatAnotherSelectionHasInItsRow) {
+  const auto edited = [this] { return Inspector().GetHandle()->findChild<QLineEdit*>()->text(); };
+  Click(At("Button1"));
+  GoToRow("Width");
+  EXPECT_EQ(edited(), "75");
+  Key(Qt::Key_F12);
+  Click(At("Button2"));
+  EXPECT_EQ(edited(), "89");
 }
 
 TEST_F(DesignInspectorTest, TheTitleIsNobodysWhenSeveralAreInspected) {
