@@ -77,9 +77,9 @@ int Run(const QCommandLineParser& parser) {
   designer::TMainWindow window;
   if (isDrawn) TellOnStandardError(window);
   const QString given = parser.positionalArguments().value(0);
-  const QString file = given.isEmpty() ? designer::FirstForm() : given;
+  const QString example = given.isEmpty() ? designer::FirstForm() : QString();
   window.show();
-  const bool isOpen = file.isEmpty() || window.Open(file);
+  const bool isOpen = given.isEmpty() ? example.isEmpty() || window.OpenExample(example) : window.Open(given);
   if (!isDrawn) return QApplication::exec();
   if (!isOpen) return 1;
   const QString picture = parser.value(QStringLiteral("draw"));

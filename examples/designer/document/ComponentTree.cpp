@@ -2,6 +2,7 @@
 
 #include "kt/rtl/objects/Component.h"
 #include "kt/rtl/objects/KeptData.h"
+#include "kt/rtl/streams/UnknownComponent.h"
 #include "kt/rtl/streams/Writer.h"
 
 #include <algorithm>
@@ -35,6 +36,11 @@ kt::TComponent* ParentIn(kt::TComponent* root, kt::TComponent* component) {
 
 void SetParentComponent(kt::TComponent* component, kt::TComponent* parent) {
   TReadersDoor::SetParent(component, parent);
+}
+
+QString ClassNameOf(const kt::TComponent& component) {
+  const kt::TUnknownComponent* unknown = kt::AsUnknown(const_cast<kt::TComponent*>(&component));
+  return unknown ? unknown->GetHeader().ClassName : component.ClassName();
 }
 
 std::vector<kt::TComponent*> WithDescendants(kt::TComponent* root, kt::TComponent* component) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStringView>
+#include <QString>
 
 #include <vector>
 
@@ -16,6 +16,9 @@ kt::TComponent* ParentIn(kt::TComponent* root, kt::TComponent* component);
 
 /// Puts a component below another one, as a reader would.
 void SetParentComponent(kt::TComponent* component, kt::TComponent* parent);
+
+/// As the form's file has it, also for classes that are not registered.
+QString ClassNameOf(const kt::TComponent& component);
 
 /// `component` and all below it, each before what is in it, in the order of the file.
 std::vector<kt::TComponent*> WithDescendants(kt::TComponent* root, kt::TComponent* component);

@@ -50,6 +50,13 @@ TFormDocument::TFormDocument(const QByteArray& file, kt::TEightBitEncoding encod
       FFile(file),
       FForm(LoadDesignForm(BinaryOf(file, encoding), PlacesIn(file, encoding))),
       FUndoStack(std::make_unique<QUndoStack>()) {
+  QObject::connect(FUndoStack.get(), &QUndoStack::indexChanged, FUndoStack.get(), [this] {
+    try {
+      TellReplaced();
+    } catch (...) {
+      KeepStepError();
+    }
+  });
   FFileState = Written();
   FState = FFileState;
   FShown = FFileState;
@@ -71,6 +78,12 @@ std::unique_ptr<TFormDocument> TFormDocument::OpenFile(const QString& fileName, 
     error.SetMessage(QStringLiteral("%1: %2").arg(QFileInfo(fileName).absoluteFilePath(), error.Message()));
     throw;
   }
+}
+
+std::unique_ptr<TFormDocument> TFormDocument::OpenCopy(const QString& fileName) {
+  std::unique_ptr<TFormDocument> document = OpenFile(fileName);
+  document->FFileName.clear();
+  return document;
 }
 
 std::unique_ptr<TFormDocument> TFormDocument::New(const QString& name) {
@@ -109,6 +122,7 @@ bool TFormDocument::Commit(const QString& text, const QString& mergeKey) {
 bool TFormDocument::Revert() {
   if (Written() == FShown) return false;
   ReplaceForm(FState);
+  TellReplaced();
   return true;
 }
 
@@ -138,20 +152,30 @@ void TFormDocument::RunStep(const QByteArray& state) {
     // A step that has just been made leads to the state that is there.
     if (state != FState) ReplaceForm(state);
   } catch (...) {
-    if (FKeepsStepErrors)
-      FStepError = std::current_exception();
-    else
-      kt::HandleException(std::current_exception());
+    KeepStepError();
   }
+}
+
+void TFormDocument::KeepStepError() {
+  if (FKeepsStepErrors)
+    FStepError = std::current_exception();
+  else
+    kt::HandleException(std::current_exception());
 }
 
 void TFormDocument::ReplaceForm(const QByteArray& state) {
   std::unique_ptr<kt::TCustomForm> form = LoadDesignForm(state);
-  if (const auto leaving = OnFormLeaving) leaving();
+  // Of several steps at once, nobody sees the forms between.
+  if (const auto leaving = OnFormLeaving; leaving && !FIsReplaced) leaving();
   std::swap(FForm, form);
   FState = state;
   form.reset();
   FShown = Written();
+  FIsReplaced = true;
+}
+
+void TFormDocument::TellReplaced() {
+  if (!std::exchange(FIsReplaced, false)) return;
   if (const auto replaced = OnFormReplaced) replaced();
 }
 

@@ -23,6 +23,8 @@ class TPropInfo;
 
 namespace designer {
 
+class THolders;
+
 /// A form file being edited: the live form that it describes, what the file itself looked like, and all steps that can
 /// be undone.
 ///
@@ -44,6 +46,8 @@ class TFormDocument {
   /// As above; errors also name the file.
   static std::unique_ptr<TFormDocument> OpenFile(const QString& fileName,
                                                  kt::TEightBitEncoding encoding = kt::eeWindows1252);
+  /// What is in the file, as a form without a file: saving it asks for another.
+  static std::unique_ptr<TFormDocument> OpenCopy(const QString& fileName);
   /// An empty form, "Form1: TForm1" unless named otherwise.
   static std::unique_ptr<TFormDocument> New(const QString& name = QStringLiteral("Form1"));
   ~TFormDocument();
@@ -80,7 +84,8 @@ class TFormDocument {
 
   // Undo.
 
-  /// Called before the live form goes and after another one has come in its place.
+  /// Called before the live form goes and after another one has come in its place, when the list of steps knows where
+  /// it is.
   std::function<void()> OnFormLeaving;
   std::function<void()> OnFormReplaced;
 
@@ -94,7 +99,7 @@ class TFormDocument {
   /// it has that.
   bool Revert();
   /// Takes the live form for what was last read or committed, whatever it writes: once it has its windows, edits are as
-  /// high as their font, and nobody has changed anything. To be called when it has just been shown.
+  /// high as their font, and nobody has changed anything. To be called when it has just been shown or looked at.
   void Settle();
   /// What was not committed is lost.
   void Undo();
@@ -105,7 +110,8 @@ class TFormDocument {
   /// A name that no component has yet: Button1 for TButton.
   QString NewName(QStringView className) const;
   /// Creates a component on the form. A control comes at `place` on the next parent that takes controls, from `parent`
-  /// upwards, with its own size where that of `place` is empty; another component shows at its top left corner.
+  /// upwards, with its own size where that of `place` is empty; another component shows at its top left corner. A page,
+  /// a menu item or an action comes into what holds these: `parent`, what is around it, else any on the form.
   kt::TComponent* Add(const kt::TClassInfo* classInfo, kt::TComponent* parent, const QRect& place);
   /// Frees components with all that is on them. Raises EDocumentError for the form itself.
   void Delete(const std::vector<kt::TComponent*>& components);
@@ -113,8 +119,10 @@ class TFormDocument {
   /// other ones of the list come with these alone; the form itself does not come.
   QString CopyText(const std::vector<kt::TComponent*>& components) const;
   /// Creates the components of such a text on `parent`, or what is around it, and answers the outermost ones. Names
-  /// that are taken change, and so do references among the new components.
-  std::vector<kt::TComponent*> Paste(const QString& text, kt::TComponent* parent);
+  /// that are taken change, and so do references among the new components. Pages, menu items and actions come into what
+  /// holds these: `parent`, what is around it, else `origin`, which they may have been copied from, else any on the
+  /// form.
+  std::vector<kt::TComponent*> Paste(const QString& text, kt::TComponent* parent, kt::TComponent* origin = nullptr);
 
   // Event handlers: names of methods that exist elsewhere, in the code that the form belongs to.
 
@@ -132,9 +140,12 @@ class TFormDocument {
   void Walk(void (QUndoStack::*step)());
   void RunStep(const QByteArray& state);
   void ReplaceForm(const QByteArray& state);
+  void TellReplaced();
+  void KeepStepError();
   void RequireOnForm(const kt::TComponent* component) const;
   QString NewNameBeside(const QString& className, const QStringList& others) const;
   kt::TComponent* TakesControls(kt::TComponent* component) const;
+  void PlaceNew(kt::TComponent& component, const THolders& holders, kt::TComponent* parent, const QRect& place);
 
   QString FFileName;
   kt::TEightBitEncoding FEncoding;
@@ -150,6 +161,8 @@ class TFormDocument {
   /// What a step has raised below Undo() or Redo(); outside of these it goes to the exception handler.
   std::exception_ptr FStepError;
   bool FKeepsStepErrors = false;
+  /// Another live form is there, and nobody has been told yet.
+  bool FIsReplaced = false;
   std::unique_ptr<QUndoStack> FUndoStack;
 };
 

@@ -2,11 +2,13 @@
 #include "designer/document/ClipboardText.h"
 #include "designer/document/ComponentTree.h"
 #include "designer/document/FormDocument.h"
+#include "designer/document/Parts.h"
 #include "kt/rtl/streams/TextLexer.h"
 #include "kt/rtl/streams/Writer.h"
 #include "kt/rtl/typeinfo/ClassInfo.h"
 #include "kt/rtl/typeinfo/PropValues.h"
-#include "kt/vcl/menus/Menu.h"
+#include "kt/vcl/comctrls/PageControl.h"
+#include "kt/vcl/comctrls/TabSheet.h"
 #include "kt/vcl/menus/MenuItem.h"
 
 #include <QUndoStack>
@@ -71,6 +73,9 @@ QString TFormDocument::NewNameBeside(const QString& className, const QStringList
 /// The component, or the next one around it, that takes controls.
 kt::TComponent* TFormDocument::TakesControls(kt::TComponent* component) const {
   for (; component && component != FForm.get(); component = ParentOf(component)) {
+    // On its pages, of which one shows.
+    auto* pages = dynamic_cast<kt::TPageControl*>(component);
+    if (pages && pages->GetActivePage()) return pages->GetActivePage();
     auto* control = dynamic_cast<kt::TWinControl*>(component);
     if (control && control->GetControlStyle().Has(kt::csAcceptsControls)) return control;
   }
@@ -82,21 +87,31 @@ kt::TComponent* TFormDocument::Add(const kt::TClassInfo* classInfo, kt::TCompone
     throw EDocumentError(
         QStringLiteral("A %1 cannot be put on a form").arg(classInfo ? classInfo->ClassName() : QString()));
   if (!parent) parent = FForm.get();
+  const THolders holders(FForm.get(), parent, nullptr);
   auto* component = static_cast<kt::TComponent*>(classInfo->CreateInstance(FForm.get()));
   try {
     component->SetName(NewName(classInfo->ClassName()));
-    if (auto* control = dynamic_cast<kt::TControl*>(component)) {
-      PlaceControl(*control, static_cast<kt::TWinControl*>(TakesControls(parent)), place);
-      ShowName(*control);
-    } else {
-      component->SetDesignInfo(DesignInfoOf(place.topLeft()));
-      if (parent != FForm.get()) SetParentComponent(component, parent);
-    }
+    PlaceNew(*component, holders, parent, place);
     return component;
   } catch (...) {
     delete component;
     throw;
   }
+}
+
+void TFormDocument::PlaceNew(kt::TComponent& component, const THolders& holders, kt::TComponent* parent,
+                             const QRect& place) {
+  auto* control = dynamic_cast<kt::TControl*>(&component);
+  if (IsPart(component.ClassType())) {
+    SetParentComponent(&component, holders.For(component.ClassType()));
+    if (auto* item = dynamic_cast<kt::TMenuItem*>(&component)) item->SetCaption(item->GetName());
+  } else if (control) {
+    PlaceControl(*control, static_cast<kt::TWinControl*>(TakesControls(parent)), place);
+  } else {
+    component.SetDesignInfo(DesignInfoOf(place.topLeft()));
+    if (parent != FForm.get()) SetParentComponent(&component, parent);
+  }
+  if (control) ShowName(*control);
 }
 
 void TFormDocument::Delete(const std::vector<kt::TComponent*>& components) {
@@ -113,16 +128,19 @@ QString TFormDocument::CopyText(const std::vector<kt::TComponent*>& components) 
   return TextOfComponents(FForm.get(), Outermost(FForm.get(), components));
 }
 
-std::vector<kt::TComponent*> TFormDocument::Paste(const QString& text, kt::TComponent* parent) {
-  const bool isMenu = dynamic_cast<kt::TMenu*>(parent) || dynamic_cast<kt::TMenuItem*>(parent);
-  kt::TComponent* target = isMenu ? parent : TakesControls(parent);
-  std::vector<kt::TComponent*> pasted = PasteComponents(
+std::vector<kt::TComponent*> TFormDocument::Paste(const QString& text, kt::TComponent* parent, kt::TComponent* origin) {
+  const THolders holders(FForm.get(), parent, origin);
+  kt::TComponent* target = TakesControls(parent);
+  const std::vector<kt::TComponent*> pasted = PasteComponents(
       FForm.get(), target, text,
       [this](const QString& className, const QStringList& others) { return NewNameBeside(className, others); });
-  // A menu takes nothing but entries.
-  for (kt::TComponent* component : pasted) {
-    auto* control = dynamic_cast<kt::TControl*>(component);
-    if (control && !control->GetParent()) control->SetParent(static_cast<kt::TWinControl*>(TakesControls(parent)));
+  try {
+    for (kt::TComponent* component : pasted) {
+      if (kt::TComponent* holder = holders.For(component->ClassType())) SetParentComponent(component, holder);
+    }
+  } catch (...) {
+    Delete(pasted);
+    throw;
   }
   return pasted;
 }

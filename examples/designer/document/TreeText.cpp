@@ -1,20 +1,14 @@
 // The form as an object inspector shows it, as text.
+#include "designer/document/ComponentTree.h"
 #include "designer/document/FormDocument.h"
 #include "inspectdump/InspectedText.h"
 #include "kt/KTObjectInspector.h"
 #include "kt/rtl/objects/Make.h"
-#include "kt/rtl/streams/UnknownComponent.h"
 
 #include <QUndoStack>
 
 namespace designer {
 namespace {
-
-/// As its file has it.
-QString ClassNameOf(kt::TComponent* component) {
-  const kt::TUnknownComponent* unknown = kt::AsUnknown(component);
-  return unknown ? unknown->GetHeader().ClassName : component->ClassName();
-}
 
 class TTreeText {
  public:
@@ -27,7 +21,7 @@ class TTreeText {
 
   QString Of(kt::TComponent* component, int level) {
     const QString indent(2 * level, u' ');
-    QString text = QStringLiteral("%1%2: %3\n").arg(indent, component->GetName(), ClassNameOf(component));
+    QString text = QStringLiteral("%1%2: %3\n").arg(indent, component->GetName(), ClassNameOf(*component));
     text += TextOfProperties(*FInspector, component, level + 1);
     for (kt::TComponent* child : FDocument.ChildrenOf(component)) text += Of(child, level + 1);
     return text;

@@ -1,16 +1,41 @@
 #include "designer/inspector/DesignInspector.h"
 
+#include "designer/document/DocumentErrors.h"
+#include "designer/surface/Grid.h"
 #include "kt/KTPropertyPresets.h"
 #include "kt/rtl/collections/UpdateBracket.h"
+#include "kt/rtl/conversions/Integers.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/typeinfo/EnumNames.h"
 #include "kt/rtl/typeinfo/PropLists.h"
 #include "kt/rtl/typeinfo/PropValues.h"
+#include "kt/vcl/controls/Control.h"
+#include "kt/vcl/controls/SizeConstraints.h"
 
 namespace designer {
 
 using namespace kt;
+
+namespace {
+
+bool IsSize(const TObject* instance, const QString& name) {
+  static const QStringList ofControls = {QStringLiteral("Left"),        QStringLiteral("Top"),
+                                         QStringLiteral("Width"),       QStringLiteral("Height"),
+                                         QStringLiteral("ClientWidth"), QStringLiteral("ClientHeight")};
+  if (dynamic_cast<const TControl*>(instance)) return ofControls.contains(name);
+  return dynamic_cast<const TSizeConstraints*>(instance) && (name.startsWith(u"Min") || name.startsWith(u"Max"));
+}
+
+/// What no screen shows is a slip of whoever types.
+void CheckSize(const TObject* instance, const QString& name, const QString& value) {
+  qint64 number = 0;
+  if (!IsSize(instance, name) || !TryStrToInt64(value.trimmed(), number)) return;
+  if (number >= -kLargestSize && number <= kLargestSize) return;
+  throw EDocumentError(QStringLiteral("%1 must be from -%2 to %2").arg(name).arg(kLargestSize));
+}
+
+}  // namespace
 
 void TDesignInspector::Construct() {
   TKTObjectInspector::Construct();
@@ -31,6 +56,7 @@ void TDesignInspector::Inspect(const std::vector<TObject*>& objects) {
 
 void TDesignInspector::SetProperty(TKTItemProperty* item) {
   const TLifeWatch self(this);
+  if (OnWriting) OnWriting();
   const QString name = item->GetPropertyKind() == pkSetMember && item->GetParent()
                            ? item->GetParent()->GetName() + u'.' + item->GetName()
                            : item->GetName();
@@ -61,6 +87,7 @@ void TDesignInspector::AddSetMembersPreset() {
 }
 
 bool TDesignInspector::SetPropertyValue(TObject* instance, TKTItemProperty* item, const QString& value) {
+  CheckSize(HolderOf(instance, *item), item->GetRealPropName(), value);
   if (item->GetPropertyKind() == pkSetMember) return WriteMember(instance, *item, value);
   return TKTObjectInspector::SetPropertyValue(instance, item, value);
 }

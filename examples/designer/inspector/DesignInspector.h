@@ -11,8 +11,12 @@ namespace designer {
 /// row that has the keyboard always shows its editor, as nothing else tells which one that is.
 class TDesignInspector : public kt::TKTObjectInspector {
  public:
+  /// A property is about to be written.
+  std::function<void()> OnWriting;
   /// A property was written; its name.
   std::function<void(const QString& name)> OnWritten;
+  /// Something else has changed by way of a row; what, as a step is called.
+  std::function<void(const QString& step)> OnEdited;
   /// A property could not be written, or only to some of the objects.
   std::function<void()> OnFailed;
 

@@ -30,7 +30,12 @@ TInspectorPanel::TInspectorPanel(TSession& session, QWidget* parent)
   AddReferences(*FInspector, session);
   AddHandlerNames(*FInspector, session);
   AddLinesButton(*FInspector);
+  AddItemsButton(*FInspector);
+  AddPictureButton(*FInspector, [this] { return OnAskPicture ? OnAskPicture() : QString(); });
   FInspector->SetDropDownRows(14);
+  // What the rows had to look at is no part of the step.
+  FInspector->OnWriting = [this] { FSession.Document().Settle(); };
+  FInspector->OnEdited = [this](const QString& step) { FSession.Edited(step); };
   FInspector->OnWritten = [this](const QString& name) { Written(name); };
   // Later: what failed is still being handled by the item that would go.
   FInspector->OnFailed = [this] {
@@ -122,6 +127,12 @@ void TInspectorPanel::CollapseSelected() {
   if (!item) return;
   FInspector->SetSelected(item);
   item->Collapse();
+}
+
+void TInspectorPanel::EditSelected() {
+  TKTItemProperty* item = FInspector->GetSelected();
+  const TNotifyEvent click = item ? item->GetOnEditButtonClick() : TNotifyEvent();
+  if (click) click(item);
 }
 
 // What is inspected.

@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 class QComboBox;
@@ -21,12 +22,16 @@ class TInspectorPanel : public QWidget {
   ~TInspectorPanel() override;
 
   TDesignInspector& Inspector() const { return *FInspector; }
+  /// For the name of a file with a picture; empty for none.
+  std::function<QString()> OnAskPicture;
   /// Gives the grid the keyboard.
   void FocusGrid();
   void FocusFilter();
   /// The row with the cursor; a row that has nothing to collapse stands for the one that it is below.
   void ExpandSelected();
   void CollapseSelected();
+  /// What the button of the row with the cursor does, if it has one.
+  void EditSelected();
   void ShowEvents(bool value);
   void SetCategories(bool value);
   void SetAcross(bool value);

@@ -51,6 +51,7 @@ TStrings* StringsOf(TObject* inspected, TKTItemProperty& item) {
 }
 
 void SetLines(TDesignInspector& inspector, TKTItemProperty& item, const QStringList& lines) {
+  if (inspector.OnWriting) inspector.OnWriting();
   const TKTInspectorObjects& objects = inspector.GetObjects();
   for (int i = 0; i < objects.GetCount(); ++i) {
     TStrings* strings = StringsOf(objects.GetItem(i)->GetObjects(), item);

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <QString>
+
+#include <functional>
+
 namespace designer {
 
 class TDesignInspector;
@@ -14,5 +18,9 @@ void AddReferences(TDesignInspector& inspector, TSession& session);
 void AddHandlerNames(TDesignInspector& inspector, TSession& session);
 /// Texts of several lines have a button that opens a window for them.
 void AddLinesButton(TDesignInspector& inspector);
+/// Collections have a button that opens a window for their items.
+void AddItemsButton(TDesignInspector& inspector);
+/// Pictures have a button that loads a file; `ask` answers its name, empty for none.
+void AddPictureButton(TDesignInspector& inspector, const std::function<QString()>& ask);
 
 }  // namespace designer

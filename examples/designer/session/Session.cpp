@@ -1,6 +1,6 @@
 #include "designer/session/Session.h"
 
-#include "kt/rtl/streams/UnknownComponent.h"
+#include "designer/document/ComponentTree.h"
 
 #include <algorithm>
 
@@ -118,16 +118,9 @@ void TSession::Edited(const QString& text, const QString& mergeKey) {
 
 void TSession::Revert() { FDocument->Revert(); }
 
-void TSession::Undo() {
-  FDocument->Undo();
-  // Only now the stack of steps knows where it is.
-  Tell(nwEdited);
-}
+void TSession::Undo() { FDocument->Undo(); }
 
-void TSession::Redo() {
-  FDocument->Redo();
-  Tell(nwEdited);
-}
+void TSession::Redo() { FDocument->Redo(); }
 
 void TSession::Leave() {
   KeepKeys();
@@ -154,11 +147,6 @@ QString StepText(const QString& verb, const std::vector<TComponent*>& components
 
 QString NameOf(const TComponent& component) {
   return component.GetName().isEmpty() ? QStringLiteral("(%1)").arg(ClassNameOf(component)) : component.GetName();
-}
-
-QString ClassNameOf(const TComponent& component) {
-  const TUnknownComponent* unknown = AsUnknown(const_cast<TComponent*>(&component));
-  return unknown ? unknown->GetHeader().ClassName : component.ClassName();
 }
 
 QString TitleOf(const TComponent& component) {

@@ -92,8 +92,6 @@ class TSession {
 QString StepText(const QString& verb, const std::vector<kt::TComponent*>& components);
 /// The name, or what stands for it where there is none.
 QString NameOf(const kt::TComponent& component);
-/// As the form's file has it, also for classes that are not registered.
-QString ClassNameOf(const kt::TComponent& component);
 /// "Button1: TButton".
 QString TitleOf(const kt::TComponent& component);
 

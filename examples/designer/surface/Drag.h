@@ -35,8 +35,8 @@ class TDrag {
 
 /// Moves components; `pressed` is the one that keeps to the grid. Those that keep to a side stay where they are.
 std::unique_ptr<TDrag> MakeMoveDrag(TSession& session, kt::TComponent& pressed, QPoint from);
-/// Sizes a control by one of its handles.
-std::unique_ptr<TDrag> MakeSizeDrag(TSession& session, kt::TControl& control, const THandle& handle, QPoint from);
+/// Sizes what has bounds by one of its handles.
+std::unique_ptr<TDrag> MakeSizeDrag(TSession& session, kt::TComponent& component, const THandle& handle, QPoint from);
 /// Selects what a frame touches of what stands on a container. `adds`: besides what is selected already.
 std::unique_ptr<TDrag> MakeBandDrag(TSession& session, const QWidget& surface, kt::TWinControl& container, QPoint from,
                                     bool adds);
@@ -47,9 +47,9 @@ std::unique_ptr<TDrag> MakePlaceDrag(TSession& session, const QWidget& surface, 
 /// Moves or sizes by so many pixels what can be: the arrow keys.
 void MoveSelected(TSession& session, QPoint by);
 void SizeSelected(TSession& session, QSize by);
-/// Whether a handle of a control can be dragged: of one that keeps to a side only the one towards the middle, of the
-/// form only those that leave its top left corner alone.
-bool CanDrag(kt::TControl& control, const THandle& handle);
+/// Whether a handle of a component can be dragged: of a control that keeps to a side only the one towards the middle,
+/// of the form only those that leave its top left corner alone.
+bool CanDrag(kt::TComponent& component, const THandle& handle);
 /// Creates a component on a container, at a place in its client area, and selects it.
 void PlaceComponent(TSession& session, const kt::TClassInfo* classInfo, kt::TComponent* container, const QRect& place);
 

@@ -77,7 +77,8 @@ class TPlaceDrag final : public TDrag {
   /// In the client area; empty, at its place, when the button was only clicked.
   QRect Place() const {
     const QPoint from = FIsFree ? FFrom : Snapped(FFrom);
-    if (!FHasBegun) return {from, QSize(0, 0)};
+    // A menu bar lies above the client area.
+    if (!FHasBegun) return {QPoint(std::max(from.x(), 0), std::max(from.y(), 0)), QSize(0, 0)};
     const QPoint to = FIsFree ? FTo : Snapped(FTo);
     const QRect place = Between(from, to);
     return {place.topLeft(), place.size() - QSize(1, 1)};

@@ -9,6 +9,10 @@ namespace designer {
 
 /// The distance of the dots that components keep to.
 inline constexpr int kGridStep = 8;
+/// The size of what stands for a component that has none of its own.
+inline constexpr int kIconSize = 28;
+/// Nothing that is designed is wider or higher, nor further away.
+inline constexpr int kLargestSize = 0x7FFF;
 
 /// The nearest place on the grid.
 int Snapped(int value);

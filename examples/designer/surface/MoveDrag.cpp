@@ -1,4 +1,5 @@
 // Moving components with the mouse and the arrow keys.
+#include "designer/surface/Bounds.h"
 #include "designer/surface/Drag.h"
 
 #include <QApplication>
@@ -10,24 +11,21 @@ using namespace kt;
 namespace {
 
 QPoint PlaceOf(TComponent& component) {
-  const auto* control = dynamic_cast<TControl*>(&component);
-  return control ? QPoint(control->GetLeft(), control->GetTop()) : DesignPlace(component);
+  const std::optional<QRect> bounds = BoundsOf(component);
+  return bounds ? bounds->topLeft() : DesignPlace(component);
 }
 
 void SetPlace(TComponent& component, QPoint place) {
-  if (auto* control = dynamic_cast<TControl*>(&component)) {
-    control->SetBounds(place.x(), place.y(), control->GetWidth(), control->GetHeight());
-  } else {
-    SetDesignPlace(component, place);
-  }
+  const std::optional<QRect> bounds = BoundsOf(component);
+  bounds ? SetBoundsOf(component, QRect(place, bounds->size())) : SetDesignPlace(component, place);
 }
 
 /// Not those that go along with what they stand on.
 bool MovesByItself(const TSession& session, TComponent& component) {
   if (!IsMovable(component)) return false;
-  auto* control = dynamic_cast<TControl*>(&component);
-  for (TWinControl* around = control ? control->GetParent() : nullptr; around; around = around->GetParent()) {
-    if (around->GetParent() && session.IsSelected(around)) return false;
+  const TFormDocument& document = session.Document();
+  for (TComponent* around = document.ParentOf(&component); around; around = document.ParentOf(around)) {
+    if (around != &session.Form() && session.IsSelected(around)) return false;
   }
   return true;
 }

@@ -1,10 +1,15 @@
 #include "designer/surface/Places.h"
 
+#include "designer/surface/Bounds.h"
 #include "designer/surface/Grid.h"
+#include "designer/surface/MenuBarPlaces.h"
 #include "designer/surface/StandIns.h"
+#include "kt/vcl/comctrls/PageControl.h"
+#include "kt/vcl/comctrls/TabSheet.h"
 #include "kt/vcl/controls/WinControl.h"
+#include "kt/vcl/menus/MenuItem.h"
 
-#include <QWidget>
+#include <QMenuBar>
 
 #include <algorithm>
 
@@ -13,8 +18,6 @@ namespace designer {
 using namespace kt;
 
 namespace {
-
-constexpr int kIconSize = 28;
 
 bool IsOfForm(const TCustomForm& form, const TComponent& component) {
   return &component == &form || component.GetOwnerComponent() == &form;
@@ -37,11 +40,20 @@ QRect TPlaces::ClientOf(TWinControl& control) const {
 
 QRect TPlaces::RectOf(TComponent& component) const {
   if (IsStandIn(component)) return StandInRect(component);
+  if (const auto* item = dynamic_cast<TMenuItem*>(&component)) return MenuItemRect(*item);
   auto* control = dynamic_cast<TControl*>(&component);
   if (!control) return {ClientOf(FForm).topLeft() + IconPlace(component), QSize(kIconSize, kIconSize)};
   TWinControl* parent = control->GetParent();
-  if (!parent) return {ClientOf(FForm).topLeft(), control->GetBoundsRect().size()};
+  // Above the client area there may be a menu.
+  if (!parent) return {InSurface(*FForm.GetHandle()), control->GetBoundsRect().size()};
   return control->GetBoundsRect().translated(ClientOf(*parent).topLeft());
+}
+
+QPoint TPlaces::InSurface(const QWidget& widget) const { return FSurface.mapFromGlobal(widget.mapToGlobal(QPoint())); }
+
+QRect TPlaces::MenuItemRect(const TMenuItem& item) const {
+  const QRect entry = EntryRect(FForm, item);
+  return entry.isEmpty() ? QRect() : entry.translated(InSurface(*MenuBarOf(FForm)));
 }
 
 QRect TPlaces::StandInRect(TComponent& component) const {
@@ -49,8 +61,7 @@ QRect TPlaces::StandInRect(TComponent& component) const {
   auto* window = dynamic_cast<TWinControl*>(around);
   const bool isNested = around && IsStandIn(*around);
   const QPoint origin = isNested ? RectOf(*around).topLeft() : ClientOf(window ? *window : FForm).topLeft();
-  const QRect bounds = StandInBounds(component).value_or(QRect());
-  return {origin + bounds.topLeft(), bounds.size().isEmpty() ? QSize(kIconSize, kIconSize) : bounds.size()};
+  return BoundsOf(component).value_or(QRect(0, 0, kIconSize, kIconSize)).translated(origin);
 }
 
 std::vector<TComponent*> TPlaces::StandIns() const {
@@ -74,6 +85,7 @@ bool TPlaces::IsShown(TComponent& component) const {
     TComponent* around = component.GetParentComponent();
     return StandInBounds(component) && (!around || IsShown(*around));
   }
+  if (const auto* item = dynamic_cast<TMenuItem*>(&component)) return !EntryRect(FForm, *item).isEmpty();
   auto* control = dynamic_cast<TControl*>(&component);
   if (!control) return IsIcon(component);
   auto* window = dynamic_cast<TWinControl*>(control);
@@ -131,6 +143,7 @@ TComponent* TPlaces::ComponentAt(QPoint point) const {
   const auto box = std::find_if(boxes.rbegin(), boxes.rend(),
                                 [&](TComponent* component) { return RectOf(*component).contains(point); });
   if (box != boxes.rend()) return *box;
+  if (TComponent* part = MenuPartAt(FForm, FSurface.mapToGlobal(point))) return part;
   return RectOf(FForm).contains(point) ? Selectable(ControlAt(FForm, point)) : nullptr;
 }
 
@@ -144,6 +157,9 @@ TWinControl* TPlaces::WindowAt(QPoint point) const {
 TWinControl* TPlaces::ContainerOf(TComponent* component) const {
   auto* control = dynamic_cast<TControl*>(component);
   while (control && control != &FForm) {
+    // On its pages, of which one shows.
+    if (auto* pages = dynamic_cast<TPageControl*>(control); pages && pages->GetActivePage())
+      return pages->GetActivePage();
     const bool accepts = control->GetControlStyle().Has(csAcceptsControls) && IsOfForm(FForm, *control);
     if (auto* window = dynamic_cast<TWinControl*>(control); window && accepts) return window;
     control = control->GetParent();
@@ -192,8 +208,11 @@ QRegion TPlaces::Ground(TWinControl& container) const {
 // Moving.
 
 bool IsMovable(TComponent& component) {
+  if (IsStandIn(component)) return StandInBounds(component) && !IsStandInAligned(component);
   auto* control = dynamic_cast<TControl*>(&component);
   if (!control) return TPlaces::IsIcon(component);
+  // A page lies where its tabs leave room.
+  if (dynamic_cast<TTabSheet*>(control)) return false;
   return control->GetParent() && (control->GetAlign() == alNone || control->GetAlign() == alCustom);
 }
 

@@ -10,13 +10,17 @@
 
 class QWidget;
 
+namespace kt {
+class TMenuItem;
+}
+
 namespace designer {
 
 /// Where the components of a live form are on the surface that lies over it, and what is at a place there. Lives on the
 /// stack.
 ///
 /// A component without a place of its own on the form, such as a menu or a timer, shows as an icon with its name; one
-/// of an unknown class as a box where its file has it.
+/// of an unknown class as a box where its file has it. The items of the form's menu show as entries of its bar.
 class TPlaces {
  public:
   TPlaces(kt::TCustomForm& form, const QWidget& surface) : FForm(form), FSurface(surface) {}
@@ -25,7 +29,7 @@ class TPlaces {
   QRect ClientOf(kt::TWinControl& control) const;
   QRect RectOf(kt::TComponent& component) const;
   /// Whether the component can be seen and clicked: not what is on a page that does not show, nor what has no place
-  /// even as an icon, as an item of a menu.
+  /// even as an icon, as an item further down in a menu.
   bool IsShown(kt::TComponent& component) const;
   /// Whether it shows as an icon.
   static bool IsIcon(kt::TComponent& component);
@@ -53,6 +57,9 @@ class TPlaces {
  private:
   kt::TControl* ControlAt(kt::TWinControl& parent, QPoint point) const;
   kt::TComponent* Selectable(kt::TControl* control) const;
+  /// Where a widget's corner is.
+  QPoint InSurface(const QWidget& widget) const;
+  QRect MenuItemRect(const kt::TMenuItem& item) const;
   QPoint IconPlace(kt::TComponent& component) const;
   QRect StandInRect(kt::TComponent& component) const;
 
@@ -60,7 +67,7 @@ class TPlaces {
   const QWidget& FSurface;
 };
 
-/// Whether somebody can move it: not the form, nor what keeps to a side.
+/// Whether somebody can move it: not the form, nor a page, nor what keeps to a side.
 bool IsMovable(kt::TComponent& component);
 /// The place of an icon as it is kept, and the place to keep.
 QPoint DesignPlace(const kt::TComponent& component);

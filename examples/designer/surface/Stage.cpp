@@ -1,10 +1,13 @@
 #include "designer/surface/Stage.h"
 
+#include "designer/surface/Grid.h"
 #include "designer/surface/Surface.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
 
 #include <QEvent>
 #include <QPainter>
+
+#include <utility>
 
 namespace designer {
 
@@ -64,6 +67,8 @@ TStage::TStage(TSession& session)
 }
 
 void TStage::Heard(TNews news) {
+  // What the inspector looks at may fill in what it has not had.
+  if (news == nwSelection) SettleLater();
   // The form's widget goes with the form.
   if (news == nwForm || news == nwEdited) GuardedCall([this] { Refresh(); });
 }
@@ -72,7 +77,9 @@ void TStage::Refresh() {
   TakeForm();
   Quiet();
   const TCustomForm& form = FSession.Form();
-  FInside->setGeometry(kMargin + kBorder, kMargin + kBorder + CaptionHeight(), form.GetWidth(), form.GetHeight());
+  // A file may say any size.
+  const QSize shown = QSize(form.GetWidth(), form.GetHeight()).boundedTo(QSize(kLargestSize, kLargestSize));
+  FInside->setGeometry(QRect(QPoint(kMargin + kBorder, kMargin + kBorder + CaptionHeight()), shown));
   const QSize needed(FrameRect().right() + 1 + kMargin, FrameRect().bottom() + 1 + kMargin);
   if (minimumSize() != needed) setMinimumSize(needed);
   if (!parentWidget()) resize(needed);
@@ -89,18 +96,24 @@ void TStage::TakeForm() {
   body->setParent(FInside);
   body->move(0, 0);
   body->show();
+  FIsPainted = false;
   Settle();
   // And again when layouts are done.
-  QMetaObject::invokeMethod(this, &TStage::Settle, Qt::QueuedConnection);
+  SettleLater();
 }
 
-/// What windows bring about is no edit.
+void TStage::SettleLater() { QMetaObject::invokeMethod(this, &TStage::Settle, Qt::QueuedConnection); }
+
+/// What windows bring about is no edit, nor what comes of looking; but what is in the middle of being dragged is one.
 void TStage::Settle() {
+  if (FSurface->IsDragging()) return;
   GuardedCall([this] { FSession.Document().Settle(); });
 }
 
-/// A form would take over the place of its widget as its own.
+/// A form would take over the place of its widget as its own. When it is painted for the first time, its controls may
+/// fill in what they have not had.
 bool TStage::eventFilter(QObject* object, QEvent* event) {
+  if (object == FBody && event->type() == QEvent::Paint && !std::exchange(FIsPainted, true)) SettleLater();
   const bool tellsPlace = event->type() == QEvent::Move || event->type() == QEvent::Resize;
   return object == FBody && tellsPlace;
 }
@@ -151,7 +164,8 @@ void TStage::PaintCaption(QPainter& painter, const QRect& place) {
   painter.setFont(bold);
   painter.setPen(text);
   const QString caption = painter.fontMetrics().elidedText(form.GetCaption(), Qt::ElideRight, rest.width());
-  painter.drawText(rest, Qt::AlignVCenter | Qt::AlignLeft, caption);
+  // On the left whichever way the designer reads, as the form stands that way, too.
+  painter.drawText(rest, Qt::AlignVCenter | Qt::AlignLeft | Qt::AlignAbsolute, caption);
 }
 
 void TStage::resizeEvent(QResizeEvent*) { FSurface->setGeometry(rect()); }

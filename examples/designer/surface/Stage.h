@@ -34,6 +34,7 @@ class TStage : public QWidget {
   void Refresh();
   void TakeForm();
   void Settle();
+  void SettleLater();
   void Quiet();
   int CaptionHeight() const;
   QRect FrameRect() const;
@@ -45,6 +46,7 @@ class TStage : public QWidget {
   QWidget* FInside;
   TSurface* FSurface;
   QPointer<QWidget> FBody;
+  bool FIsPainted = false;
 };
 
 }  // namespace designer

@@ -1,10 +1,12 @@
 #include "designer/surface/Surface.h"
 
+#include "designer/surface/Bounds.h"
 #include "designer/surface/DesignClicks.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QToolTip>
 
@@ -30,6 +32,8 @@ void TSurface::Heard(TNews news) {
   if (news == nwLeaving) return;
   Describe();
   update();
+  // The menu bar shows its entries anew a little later.
+  QMetaObject::invokeMethod(this, qOverload<>(&QWidget::update), Qt::QueuedConnection);
 }
 
 /// For those who cannot see it.
@@ -46,13 +50,13 @@ void TSurface::SetTool(const TClassInfo* value) {
 
 // The mouse.
 
-const THandle* TSurface::HandleAt(QPoint point, TControl*& control) const {
+const THandle* TSurface::HandleAt(QPoint point) const {
   const std::vector<TComponent*> selected = FSession.Selected();
-  control = selected.size() == 1 ? dynamic_cast<TControl*>(selected.front()) : nullptr;
-  if (!control || !Places().IsShown(*control)) return nullptr;
-  const QRect around = Places().RectOf(*control);
+  TComponent& main = *selected.front();
+  if (selected.size() > 1 || !BoundsOf(main) || !Places().IsShown(main)) return nullptr;
+  const QRect around = Places().RectOf(main);
   for (const THandle& handle : kHandles) {
-    if (CanDrag(*control, handle) && HandleRect(around, handle).contains(point)) return &handle;
+    if (CanDrag(main, handle) && HandleRect(around, handle).contains(point)) return &handle;
   }
   return nullptr;
 }
@@ -85,8 +89,9 @@ std::unique_ptr<TDrag> TSurface::PressComponent(TComponent& component, QMouseEve
 
 std::unique_ptr<TDrag> TSurface::BeginDrag(QMouseEvent& event) {
   if (FTool) return MakePlaceDrag(FSession, *this, FTool, event.pos());
-  TControl* sized = nullptr;
-  if (const THandle* handle = HandleAt(event.pos(), sized)) return MakeSizeDrag(FSession, *sized, *handle, event.pos());
+  if (const THandle* handle = HandleAt(event.pos())) {
+    return MakeSizeDrag(FSession, *FSession.Main(), *handle, event.pos());
+  }
   TComponent* component = Places().ComponentAt(event.pos());
   if (!component) return nullptr;
   // A click on a page's tab also selects, unless it is one of several that are being taken in.
@@ -125,8 +130,7 @@ void TSurface::mouseReleaseEvent(QMouseEvent* event) {
 
 void TSurface::UpdatePointer(QPoint point) {
   if (FTool) return;
-  TControl* control = nullptr;
-  const THandle* handle = HandleAt(point, control);
+  const THandle* handle = HandleAt(point);
   setCursor(handle ? HandleCursor(*handle) : Qt::ArrowCursor);
 }
 
@@ -141,6 +145,11 @@ void TSurface::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 bool TSurface::event(QEvent* event) {
+  // The window has other uses for some of these keys.
+  if (event->type() == QEvent::ShortcutOverride && IsArrow(*static_cast<QKeyEvent*>(event))) {
+    event->accept();
+    return true;
+  }
   if (event->type() != QEvent::ToolTip) return QWidget::event(event);
   const auto* help = static_cast<QHelpEvent*>(event);
   TComponent* component = Places().ComponentAt(help->pos());

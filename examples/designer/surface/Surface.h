@@ -20,9 +20,9 @@ namespace designer {
 /// freely. On the form's ground, or with Ctrl on any container, a drag selects what its frame touches. The handles
 /// size.
 ///
-/// Keys: the arrows go to the neighbour, with Ctrl they move and with Shift they size by a pixel; with both, they move
-/// by a step of the grid. Tab and Shift+Tab go through all components, Escape goes to what is around, Return to the
-/// inspector.
+/// Keys: the arrows move by a pixel, with Shift they size; with Ctrl both go by a step of the grid. With Alt they go to
+/// the neighbour. Tab and Shift+Tab go through all components in the order of their tabs, Escape goes to what is
+/// around, Return to the inspector.
 class TSurface : public QWidget {
  public:
   TSurface(TSession& session, QWidget* parent);
@@ -33,6 +33,7 @@ class TSurface : public QWidget {
   const kt::TClassInfo* Tool() const { return FTool; }
   /// Takes back what the mouse is in the middle of; false when there is nothing.
   bool CancelDrag();
+  bool IsDragging() const { return FDrag != nullptr; }
   /// The tool was used, or laid aside.
   std::function<void()> OnToolDone;
   /// The Return key.
@@ -64,17 +65,18 @@ class TSurface : public QWidget {
   void PaintStandIns(QPainter& painter);
   void PaintIcons(QPainter& painter);
   void PaintSelection(QPainter& painter);
-  void PaintHandles(QPainter& painter, kt::TControl& control);
+  void PaintHandles(QPainter& painter, kt::TComponent& component);
 
   // The mouse.
   std::unique_ptr<TDrag> BeginDrag(QMouseEvent& event);
   std::unique_ptr<TDrag> PressComponent(kt::TComponent& component, QMouseEvent& event);
   bool ClickLive(QPoint point);
-  /// The handle at a place of the only selected control, or null.
-  const THandle* HandleAt(QPoint point, kt::TControl*& control) const;
+  /// The handle at a place, of the only component that is selected; or null.
+  const THandle* HandleAt(QPoint point) const;
   void UpdatePointer(QPoint point);
 
   // Keys.
+  static bool IsArrow(const QKeyEvent& event);
   bool PressArrow(QKeyEvent& event);
   void GoToNeighbour(QPoint direction);
   void GoAlong(bool next);

@@ -37,6 +37,22 @@ int WayTo(const QRect& from, const QRect& to, QPoint direction) {
   return along > 0 && along >= askew / 4 ? along + 2 * askew : std::numeric_limits<int>::max();
 }
 
+/// A component and all below it: what the Tab key reaches on the running form in that order, what it does not reach
+/// where the file has it.
+void AddInTabOrder(const TFormDocument& document, TComponent& component, std::vector<TComponent*>& all) {
+  all.push_back(&component);
+  const std::vector<TComponent*> children = document.ChildrenOf(&component);
+  std::vector<TWinControl*> windows;
+  for (TComponent* child : children) {
+    if (auto* window = dynamic_cast<TWinControl*>(child)) windows.push_back(window);
+  }
+  std::ranges::stable_sort(windows, {}, &TWinControl::GetTabOrder);
+  auto next = windows.begin();
+  for (TComponent* child : children) {
+    AddInTabOrder(document, dynamic_cast<TWinControl*>(child) ? **next++ : *child, all);
+  }
+}
+
 }  // namespace
 
 void TSurface::keyPressEvent(QKeyEvent* event) {
@@ -55,17 +71,18 @@ void TSurface::keyPressEvent(QKeyEvent* event) {
   });
 }
 
+bool TSurface::IsArrow(const QKeyEvent& event) { return !DirectionOf(event.key()).isNull(); }
+
 bool TSurface::PressArrow(QKeyEvent& event) {
+  if (!IsArrow(event) || FDrag) return false;
   const QPoint direction = DirectionOf(event.key());
-  if (direction.isNull() || FDrag) return false;
-  const bool moves = event.modifiers().testFlag(Qt::ControlModifier);
-  const bool isShifted = event.modifiers().testFlag(Qt::ShiftModifier);
-  if (moves) {
-    MoveSelected(FSession, direction * (isShifted ? kGridStep : 1));
-  } else if (isShifted) {
-    SizeSelected(FSession, QSize(direction.x(), direction.y()));
-  } else {
+  const QPoint by = direction * (event.modifiers().testFlag(Qt::ControlModifier) ? kGridStep : 1);
+  if (event.modifiers().testFlag(Qt::AltModifier)) {
     GoToNeighbour(direction);
+  } else if (event.modifiers().testFlag(Qt::ShiftModifier)) {
+    SizeSelected(FSession, QSize(by.x(), by.y()));
+  } else {
+    MoveSelected(FSession, by);
   }
   return true;
 }
@@ -88,7 +105,8 @@ void TSurface::GoToNeighbour(QPoint direction) {
 
 /// Through all that shows, the form too, and round.
 void TSurface::GoAlong(bool next) {
-  std::vector<TComponent*> all = FSession.Components();
+  std::vector<TComponent*> all;
+  AddInTabOrder(FSession.Document(), FSession.Form(), all);
   const TPlaces places = Places();
   std::erase_if(all, [&](TComponent* component) { return !places.IsShown(*component); });
   const auto found = std::find(all.begin(), all.end(), FSession.Main());

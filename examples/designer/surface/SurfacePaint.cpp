@@ -1,5 +1,6 @@
 // What the surface shows over the live form.
 #include "designer/palette/ClassIcons.h"
+#include "designer/surface/Bounds.h"
 #include "designer/surface/Surface.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
 
@@ -105,29 +106,20 @@ void TSurface::PaintSelection(QPainter& painter) {
     painter.setPen(QPen(mark, hasFocus() ? 2 : 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(around.adjusted(-1, -1, 0, 0));
-    auto* control = dynamic_cast<TControl*>(component);
-    if (!control) continue;
-    if (selected.size() == 1) {
-      PaintHandles(painter, *control);
-      continue;
-    }
-    // Several of them cannot be sized with the mouse: corners only.
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(component == selected.front() ? mark : palette().color(QPalette::Mid));
-    for (const THandle& handle : kHandles) {
-      const bool isCorner = (handle.MovesLeft || handle.MovesRight) && (handle.MovesTop || handle.MovesBottom);
-      if (isCorner) painter.drawRect(HandleRect(around, handle).adjusted(1, 1, -1, -1));
-    }
+    if (BoundsOf(*component)) PaintHandles(painter, *component);
   }
 }
 
-void TSurface::PaintHandles(QPainter& painter, TControl& control) {
-  const QRect around = Places().RectOf(control);
+void TSurface::PaintHandles(QPainter& painter, TComponent& component) {
+  const QRect around = Places().RectOf(component);
+  const bool isOne = FSession.Selected().size() == 1;
   const QColor mark = palette().color(QPalette::Highlight);
-  painter.setPen(QPen(mark, 1));
+  // Of several, the first one stands out.
+  const bool isMain = &component == FSession.Main();
+  painter.setPen(QPen(isMain ? mark : palette().color(QPalette::Dark), 1));
   for (const THandle& handle : kHandles) {
     // What cannot be dragged is hollow.
-    painter.setBrush(CanDrag(control, handle) ? mark : palette().color(QPalette::Base));
+    painter.setBrush(isOne && CanDrag(component, handle) ? mark : palette().color(QPalette::Base));
     painter.drawRect(HandleRect(around, handle).adjusted(0, 0, -1, -1));
   }
 }

@@ -122,6 +122,7 @@ void TMainWindow::ConnectParts() {
     Surface().SetTool(nullptr);
     FPalette->LayAside();
   };
+  FPanel->OnAskPicture = [this] { return FQuestions.AskPictureName(); };
   Surface().OnInspect = [this] { FPanel->FocusGrid(); };
   FTree->OnInspect = [this] { FPanel->FocusGrid(); };
   Surface().OnMenu = [this](QPoint point) { OpenMenu(point); };
@@ -145,10 +146,14 @@ void TMainWindow::BringIntoView() {
   if (!inView.intersects(place)) FScroll->ensureVisible(place.center().x(), place.center().y(), 80, 80);
 }
 
-void TMainWindow::UpdateTitle() {
+QString TMainWindow::ShownName() const {
   const QString file = FSession.Document().FileName();
-  const QString name = file.isEmpty() ? FSession.Form().GetName() : QFileInfo(file).fileName();
-  setWindowTitle(name + QStringLiteral("[*] - Form designer"));
+  if (!file.isEmpty()) return QFileInfo(file).fileName();
+  return FUntitled.isEmpty() ? FSession.Form().GetName() : QStringLiteral("%1 (example)").arg(FUntitled);
+}
+
+void TMainWindow::UpdateTitle() {
+  setWindowTitle(ShownName() + QStringLiteral("[*] - Form designer"));
   setWindowModified(FSession.Document().IsModified());
 }
 
@@ -171,7 +176,8 @@ void TMainWindow::ShowOff() {
   const std::vector<TComponent*> all = FSession.Components();
   const TPlaces places = Surface().Places();
   const auto hasCaption = [&](TComponent* component) {
-    return component->ClassType()->FindProp(u"Caption") && places.IsShown(*component);
+    const bool isControl = dynamic_cast<TControl*>(component);
+    return isControl && component->ClassType()->FindProp(u"Caption") && places.IsShown(*component);
   };
   const auto found = std::find_if(all.begin() + 1, all.end(), hasCaption);
   FSession.Select(found == all.end() ? all.front() : *found);

@@ -5,6 +5,9 @@
 
 #include <QMainWindow>
 
+#include <functional>
+#include <memory>
+
 class QLabel;
 class QScrollArea;
 
@@ -34,6 +37,8 @@ class TMainWindow : public QMainWindow {
 
   // Files. What fails is told; false then, and when the user does not want to.
   bool Open(const QString& fileName);
+  /// One of those that come with the program, as a form that has no file yet.
+  bool OpenExample(const QString& fileName);
   bool NewForm();
   bool Save();
   bool SaveTo(const QString& fileName);
@@ -54,6 +59,8 @@ class TMainWindow : public QMainWindow {
   QWidget* MakeSide(const QString& title, QWidget* content);
   void ConnectParts();
   void Heard(TNews news);
+  /// What the title and questions call the form.
+  QString ShownName() const;
   void UpdateTitle();
   void UpdateStatus();
   void BringIntoView();
@@ -64,16 +71,22 @@ class TMainWindow : public QMainWindow {
   void BuildMenus();
   void BuildFileMenu();
   void BuildEditMenu();
+  void BuildComponentMenu();
   void BuildViewMenu();
   void BuildHelpMenu();
   void BuildToolBar();
   void UpdateActions();
+  void UpdatePartActions();
+  /// The names of those that depend on what is selected.
+  static QStringList PartActions();
   void OpenMenu(QPoint globalPoint);
   void GoToPane(int step);
   void ShowKeys();
 
   // Files.
   void AskAndOpen();
+  /// Goes on with another document; `untitled` is what it is called while it has no file.
+  bool Take(const std::function<std::unique_ptr<TFormDocument>()>& make, const QString& untitled);
   bool SaveAs();
   /// Whether nothing is lost by leaving the document.
   bool MayLeave();
@@ -86,11 +99,18 @@ class TMainWindow : public QMainWindow {
   void Step(void (TSession::*step)());
   void Cut();
   void Copy();
+  kt::TComponent* PasteTarget() const;
   void Paste();
   void Delete();
   void Remove(const QString& verb);
   void SelectAll();
   void PlaceInMiddle(const kt::TClassInfo* classInfo);
+  void NewPart(const kt::TClassInfo& part);
+  void NewPartIn(kt::TComponent* holder, const kt::TClassInfo& part);
+  static void ShowPage(kt::TComponent* component);
+  void ClearPicture();
+  void AddImages();
+  void ClearImages();
 
   TSession FSession;
   TQuestions FQuestions;
@@ -100,6 +120,11 @@ class TMainWindow : public QMainWindow {
   TComponentTree* FTree = nullptr;
   TInspectorPanel* FPanel = nullptr;
   QLabel* FStatus = nullptr;
+  /// What a form without a file is called.
+  QString FUntitled;
+  /// The names of what was copied last, and of what it was in.
+  QStringList FCopied;
+  QString FCopiedFrom;
 };
 
 }  // namespace designer

@@ -3,7 +3,7 @@
 #include "designer/palette/PaletteList.h"
 #include "designer/surface/Surface.h"
 #include "designer/tree/ComponentTree.h"
-#include "designer/window/MainWindow.h"
+#include "designer/window/MainWindowCommand.h"
 #include "designer/window/ShippedForms.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
 
@@ -19,15 +19,6 @@
 namespace designer {
 
 using namespace kt;
-
-struct TMainWindow::TCommand {
-  const char* Name;
-  QString Text;
-  QKeySequence Key;
-  std::function<void()> Do;
-  /// The key only counts where components are: elsewhere it edits text.
-  bool IsForComponents = false;
-};
 
 QAction* TMainWindow::Add(const TCommand& command) {
   auto* action = new QAction(command.Text, this);
@@ -58,6 +49,7 @@ void TMainWindow::BuildActions() {
 void TMainWindow::BuildMenus() {
   BuildFileMenu();
   BuildEditMenu();
+  BuildComponentMenu();
   BuildViewMenu();
   BuildHelpMenu();
 }
@@ -69,7 +61,7 @@ void TMainWindow::BuildFileMenu() {
   QMenu* examples = menu->addMenu(QStringLiteral("Open &example"));
   for (const QString& file : ShippedForms()) {
     QAction* action = examples->addAction(QFileInfo(file).fileName());
-    connect(action, &QAction::triggered, this, [this, file] { GuardedCall([&] { Open(file); }); });
+    connect(action, &QAction::triggered, this, [this, file] { GuardedCall([&] { OpenExample(file); }); });
   }
   examples->setEnabled(!examples->isEmpty());
   menu->addSeparator();
@@ -159,12 +151,17 @@ void TMainWindow::UpdateActions() {
   redo->setIconText(QStringLiteral("Redo"));
   const bool hasComponents = FSession.Main() != &FSession.Form();
   for (const char* name : {"cut", "copy", "delete"}) Action(QString::fromLatin1(name))->setEnabled(hasComponents);
+  UpdatePartActions();
 }
 
 void TMainWindow::OpenMenu(QPoint globalPoint) {
   QMenu menu(this);
   for (const char* name : {"cut", "copy", "paste", "delete", "selectAll", "inspect"}) {
     menu.addAction(Action(QString::fromLatin1(name)));
+  }
+  menu.addSeparator();
+  for (const QString& name : PartActions()) {
+    if (Action(name)->isEnabled()) menu.addAction(Action(name));
   }
   menu.exec(globalPoint);
 }
@@ -189,11 +186,12 @@ void TMainWindow::ShowKeys() {
           "<tr><td>Drag</td><td>move along the grid; with Alt freely</td></tr>"
           "<tr><td>Drag on free ground</td><td>select what the frame touches (on a panel: with Ctrl)</td></tr>"
           "<tr><td>Handles</td><td>size</td></tr>"
-          "<tr><td>Arrows</td><td>go to the neighbour</td></tr>"
-          "<tr><td>Ctrl+arrow, Shift+arrow</td><td>move, size by a pixel</td></tr>"
-          "<tr><td>Ctrl+Shift+arrow</td><td>move by a step of the grid</td></tr>"
-          "<tr><td>Tab, Shift+Tab</td><td>next, previous component</td></tr>"
+          "<tr><td>Arrow, Shift+arrow</td><td>move, size by a pixel</td></tr>"
+          "<tr><td>Ctrl+arrow, Ctrl+Shift+arrow</td><td>the same by a step of the grid</td></tr>"
+          "<tr><td>Alt+arrow</td><td>go to the neighbour</td></tr>"
+          "<tr><td>Tab, Shift+Tab</td><td>next, previous component, in tab order</td></tr>"
           "<tr><td>Escape</td><td>select what is around</td></tr>"
+          "<tr><td>Ins, Alt+Ins</td><td>new page, menu item or action; new item below</td></tr>"
           "<tr><td>Return</td><td>to the object inspector</td></tr></table>"
           "<p><b>Palette</b></p><table cellspacing=\"4\">"
           "<tr><td>Click or Space</td><td>take a class; click or drag on the form places it</td></tr>"
@@ -201,6 +199,7 @@ void TMainWindow::ShowKeys() {
           "<p><b>Object inspector</b></p><table cellspacing=\"4\">"
           "<tr><td>Alt+Right, Alt+Left</td><td>expand, collapse</td></tr>"
           "<tr><td>Alt+Down</td><td>open the list of values</td></tr>"
+          "<tr><td>Alt+Return</td><td>what the button of the row does</td></tr>"
           "<tr><td>Return, Escape</td><td>accept, take back</td></tr></table>"
           "<p><b>Anywhere</b></p><table cellspacing=\"4\">"
           "<tr><td>F6, Shift+F6</td><td>next, previous pane</td></tr>"

@@ -1,7 +1,9 @@
 // What the commands of the edit menu do.
+#include "designer/document/Parts.h"
 #include "designer/palette/PaletteList.h"
 #include "designer/surface/Surface.h"
 #include "designer/window/MainWindow.h"
+#include "kt/vcl/menus/MenuItem.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -52,7 +54,11 @@ void TMainWindow::Step(void (TSession::*step)()) {
 
 void TMainWindow::Copy() {
   const std::vector<TComponent*> parts = Parts(FSession);
-  if (!parts.empty()) QGuiApplication::clipboard()->setText(FSession.Document().CopyText(parts));
+  if (parts.empty()) return;
+  QGuiApplication::clipboard()->setText(FSession.Document().CopyText(parts));
+  FCopied.clear();
+  for (const TComponent* part : parts) FCopied.append(part->GetName());
+  FCopiedFrom = FSession.Document().ParentOf(parts.front())->GetName();
 }
 
 void TMainWindow::Remove(const QString& verb) {
@@ -62,6 +68,7 @@ void TMainWindow::Remove(const QString& verb) {
   TComponent* around = FSession.Document().ParentOf(parts.front());
   // What is around may be selected itself, and go too.
   while (std::find(parts.begin(), parts.end(), around) != parts.end()) around = FSession.Document().ParentOf(around);
+  FSession.Document().Settle();
   FSession.Document().Delete(parts);
   FSession.Edited(text);
   FSession.Select(around);
@@ -74,13 +81,28 @@ void TMainWindow::Cut() {
   Remove(QStringLiteral("Cut"));
 }
 
+/// What is pasted comes on this one, or into it. Beside an item that is all there is, or that was copied itself.
+TComponent* TMainWindow::PasteTarget() const {
+  TComponent* main = FSession.Main();
+  const auto* item = dynamic_cast<TMenuItem*>(main);
+  const bool isBeside = item && (item->GetCount() == 0 || FCopied.contains(item->GetName()));
+  return isBeside ? FSession.Document().ParentOf(main) : main;
+}
+
 void TMainWindow::Paste() {
   const QString text = QGuiApplication::clipboard()->text();
-  if (text.trimmed().isEmpty()) return;
-  TWinControl* container = Surface().Places().ContainerOf(FSession.Main());
-  const std::vector<TComponent*> pasted = FSession.Document().Paste(text, container);
+  if (text.trimmed().isEmpty() || !FinishEdits()) return;
+  const TFormDocument& document = FSession.Document();
+  TComponent* before = FSession.Main();
+  const std::vector<TComponent*> pasted =
+      FSession.Document().Paste(text, PasteTarget(), FCopiedFrom.isEmpty() ? nullptr : document.Find(FCopiedFrom));
   if (pasted.empty()) return;
   StepAside(pasted);
+  for (TComponent* component : pasted) {
+    PutBehind(component, before);
+    ShowPage(component);
+    if (IsPart(component->ClassType())) before = component;
+  }
   FSession.Edited(StepText(QStringLiteral("Paste"), pasted));
   FSession.Select(pasted);
 }
@@ -94,6 +116,7 @@ void TMainWindow::SelectAll() {
 }
 
 void TMainWindow::PlaceInMiddle(const TClassInfo* classInfo) {
+  FSession.Document().Settle();
   TWinControl* container = Surface().Places().ContainerOf(FSession.Main());
   const QPoint middle = container->GetClientRect().center();
   TComponent* added = FSession.Document().Add(classInfo, container, {Snapped(middle), QSize(0, 0)});

@@ -2,11 +2,12 @@
 #include "designer/inspector/InspectorPanel.h"
 #include "designer/surface/Surface.h"
 #include "designer/window/MainWindow.h"
-#include "designer/window/ShippedForms.h"
 #include "kt/rtl/objects/Exceptions.h"
 
 #include <QCloseEvent>
 #include <QFileInfo>
+
+#include <utility>
 
 namespace designer {
 
@@ -27,6 +28,8 @@ bool TMainWindow::Try(const std::function<void()>& call) {
 bool TMainWindow::FinishEdits() {
   return Try([this] {
     Surface().CancelDrag();
+    // What the form's windows have brought about is no edit.
+    FSession.Document().Settle();
     FPanel->Inspector().Validate();
   });
 }
@@ -34,9 +37,7 @@ bool TMainWindow::FinishEdits() {
 bool TMainWindow::MayLeave() {
   if (!FinishEdits()) return false;
   if (!FSession.Document().IsModified()) return true;
-  const QString file = FSession.Document().FileName();
-  const QString name = file.isEmpty() ? FSession.Form().GetName() : QFileInfo(file).fileName();
-  switch (FQuestions.AskToSave(name)) {
+  switch (FQuestions.AskToSave(ShownName())) {
     case saSave:
       return Save();
     case saDiscard:
@@ -46,19 +47,30 @@ bool TMainWindow::MayLeave() {
   }
 }
 
-bool TMainWindow::Open(const QString& fileName) {
+bool TMainWindow::Take(const std::function<std::unique_ptr<TFormDocument>()>& make, const QString& untitled) {
   if (!MayLeave()) return false;
-  return Try([&] { FSession.SetDocument(TFormDocument::OpenFile(fileName)); });
+  return Try([&] {
+    std::unique_ptr<TFormDocument> document = make();
+    FUntitled = untitled;
+    FSession.SetDocument(std::move(document));
+  });
+}
+
+bool TMainWindow::Open(const QString& fileName) {
+  return Take([&] { return TFormDocument::OpenFile(fileName); }, {});
+}
+
+bool TMainWindow::OpenExample(const QString& fileName) {
+  return Take([&] { return TFormDocument::OpenCopy(fileName); }, QFileInfo(fileName).fileName());
 }
 
 bool TMainWindow::NewForm() {
-  if (!MayLeave()) return false;
-  return Try([&] { FSession.SetDocument(TFormDocument::New()); });
+  return Take([] { return TFormDocument::New(); }, {});
 }
 
 void TMainWindow::AskAndOpen() {
   const QString present = FSession.Document().FileName();
-  const QString folder = QFileInfo(present.isEmpty() ? FirstForm() : present).path();
+  const QString folder = present.isEmpty() ? QString() : QFileInfo(present).path();
   const QString name = FQuestions.AskOpenName(folder);
   if (!name.isEmpty()) Open(name);
 }
@@ -70,7 +82,8 @@ bool TMainWindow::Save() {
 
 bool TMainWindow::SaveAs() {
   const QString present = FSession.Document().FileName();
-  const QString name = FQuestions.AskSaveName(present.isEmpty() ? QStringLiteral("form1.dfm") : present);
+  const QString unnamed = FUntitled.isEmpty() ? QStringLiteral("form1.dfm") : FUntitled;
+  const QString name = FQuestions.AskSaveName(present.isEmpty() ? unnamed : present);
   return !name.isEmpty() && SaveTo(name);
 }
 

@@ -1,6 +1,7 @@
 #include "designer/window/Questions.h"
 
 #include <QFileDialog>
+#include <QImageReader>
 #include <QMessageBox>
 
 namespace designer {
@@ -8,6 +9,15 @@ namespace designer {
 namespace {
 
 QString Filters() { return QStringLiteral("Forms (*.dfm *.lfm *.xfm *.fmx *.res);;All files (*)"); }
+
+/// What Qt reads.
+QString PictureFilters() {
+  QStringList patterns;
+  for (const QByteArray& format : QImageReader::supportedImageFormats()) {
+    patterns.append(QStringLiteral("*.") + QString::fromLatin1(format));
+  }
+  return QStringLiteral("Pictures (%1);;All files (*)").arg(patterns.join(u' '));
+}
 
 TSaveAnswer AskToSave(QWidget& window, const QString& name) {
   const auto answer = QMessageBox::question(&window, QStringLiteral("Form designer"),
@@ -30,6 +40,12 @@ TQuestions QuestionsOf(QWidget& window) {
   };
   questions.AskSaveName = [&window](const QString& name) {
     return QFileDialog::getSaveFileName(&window, QStringLiteral("Save the form"), name, Filters());
+  };
+  questions.AskPictureName = [&window] {
+    return QFileDialog::getOpenFileName(&window, QStringLiteral("Load a picture"), QString(), PictureFilters());
+  };
+  questions.AskPictureNames = [&window] {
+    return QFileDialog::getOpenFileNames(&window, QStringLiteral("Add images"), QString(), PictureFilters());
   };
   return questions;
 }

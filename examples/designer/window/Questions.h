@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -19,6 +20,8 @@ struct TQuestions {
   /// Names of files; empty when the user does not want to.
   std::function<QString(const QString& folder)> AskOpenName;
   std::function<QString(const QString& name)> AskSaveName;
+  std::function<QString()> AskPictureName;
+  std::function<QStringList()> AskPictureNames;
 };
 
 TQuestions QuestionsOf(QWidget& window);

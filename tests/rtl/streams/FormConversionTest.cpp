@@ -23,12 +23,17 @@ QStringList FilesIn(const QString& folder, const QString& pattern) {
   return names;
 }
 
-/// The files whose text does not come back the same through binary.
+bool SurvivesTheOtherFormat(const QByteArray& form) {
+  if (TestStreamFormat(form) == sofBinary) return ToBinary(ToText(form)) == form;
+  const QByteArray text = QByteArray(form).replace("\r\n", "\n");
+  return ToText(ToBinary(text)) == text;
+}
+
+/// The files that do not come back the same through the other format.
 QStringList ChangedFiles(const QStringList& names) {
   QStringList changed;
   for (const QString& name : names) {
-    const QByteArray text = FileContent(name).replace("\r\n", "\n");
-    if (ToText(ToBinary(text)) != text) changed += name.section(u'/', -1);
+    if (!SurvivesTheOtherFormat(FileContent(name))) changed += name.section(u'/', -1);
   }
   return changed;
 }

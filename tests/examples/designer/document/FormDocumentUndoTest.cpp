@@ -108,6 +108,36 @@ TEST_F(FormDocumentUndoTest, ViewsAreToldBeforeTheFormGoesAndAfterAnotherHasCome
   EXPECT_EQ(QStringList({"leaving", "replaced, Left 50"}), log);
 }
 
+TEST_F(FormDocumentUndoTest, WhoIsToldOfAnotherFormFindsTheListOfStepsWhereItIs) {
+  Move(50);
+  QStringList log;
+  FDocument->OnFormReplaced = [&] {
+    log +=
+        QStringLiteral("at %1%2").arg(FDocument->UndoStack().index()).arg(FDocument->IsModified() ? " modified" : "");
+  };
+  FDocument->Undo();
+  FDocument->Redo();
+  FDocument->UndoStack().undo();
+  EXPECT_EQ(QStringList({"at 0", "at 1 modified", "at 0"}), log);
+}
+
+TEST_F(FormDocumentUndoTest, OfSeveralStepsAtOnceViewsAreToldOnce) {
+  Move(50);
+  Move(51);
+  QStringList log;
+  FDocument->OnFormLeaving = [&] { log += "leaving"; };
+  FDocument->OnFormReplaced = [&] { log += QStringLiteral("replaced, Left %1").arg(Left()); };
+  FDocument->UndoStack().setIndex(0);
+  EXPECT_EQ(QStringList({"leaving", "replaced, Left 3"}), log);
+}
+
+TEST_F(FormDocumentUndoTest, WhatAViewOfTheNewFormRaisesComesOutOfUndo) {
+  Move(50);
+  FDocument->OnFormReplaced = [] { throw kt::EInvalidOperation("busy"); };
+  EXPECT_EQ("busy", MessageOf<kt::EInvalidOperation>([this] { FDocument->Undo(); }));
+  EXPECT_EQ(3, Left());
+}
+
 TEST_F(FormDocumentUndoTest, AnEditThatWasNotCommittedCanBeTakenBack) {
   Move(50);
   EXPECT_FALSE(FDocument->Revert());

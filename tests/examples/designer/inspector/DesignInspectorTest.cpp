@@ -3,6 +3,8 @@
 #include "kt/vcl/menus/PopupMenu.h"
 #include "kt/vcl/stdctrls/Button.h"
 
+#include <QLineEdit>
+
 namespace designer::tests {
 namespace {
 
@@ -79,6 +81,20 @@ TEST_F(DesignInspectorTest, EveryObjectGetsAWidth) {
   EXPECT_EQ(Bounds("Button1"), "16 16 120 25");
   EXPECT_EQ(Bounds("Button2"), "120 16 120 25");
   EXPECT_EQ(UndoText(), "Change Width");
+}
+
+TEST_F(DesignInspectorTest, ASizeThatNoScreenShowsIsToldAndLeavesTheOldOne) {
+  Select("SmallForm");
+  TypeInto("ClientWidth", "99999999");
+  EXPECT_EQ(TakeTold(), "\"99999999\" is not a valid Integer value: ClientWidth must be from -32767 to 32767");
+  EXPECT_EQ(Bounds("SmallForm"), "40 30 300 200");
+  EXPECT_FALSE(Document().IsModified());
+}
+
+TEST_F(DesignInspectorTest, NeitherDoesAConstraintForceOne) {
+  Select("Button1");
+  EXPECT_THROW(Write("Constraints.MinWidth", "99999999"), kt::Exception);
+  EXPECT_EQ(Bounds("Button1"), "16 16 75 25");
 }
 
 TEST_F(DesignInspectorTest, SeveralObjectsHaveNoNameInCommon) {
@@ -218,6 +234,16 @@ TEST_F(DesignInspectorTest, TheRowWithTheKeyboardShowsItsEditor) {
   EXPECT_TRUE(Inspector().InplaceEditor()->Visible());
 }
 
+TEST_F(DesignInspectorTest, TheEditorShowsWhatAnotherSelectionHasInItsRow) {
+  const auto edited = [this] { return Inspector().GetHandle()->findChild<QLineEdit*>()->text(); };
+  Click(At("Button1"));
+  GoToRow("Width");
+  EXPECT_EQ(edited(), "75");
+  Key(Qt::Key_F12);
+  Click(At("Button2"));
+  EXPECT_EQ(edited(), "89");
+}
+
 TEST_F(DesignInspectorTest, TheTitleIsNobodysWhenSeveralAreInspected) {
   Select("Button1");
   EXPECT_EQ(Inspector().GetCell(1, 0), "Button1");
@@ -228,7 +254,7 @@ TEST_F(DesignInspectorTest, TheTitleIsNobodysWhenSeveralAreInspected) {
 TEST_F(DesignInspectorTest, MovingOnTheFormShowsInTheInspector) {
   Select("Button1");
   Surface().setFocus();
-  Key(Qt::Key_Right, Qt::ControlModifier);
+  Key(Qt::Key_Right);
   EXPECT_EQ(Value("Left"), "17");
 }
 

@@ -44,7 +44,7 @@ TEST_F(SessionTest, TellsOfAnotherFormBeforeTheOldOneGoes) {
   Session().Edited("Move Button1");
   EXPECT_EQ(News(), "edited");
   Session().Undo();
-  EXPECT_EQ(News(), "leaving form edited");
+  EXPECT_EQ(News(), "leaving form");
 }
 
 TEST_F(SessionTest, FindsWhatAStepHasRenamed) {

@@ -5,21 +5,36 @@ namespace {
 
 class SurfaceKeysTest : public TDesignerTest {};
 
-TEST_F(SurfaceKeysTest, ControlAndAnArrowMoveByAPixel) {
+TEST_F(SurfaceKeysTest, AnArrowMovesByAPixel) {
   Select("Button1");
-  Key(Qt::Key_Right, Qt::ControlModifier);
-  Key(Qt::Key_Down, Qt::ControlModifier);
+  Key(Qt::Key_Right);
+  Key(Qt::Key_Down);
   EXPECT_EQ(Bounds("Button1"), "17 17 75 25");
+}
+
+TEST_F(SurfaceKeysTest, AnArrowMovesAllThatIsSelected) {
+  Session().Select({&Component("Button1"), &Component("CheckBox1")});
+  Key(Qt::Key_Left);
+  EXPECT_EQ(Bounds("Button1"), "15 16 75 25");
+  EXPECT_EQ(Bounds("CheckBox1"), "15 80 97 17");
+  EXPECT_EQ(UndoText(), "Move 2 components");
 }
 
 TEST_F(SurfaceKeysTest, MovesByKeysAreOneStep) {
   Select("Button1");
-  Key(Qt::Key_Right, Qt::ControlModifier);
-  Key(Qt::Key_Right, Qt::ControlModifier);
-  Key(Qt::Key_Right, Qt::ControlModifier);
+  Key(Qt::Key_Right);
+  Key(Qt::Key_Right);
+  Key(Qt::Key_Down, Qt::ControlModifier);
   EXPECT_EQ(UndoText(), "Move Button1");
-  Do("undo");
+  EXPECT_EQ(Document().UndoStack().count(), 1);
+  Key(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Bounds("Button1"), "16 16 75 25");
+}
+
+TEST_F(SurfaceKeysTest, ControlAndAnArrowMoveByAStepOfTheGrid) {
+  Select("Button1");
+  Key(Qt::Key_Left, Qt::ControlModifier);
+  EXPECT_EQ(Bounds("Button1"), "8 16 75 25");
 }
 
 TEST_F(SurfaceKeysTest, ShiftAndAnArrowSizeByAPixel) {
@@ -30,20 +45,32 @@ TEST_F(SurfaceKeysTest, ShiftAndAnArrowSizeByAPixel) {
   EXPECT_EQ(UndoText(), "Size Button1");
 }
 
-TEST_F(SurfaceKeysTest, BothMoveByAStepOfTheGrid) {
+TEST_F(SurfaceKeysTest, BothSizeByAStepOfTheGrid) {
   Select("Button1");
-  Key(Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_EQ(Bounds("Button1"), "8 16 75 25");
+  Key(Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(Bounds("Button1"), "16 16 83 25");
 }
 
-TEST_F(SurfaceKeysTest, AnArrowGoesToTheNeighbour) {
+TEST_F(SurfaceKeysTest, AltAndAnArrowGoToTheNeighbour) {
   Select("Button1");
-  Key(Qt::Key_Right);
+  Key(Qt::Key_Right, Qt::AltModifier);
   EXPECT_EQ(Selected(), "Button2");
-  Key(Qt::Key_Left);
+  Key(Qt::Key_Left, Qt::AltModifier);
   EXPECT_EQ(Selected(), "Button1");
-  Key(Qt::Key_Down);
+  Key(Qt::Key_Down, Qt::AltModifier);
   EXPECT_EQ(Selected(), "CheckBox1");
+  EXPECT_FALSE(Document().IsModified());
+}
+
+TEST_F(SurfaceKeysTest, TabGoesByTheOrderOfTabs) {
+  dynamic_cast<kt::TWinControl&>(Component("CheckBox1")).SetTabOrder(0);
+  Select("SmallForm");
+  QStringList way;
+  for (int i = 0; i < 4; ++i) {
+    Key(Qt::Key_Tab);
+    way.append(Selected());
+  }
+  EXPECT_EQ(way.join(u' '), "CheckBox1 Button1 Button2 Menu1");
 }
 
 TEST_F(SurfaceKeysTest, TabGoesThroughAllComponentsAndRound) {

@@ -103,6 +103,20 @@ TEST_F(SurfaceMouseTest, AHandleOnTheLeftLeavesTheRightSideAlone) {
   EXPECT_EQ(Bounds("Button2"), "136 16 73 25");
 }
 
+TEST_F(SurfaceMouseTest, EachOfSeveralShowsItsHandles) {
+  Session().Select({&Component("Button1"), &Component("Button2")});
+  Settle();
+  const QImage picture = Surface().grab().toImage();
+  const auto colour = [&](QPoint point) { return picture.pixelColor(point).name(); };
+  const QPalette palette = Surface().palette();
+  for (int handle = 0; handle < kHandleCount; ++handle) {
+    EXPECT_EQ(colour(Handle("Button1", handle) - QPoint(3, 3)), palette.color(QPalette::Highlight).name()) << handle;
+    EXPECT_EQ(colour(Handle("Button1", handle)), palette.color(QPalette::Base).name()) << handle;
+    EXPECT_EQ(colour(Handle("Button2", handle) - QPoint(3, 3)), palette.color(QPalette::Dark).name()) << handle;
+    EXPECT_EQ(colour(Handle("Button2", handle)), palette.color(QPalette::Base).name()) << handle;
+  }
+}
+
 TEST_F(SurfaceMouseTest, ConstraintsHoldTheSideThatIsNotDragged) {
   Control("Button2").GetConstraints().SetMinWidth(80);
   Select("Button2");

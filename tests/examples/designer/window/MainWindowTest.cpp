@@ -7,10 +7,19 @@ namespace {
 
 class MainWindowTest : public TDesignerTest {
  protected:
+  /// How many colours the picture of the window has where a part is.
+  int ColoursOf(const QImage& picture, const QWidget& part) {
+    const QImage place = picture.copy(QRect(part.mapTo(FWindow.get(), QPoint()), part.size()));
+    QSet<QRgb> colours;
+    for (int y = 0; y < place.height(); ++y) {
+      for (int x = 0; x < place.width(); ++x) colours.insert(place.pixel(x, y));
+    }
+    return static_cast<int>(colours.size());
+  }
   void Change() {
     Select("Button1");
     Surface().setFocus();
-    Key(Qt::Key_Right, Qt::ControlModifier);
+    Key(Qt::Key_Right);
   }
 };
 
@@ -124,6 +133,19 @@ TEST_F(MainWindowTest, WhatIsSelectedComesIntoView) {
   EXPECT_TRUE(Surface().visibleRegion().contains(At("Button2")));
 }
 
+TEST_F(MainWindowTest, AFormLargerThanAnyScreenIsShownInPartAndKept) {
+  const QByteArray huge = QByteArray(SmallForm()).replace("ClientWidth = 300", "ClientWidth = 99999999");
+  FFile = FileWith("huge.dfm", huge);
+  EXPECT_TRUE(FWindow->Open(FFile));
+  Settle();
+  EXPECT_LT(Surface().width(), 40000);
+  Click(At("Button1"));
+  EXPECT_EQ(Selected(), "Button1");
+  Key(Qt::Key_Right);
+  Key(Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(ContentOf(FFile), QString(huge).replace("Left = 16\n    Top = 16", "Left = 17\n    Top = 16"));
+}
+
 TEST_F(MainWindowTest, UndoBringsBackWhatWasDeleted) {
   Select("Button1");
   Surface().setFocus();
@@ -165,10 +187,17 @@ TEST_F(MainWindowTest, ItDrawsItself) {
   FWindow->ShowOff();
   Settle();
   const QImage picture = FWindow->grab().toImage();
-  EXPECT_GT(picture.width(), 800);
-  const QRect form = RectOf("SmallForm");
-  const QPoint ground = Surface().mapTo(FWindow.get(), form.center() + QPoint(0, 40));
-  EXPECT_TRUE(picture.rect().contains(ground));
+  const auto colourAt = [&](const QWidget& part, QPoint point) {
+    return picture.pixelColor(part.mapTo(FWindow.get(), point)).name();
+  };
+  // The form's ground with a dot of the grid, a handle of what is selected, and texts in all lists.
+  EXPECT_NE(colourAt(Surface(), OnForm(240, 160)), colourAt(Surface(), OnForm(243, 163)));
+  EXPECT_EQ(colourAt(Surface(), OnForm(241, 161)), colourAt(Surface(), OnForm(243, 163)));
+  EXPECT_EQ(Selected(), "Button1");
+  EXPECT_EQ(colourAt(Surface(), RectOf("Button1").topLeft()), Surface().palette().color(QPalette::Highlight).name());
+  EXPECT_GT(ColoursOf(picture, FWindow->Tree()), 8);
+  EXPECT_GT(ColoursOf(picture, FWindow->Palette()), 8);
+  EXPECT_GT(ColoursOf(picture, *FWindow->Panel().Inspector().GetHandle()), 8);
 }
 
 }  // namespace

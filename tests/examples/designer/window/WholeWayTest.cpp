@@ -7,6 +7,19 @@ namespace {
 class WholeWayTest : public TDesignerTest {
  protected:
   QString File() { return QString::fromUtf8(Document().FileBytes()); }
+  /// A click on the value of a row that shows.
+  void ClickRow(const QString& path) {
+    for (int row = 0; row < Inspector().GetVisibleItemCount(); ++row) {
+      kt::TKTItemProperty* item = Inspector().GetVisibleItem(row);
+      if (item->GetFullPathName() != path) continue;
+      const QRect cell = Inspector().CellRect(1, row + 1);
+      QWidget* grid = Inspector().GetHandle();
+      QWidget* there = grid->childAt(cell.center()) ? grid->childAt(cell.center()) : grid;
+      QTest::mouseClick(there, Qt::LeftButton, Qt::NoModifier, there->mapFrom(grid, cell.center()));
+      Settle();
+    }
+    EXPECT_EQ(SelectedRow(), path);
+  }
   void Edit() {
     Click(At("Button1"));
     Click(At("Button2"), Qt::ShiftModifier);
@@ -20,6 +33,12 @@ class WholeWayTest : public TDesignerTest {
     FStates.append(File());
     Pick("Font.Color", "clRed");
     FStates.append(File());
+  }
+  /// On the form, by its key.
+  void OnTheForm(Qt::Key key) {
+    Key(Qt::Key_F12);
+    EXPECT_TRUE(Surface().hasFocus());
+    Key(key, Qt::ControlModifier);
   }
 
   QStringList FStates{QString(SmallForm())};
@@ -36,27 +55,37 @@ TEST_F(WholeWayTest, BothButtonsGetWhatIsTypedAndPicked) {
   EXPECT_EQ(TakeTold(), "");
 }
 
+TEST_F(WholeWayTest, TheMouseFindsARowToTypeInto) {
+  Click(At("Button1"));
+  ClickRow("Caption");
+  Key(Qt::Key_A, Qt::ControlModifier);
+  Type("Go");
+  Key(Qt::Key_Return);
+  OnTheForm(Qt::Key_S);
+  EXPECT_EQ(ContentOf(FFile), QString(SmallForm()).replace("'One'", "'Go'"));
+}
+
 TEST_F(WholeWayTest, EachStepIsUndoneAndRedone) {
   Edit();
   EXPECT_EQ(Document().UndoStack().count(), 3);
   QStringList back(File());
   for (int i = 0; i < 3; ++i) {
-    Do("undo");
+    OnTheForm(Qt::Key_Z);
     back.prepend(File());
   }
   EXPECT_EQ(back, FStates);
   EXPECT_EQ(Selected(), "Button1 Button2");
-  for (int i = 0; i < 3; ++i) Do("redo");
+  for (int i = 0; i < 3; ++i) OnTheForm(Qt::Key_Y);
   EXPECT_EQ(File(), FStates.last());
 }
 
 TEST_F(WholeWayTest, WhatIsSavedDiffersInTheChangedLinesOnly) {
   Edit();
-  const QString other = FFolder.filePath("saved.dfm");
-  EXPECT_TRUE(FWindow->SaveTo(other));
+  OnTheForm(Qt::Key_S);
+  EXPECT_FALSE(FWindow->isWindowModified());
   QStringList added;
   QStringList left = QString(SmallForm()).split(u'\n');
-  for (const QString& line : ContentOf(other).split(u'\n')) {
+  for (const QString& line : ContentOf(FFile).split(u'\n')) {
     if (!left.removeOne(line)) added.append(line.trimmed());
   }
   left.replaceInStrings(QStringLiteral("    "), QString());
@@ -70,11 +99,14 @@ TEST_F(WholeWayTest, WhatIsSavedDiffersInTheChangedLinesOnly) {
 TEST_F(WholeWayTest, WhatIsSavedLoadsAgain) {
   Edit();
   const QString tree = Document().TreeText();
-  const QString other = FFolder.filePath("saved.dfm");
-  EXPECT_TRUE(FWindow->SaveTo(other));
-  EXPECT_TRUE(FWindow->Open(other));
+  OnTheForm(Qt::Key_S);
+  OnTheForm(Qt::Key_N);
+  EXPECT_EQ(Session().Form().GetName(), "Form1");
+  FWindow->Questions().AskOpenName = [this](const QString&) { return FFile; };
+  OnTheForm(Qt::Key_O);
   EXPECT_EQ(Document().TreeText(), tree);
-  EXPECT_EQ(QString::fromUtf8(Document().FileBytes()), ContentOf(other));
+  EXPECT_EQ(QString::fromUtf8(Document().FileBytes()), ContentOf(FFile));
+  EXPECT_EQ(TakeTold(), "");
 }
 
 }  // namespace
