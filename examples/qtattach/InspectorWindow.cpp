@@ -45,8 +45,8 @@ std::vector<QObject*> TInspectorWindow::OtherWindows() const {
   std::vector<QObject*> windows;
   for (QWidget* window : QApplication::topLevelWidgets()) {
     const bool isOwn = window == this || window->parent() || StandsBefore(*window, *this);
-    const bool isListed = qtinspect::IsListed(*window) && window->windowType() != Qt::Desktop &&
-                          window->windowType() != Qt::ToolTip;
+    const bool isListed =
+        qtinspect::IsListed(*window) && window->windowType() != Qt::Desktop && window->windowType() != Qt::ToolTip;
     if (!isOwn && isListed) windows.push_back(window);
   }
   return windows;

@@ -12,11 +12,14 @@
 namespace {
 
 void DescribeOptions(QCommandLineParser& parser) {
-  parser.setApplicationDescription(QStringLiteral(
-      "Shows an ordinary window, and an inspector attached to it: F8 and a click pick what to inspect, Shift+click adds,\n"
-      "Esc ends; Ctrl+Shift+click picks at any time, also in open menus and dialogs. Ctrl+Shift+I opens the inspector.\n"
-      "What stands behind a modal dialog is picked in the tree. With --draw, and without a display, draws the inspector\n"
-      "into a picture and prints what it lists instead."));
+  parser.setApplicationDescription(
+      QStringLiteral("Shows an ordinary window, and an inspector attached to it: F8 and a click pick what to inspect, "
+                     "Shift+click adds,\n"
+                     "Esc ends; Ctrl+Shift+click picks at any time, also in open menus and dialogs. Ctrl+Shift+I opens "
+                     "the inspector.\n"
+                     "What stands behind a modal dialog is picked in the tree. With --draw, and without a display, "
+                     "draws the inspector\n"
+                     "into a picture and prints what it lists instead."));
   parser.addHelpOption();
   examples::AddDrawOptions(parser);
   examples::AddLookOptions(parser);

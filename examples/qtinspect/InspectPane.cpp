@@ -66,8 +66,9 @@ TInspectPane::~TInspectPane() {
 void TInspectPane::Build() {
   FPick->setObjectName(QStringLiteral("pick"));
   FPick->setText(QStringLiteral("Pick by pointer"));
-  FPick->setToolTip(QStringLiteral("Then click on what to inspect; Shift+click adds, Esc ends.\n"
-                                   "Ctrl+Shift+click picks at any time."));
+  FPick->setToolTip(
+      QStringLiteral("Then click on what to inspect; Shift+click adds, Esc ends.\n"
+                     "Ctrl+Shift+click picks at any time."));
   FPick->setAccessibleName(QStringLiteral("Pick an object by pointer"));
   FPick->setCheckable(true);
   FPick->setFocusPolicy(Qt::StrongFocus);

@@ -63,7 +63,8 @@ void TInspectPanel::Build() {
   FHidden->setCheckable(true);
   FHidden->setChecked(GetListsHiddenProperties());
   connect(FHidden, &QToolButton::toggled, this, [this](bool value) { GuardedCall([&] { SetHidden(value); }); });
-  QToolButton* reset = MakeButton(QStringLiteral("Reset"), QStringLiteral("Give the selected property its first value"));
+  QToolButton* reset =
+      MakeButton(QStringLiteral("Reset"), QStringLiteral("Give the selected property its first value"));
   connect(reset, &QToolButton::clicked, this, [this] { GuardedCall([this] { ResetSelected(); }); });
 
   auto* row = new QHBoxLayout;
@@ -126,7 +127,7 @@ void TInspectPanel::Inspect() {
   for (QObject* object : objects) {
     if (TComponent* component = ComponentOf(object)) components.push_back(component);
   }
-  FHead->setText(objects.empty()      ? QStringLiteral("Nothing selected")
+  FHead->setText(objects.empty()       ? QStringLiteral("Nothing selected")
                  : objects.size() == 1 ? TitleOf(*objects.front())
                                        : QStringLiteral("%1 objects selected").arg(objects.size()));
   FillCategories(objects);
@@ -141,7 +142,8 @@ void TInspectPanel::FillCategories(const std::vector<QObject*>& objects) {
     for (const QMetaObject* meta = object->metaObject(); meta && !seen.contains(meta); meta = meta->superClass()) {
       seen.insert(meta);
       for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i) {
-        lines->Add(QStringLiteral("%1=%2").arg(QLatin1String(meta->property(i).name()), QLatin1String(meta->className())));
+        lines->Add(
+            QStringLiteral("%1=%2").arg(QLatin1String(meta->property(i).name()), QLatin1String(meta->className())));
       }
     }
   }

@@ -36,8 +36,7 @@ bool IsInnerClass(const QObject& object) {
   constexpr const char* kClasses[] = {"QLineEditIconButton", "QTableCornerButton", "QComboBoxPrivateContainer",
                                       "QMenuBarExtension",   "QToolBarExtension",  "QToolBarSeparator",
                                       "QTipLabel",           "QSizeGrip",          "QCompleter"};
-  return std::any_of(std::begin(kClasses), std::end(kClasses),
-                     [&](const char* name) { return object.inherits(name); });
+  return std::any_of(std::begin(kClasses), std::end(kClasses), [&](const char* name) { return object.inherits(name); });
 }
 
 /// Has nothing but what people put there.

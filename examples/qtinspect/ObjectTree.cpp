@@ -39,7 +39,8 @@ TObjectTree::TObjectTree(TSelection& selection, TRoots roots, QWidget* parent)
           [this](QTreeWidgetItem* item) { FCollapsed.insert(ObjectOf(item)); });
   connect(this, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) { FCollapsed.remove(ObjectOf(item)); });
   selection.Listen([this] { ShowSelection(); });
-  Refresh();
+  // The window that this tree is to stand in is only being made.
+  RefreshLater();
   QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -66,9 +67,8 @@ void TObjectTree::Refresh() {
   if (wanted != FShown) {
     FShown = wanted;
     const QScopedValueRollback<bool> filling(FIsFilling, true);
-    for (const QPointer<QObject>& object : FObjects) {
-      if (object) object->disconnect(this);
-    }
+    for (const QMetaObject::Connection& watch : FWatches) disconnect(watch);
+    FWatches.clear();
     FObjects.clear();
     clear();
     for (QObject* root : roots) Fill(new QTreeWidgetItem(this), root);
@@ -80,8 +80,8 @@ void TObjectTree::Fill(QTreeWidgetItem* item, QObject* object) {
   item->setText(0, TitleOf(*object));
   item->setData(0, kPlaceRole, static_cast<int>(FObjects.size()));
   FObjects.emplace_back(object);
-  connect(object, &QObject::objectNameChanged, this, [this] { RefreshLater(); });
-  connect(object, &QObject::destroyed, this, [this] { RefreshLater(); });
+  FWatches.push_back(connect(object, &QObject::objectNameChanged, this, [this] { RefreshLater(); }));
+  FWatches.push_back(connect(object, &QObject::destroyed, this, [this] { RefreshLater(); }));
   for (QObject* child : ListedChildren(*object)) Fill(new QTreeWidgetItem(item), child);
   item->setExpanded(!FCollapsed.contains(object));
 }

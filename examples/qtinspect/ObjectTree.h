@@ -44,6 +44,7 @@ class TObjectTree : public QTreeWidget {
   /// What the tree shows now, and the objects of its items; the tree is only made anew when that changes.
   QStringList FShown;
   std::vector<QPointer<QObject>> FObjects;
+  std::vector<QMetaObject::Connection> FWatches;
   /// Never looked into, as they may be gone.
   QSet<const QObject*> FCollapsed;
   bool FIsFilling = false;

@@ -12,8 +12,8 @@ class QWidget;
 
 namespace qtinspect {
 
-/// Draws frames around objects, over whatever their windows paint there, without a widget more in these windows: follows
-/// their paint events. Around widgets and layouts; other objects have no place to be framed at.
+/// Draws frames around objects, over whatever their windows paint there, without a widget more in these windows:
+/// follows their paint events. Around widgets and layouts; other objects have no place to be framed at.
 class TOutline : public QObject {
  public:
   explicit TOutline(const QColor& color) : FColor(color) {}

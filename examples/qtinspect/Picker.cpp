@@ -69,8 +69,8 @@ QObject* TPicker::Hovered() const {
   return framed.empty() ? nullptr : framed.front();
 }
 
-/// Events of the mouse are taken before a window has looked which of its widgets gets them, as widgets that are disabled
-/// or do not follow the mouse would never be asked.
+/// Events of the mouse are taken before a window has looked which of its widgets gets them, as widgets that are
+/// disabled or do not follow the mouse would never be asked.
 bool TPicker::eventFilter(QObject* watched, QEvent* event) {
   if (!watched->isWindowType() && !watched->isWidgetType()) return false;
   switch (event->type()) {
@@ -105,7 +105,10 @@ QObject* TPicker::FindObject(QObject* watched, const QPoint& globalPoint) const 
 }
 
 bool TPicker::Pressed(QObject* watched, const QMouseEvent& event) {
-  if (FHasPress) return true;
+  // A window that goes when it is picked in takes the release along.
+  const bool isFirst = event.type() == QEvent::MouseButtonPress && event.buttons() == event.button();
+  if (FHasPress && !isFirst) return true;
+  FHasPress = false;
   const bool isByKeys = event.button() == Qt::LeftButton && event.modifiers() == kPickAlways;
   if (!FIsPicking && !isByKeys) return false;
   QObject* object = FindObject(watched, event.globalPosition().toPoint());

@@ -15,9 +15,9 @@ namespace qtinspect {
 
 /// Picks objects of this program by pointer: a click on them does nothing else, and disabled ones can be picked, too.
 ///
-/// A click with Ctrl and Shift held picks at any time, also in pop-ups and open menus, whose items are picked. While the
-/// picker picks, a plain click does, and ends it, but goes on with Ctrl or Shift held, which add to what is picked; what
-/// is below the pointer is framed, and Esc or another mouse button ends it.
+/// A click with Ctrl and Shift held picks at any time, also in pop-ups and open menus, whose items are picked. While
+/// the picker picks, a plain click does, and ends it, but goes on with Ctrl or Shift held, which add to what is picked;
+/// what is below the pointer is framed, and Esc or another mouse button ends it.
 class TPicker : public QObject {
  public:
   TPicker();

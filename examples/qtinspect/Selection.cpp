@@ -28,7 +28,8 @@ void TSelection::Select(const std::vector<QObject*>& objects) {
   FObjects.assign(objects.begin(), objects.end());
   // Later: the object is in the middle of its destruction.
   for (QObject* object : objects) {
-    connect(object, &QObject::destroyed, this, [this] { Tell(); }, Qt::QueuedConnection);
+    connect(
+        object, &QObject::destroyed, this, [this] { Tell(); }, Qt::QueuedConnection);
   }
   Tell();
 }

@@ -45,8 +45,7 @@ void TFormHost::Show(std::unique_ptr<QWidget> form) {
   FForm->show();
   FFrame->show();
   FFrame->resize(FFrame->size() - FForm->size() + size);
-  FFrame->move(isRightToLeft() ? std::max(width() - FFrame->width() - kPlace.x(), kPlace.x()) : kPlace.x(),
-               kPlace.y());
+  FFrame->move(isRightToLeft() ? std::max(width() - FFrame->width() - kPlace.x(), kPlace.x()) : kPlace.x(), kPlace.y());
 }
 
 void TFormHost::FocusForm() {

@@ -43,9 +43,8 @@ void TUiWindow::BuildParts() {
   FHost->OnClosing = [this] {
     statusBar()->showMessage(QStringLiteral("The form would close now. Here it stays."), 4000);
   };
-  FPane = new qtinspect::TInspectPane([this] {
-    return FHost->Form() ? std::vector<QObject*>{FHost->Form()} : std::vector<QObject*>{};
-  });
+  FPane = new qtinspect::TInspectPane(
+      [this] { return FHost->Form() ? std::vector<QObject*>{FHost->Form()} : std::vector<QObject*>{}; });
   FPane->OnPicked = [this] { FPane->Panel().FocusGrid(); };
   FPane->Selection().Listen([this] { UpdateStatus(); });
   auto* parts = new QSplitter(Qt::Horizontal);
@@ -143,7 +142,8 @@ void TUiWindow::ShowHelp() {
           "<tr><td>Ctrl+Shift+click</td><td>the same at any time, also in open menus</td></tr>"
           "<tr><td>In the tree</td><td>click or arrow keys select, with Shift or Ctrl several; Return goes to the "
           "inspector</td></tr>"
-          "<tr><td>Alt+Down, Return, Escape</td><td>in the inspector: open a list of values, accept, take back</td></tr>"
+          "<tr><td>Alt+Down, Return, Escape</td><td>in the inspector: open a list of values, accept, take "
+          "back</td></tr>"
           "<tr><td>F6, Shift+F6</td><td>next, previous pane</td></tr>"
           "<tr><td>F11, F12</td><td>inspector, form</td></tr>"
           "<tr><td>Ctrl+F, Ctrl+O, Ctrl+Q</td><td>filter, open, quit, while the tree or the inspector has the "

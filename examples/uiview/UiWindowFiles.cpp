@@ -105,8 +105,9 @@ void TUiWindow::ShowOff() {
 QString FirstUiForm() {
   const QDir folder(QStringLiteral(KT_EXAMPLE_UI_FORMS));
   const QStringList names = folder.entryList({QStringLiteral("*.ui")}, QDir::Files, QDir::Name);
-  return names.isEmpty() ? QString() : folder.filePath(names.contains(u"settings.ui") ? QStringLiteral("settings.ui")
-                                                                                     : names.first());
+  return names.isEmpty()
+             ? QString()
+             : folder.filePath(names.contains(u"settings.ui") ? QStringLiteral("settings.ui") : names.first());
 }
 
 }  // namespace uiview

@@ -20,8 +20,8 @@ void DescribeOptions(QCommandLineParser& parser) {
                                QStringLiteral("a .ui file; one that comes with the program if left out"),
                                QStringLiteral("[FILE]"));
   examples::AddDrawOptions(parser);
-  parser.addOption({QStringLiteral("select"), QStringLiteral("Inspect the object of this name first."),
-                    QStringLiteral("NAME")});
+  parser.addOption(
+      {QStringLiteral("select"), QStringLiteral("Inspect the object of this name first."), QStringLiteral("NAME")});
   examples::AddLookOptions(parser);
 }
 

@@ -1,5 +1,4 @@
 #include "qtattach/Attachment.h"
-
 #include "qtattach/OrdinaryWindow.h"
 #include "qtinspect/InspectFixture.h"
 
@@ -12,7 +11,6 @@
 #include <QPushButton>
 #include <QTimer>
 #include <QToolButton>
-#include <QDebug>
 
 #include <memory>
 
@@ -84,9 +82,6 @@ TEST_F(AttachmentTest, WhatStandsBehindAModalDialogIsPickedInTheTree) {
   tree.Refresh();
   tree.scrollToItem(tree.ItemOf(In("SignIn")));
   Settle();
-  const QPoint place = tree.visualItemRect(tree.ItemOf(In("SignIn"))).center();
-  QWidget* c = Window().childAt(InWindow(*tree.viewport(), place));
-  qInfo() << c << tree.viewport() << tree.itemAt(place)->text(0) << place << tree.isEnabled();
   Click(*tree.viewport(), tree.visualItemRect(tree.ItemOf(In("SignIn"))).center());
   EXPECT_EQ(Selected(), QStringLiteral("SignIn"));
 }

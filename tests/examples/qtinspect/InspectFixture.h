@@ -67,8 +67,8 @@ inline QString NamesOf(const std::vector<QObject*>& objects) {
 
 /// "form [row [ok cancel]]": the names of what is listed, of the class where there is no name.
 inline QString TreeOf(const QObject& object) {
-  const QString name = object.objectName().isEmpty() ? QLatin1String(object.metaObject()->className())
-                                                      : object.objectName();
+  const QString name =
+      object.objectName().isEmpty() ? QLatin1String(object.metaObject()->className()) : object.objectName();
   QStringList children;
   for (const QObject* child : ListedChildren(object)) children.append(TreeOf(*child));
   return children.isEmpty() ? name : QStringLiteral("%1 [%2]").arg(name, children.join(u' '));

@@ -30,9 +30,7 @@ class PickerTest : public testing::Test {
     QObject::connect(One, &QPushButton::pressed, [this] { Log += QStringLiteral("pressed "); });
     QObject::connect(One, &QPushButton::released, [this] { Log += QStringLiteral("released "); });
     Dialog.setObjectName(QStringLiteral("dialog"));
-    Picker.OnPick = [this](QObject& object, bool adds) {
-      Log += (adds ? u'+' : u'=') + object.objectName() + u' ';
-    };
+    Picker.OnPick = [this](QObject& object, bool adds) { Log += (adds ? u'+' : u'=') + object.objectName() + u' '; };
     Picker.OnPicking = [this](bool value) { Log += value ? QStringLiteral("begin ") : QStringLiteral("end "); };
     Dialog.show();
     Activate(Dialog);
@@ -73,6 +71,13 @@ TEST_F(PickerTest, ADoubleClickPicksOnceAndReachesNobody) {
   QApplication::sendEvent(One, &again);
   QTest::mouseRelease(WindowOf(*One), Qt::LeftButton, {}, InWindow(*One, One->rect().center()));
   EXPECT_EQ(Log, QStringLiteral("=one "));
+}
+
+TEST_F(PickerTest, APickWhoseReleaseIsLostTakesNoFurtherClick) {
+  QTest::mousePress(WindowOf(*Two), Qt::LeftButton, Qt::ControlModifier | Qt::ShiftModifier,
+                    InWindow(*Two, Two->rect().center()));
+  Click(*One);
+  EXPECT_EQ(Log, QStringLiteral("=two pressed released "));
 }
 
 TEST_F(PickerTest, AnEventSentToTheWidgetItselfIsTakenToo) {

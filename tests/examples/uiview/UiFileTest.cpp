@@ -1,6 +1,5 @@
-#include "uiview/UiFile.h"
-
 #include "support/Print.h"
+#include "uiview/UiFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -79,9 +78,9 @@ TEST_F(UiFileTest, AFormOfAnUnknownClassIsToldWithTheClass) {
 }
 
 TEST_F(UiFileTest, AWidgetOfAnUnknownClassIsLeftOutAndRemarked) {
-  const QStringList remarks =
-      RemarksOn("<ui version=\"4.0\"><widget class=\"QWidget\" name=\"Form\"><widget class=\"TDial\" "
-                "name=\"dial\"/></widget></ui>");
+  const QStringList remarks = RemarksOn(
+      "<ui version=\"4.0\"><widget class=\"QWidget\" name=\"Form\"><widget class=\"TDial\" "
+      "name=\"dial\"/></widget></ui>");
   ASSERT_FALSE(remarks.isEmpty());
   EXPECT_THAT(remarks.front().toStdString(), testing::HasSubstr("'TDial'"));
 }

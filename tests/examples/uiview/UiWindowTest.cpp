@@ -1,6 +1,5 @@
-#include "uiview/UiWindow.h"
-
 #include "qtinspect/InspectFixture.h"
+#include "uiview/UiWindow.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -145,11 +144,11 @@ TEST_F(UiWindowTest, GroupsAreTheClassesThatDeclareTheProperties) {
   ASSERT_TRUE(Window->Select(QStringLiteral("startCheck")));
   Window->Pane().Panel().SetGroups(true);
   Settle();
-  kt::TKTItemProperty* item = Window->Pane().Panel().Inspector().GetItems().FindItemByFullPathName(
-      QStringLiteral("QAbstractButton.text"));
+  kt::TKTItemProperty* item =
+      Window->Pane().Panel().Inspector().GetItems().FindItemByFullPathName(QStringLiteral("QAbstractButton.text"));
   ASSERT_TRUE(item);
-  EXPECT_TRUE(Window->Pane().Panel().Inspector().GetItems().FindItemByFullPathName(
-      QStringLiteral("QCheckBox.tristate")));
+  EXPECT_TRUE(
+      Window->Pane().Panel().Inspector().GetItems().FindItemByFullPathName(QStringLiteral("QCheckBox.tristate")));
 }
 
 TEST_F(UiWindowTest, APropertyIsGivenItsFirstValueBack) {
@@ -180,8 +179,8 @@ TEST_F(UiWindowTest, AnotherFileIsOpenedByTheMenu) {
 TEST_F(UiWindowTest, AFileThatCannotBeOpenedLeavesTheFormAsItIs) {
   ASSERT_TRUE(Window->Select(QStringLiteral("nameEdit")));
   EXPECT_FALSE(Window->Open(FileWith("<html/>")));
-  EXPECT_EQ(TakeTold(),
-            QStringLiteral("%1 is no Qt form: it holds <html> instead of <ui>").arg(Folder.filePath(QStringLiteral("form.ui"))));
+  EXPECT_EQ(TakeTold(), QStringLiteral("%1 is no Qt form: it holds <html> instead of <ui>")
+                            .arg(Folder.filePath(QStringLiteral("form.ui"))));
   EXPECT_EQ(FormName(), QStringLiteral("SettingsDialog"));
   EXPECT_EQ(Selected(), QStringLiteral("nameEdit"));
   EXPECT_EQ(Window->windowTitle(), QStringLiteral("settings.ui - Form viewer"));
