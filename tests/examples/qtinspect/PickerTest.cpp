@@ -188,7 +188,7 @@ TEST_F(PickerTest, ThePointerShowsThatItPicks) {
 }
 
 TEST_F(PickerTest, WhoeverPicksMayDestroyWhatWasPicked) {
-  Picker.OnPick = [this](QObject& object, bool) { delete &object; };
+  Picker.OnPick = [](QObject& object, bool) { delete &object; };
   Picker.SetPicking(true);
   Click(*One);
   EXPECT_EQ(TreeOf(Dialog), QStringLiteral("dialog [QVBoxLayout QMenuBar [menu [item]] two box]"));
