@@ -3,7 +3,9 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 jobs=$(nproc 2>/dev/null || echo 2)
 
 # What a build needs, by the names that Debian 12 and Ubuntu 24.04 both use.
-build_packages=(cmake ninja-build g++ qt6-base-dev libgtest-dev libgmock-dev libbenchmark-dev ccache)
+# The example uiview wants Qt's loader of forms, whose CMake package asks for OpenGL's; a build does without them.
+ui_packages=(qt6-tools-dev libqt6opengl6-dev)
+build_packages=(cmake ninja-build g++ qt6-base-dev libgtest-dev libgmock-dev libbenchmark-dev ccache "${ui_packages[@]}")
 
 # What only the checks beyond the tests need. Fixed to one version of the LLVM tools: another one formats otherwise.
 check_packages=(clang-14 clang-format-14 clang-tidy-14 libclang-rt-14-dev)
@@ -76,6 +78,9 @@ build() {
     cmake "${arguments[@]}" -- --quiet | sed '/^ninja: no work to do.$/d' || die "the $preset build failed"
   fi
 }
+
+# has_target PRESET TARGET: whether the configured build knows the target.
+has_target() { cmake --build "$root/build/$1" --target help | grep -qE "^$2: phony$"; }
 
 # run_tests PRESET [CTEST ARGUMENT]...: on a terminal one line that moves on, else only failures and the summary.
 run_tests() {

@@ -1,11 +1,9 @@
 // Two item list editors, all edit styles, and what they tell. Without a display it draws itself into a picture.
 #include "Demo.h"
-#include "Looks.h"
+#include "common/Startup.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
-
-#include <cstdio>
 
 namespace {
 
@@ -17,37 +15,23 @@ void DescribeOptions(QCommandLineParser& parser) {
   parser.addHelpOption();
   parser.addPositionalArgument(QStringLiteral("PICTURE"), QStringLiteral("the picture (itemlist.png)"),
                                QStringLiteral("[PICTURE]"));
-  parser.addOption({QStringLiteral("dark"), QStringLiteral("Light texts on dark ground.")});
-  parser.addOption({QStringLiteral("rtl"), QStringLiteral("From right to left.")});
-  parser.addOption({QStringLiteral("points"), QStringLiteral("The size of all fonts."), QStringLiteral("SIZE")});
-}
-
-int Draw(TDemo& demo, const QString& file) {
-  demo.ShowOff();
-  QApplication::processEvents();
-  if (!demo.grab().save(file)) {
-    std::fprintf(stderr, "itemlist: cannot write %s\n", qUtf8Printable(file));
-    return 1;
-  }
-  std::printf("itemlist: drawn into %s\n", qUtf8Printable(file));
-  return 0;
+  examples::AddLookOptions(parser);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  const bool hasDisplay = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-  if (!hasDisplay && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  examples::ChoosePlatform(argc, argv);
   QApplication application(argc, argv);
   QCommandLineParser parser;
   DescribeOptions(parser);
   parser.process(application);
-  if (parser.isSet(QStringLiteral("dark"))) UseDarkPalette();
-  if (parser.isSet(QStringLiteral("rtl"))) QApplication::setLayoutDirection(Qt::RightToLeft);
+  examples::ApplyLooks(parser);
   TDemo demo;
   if (parser.isSet(QStringLiteral("points"))) demo.SetFontSize(parser.value(QStringLiteral("points")).toInt());
   demo.show();
   const QStringList files = parser.positionalArguments();
-  if (QGuiApplication::platformName() != u"offscreen" && files.isEmpty()) return QApplication::exec();
-  return Draw(demo, files.value(0, QStringLiteral("itemlist.png")));
+  if (!examples::IsOutOfSight() && files.isEmpty()) return QApplication::exec();
+  demo.ShowOff();
+  return examples::DrawWindow(QStringLiteral("itemlist"), demo, files.value(0, QStringLiteral("itemlist.png")));
 }

@@ -1,22 +1,60 @@
 #include "InspectorWindow.h"
 
-#include "kt/QObjects.h"
-#include "kt/rtl/objects/Make.h"
+#include "qtinspect/ListedObjects.h"
 
-#include <QLabel>
+#include <QAction>
+#include <QApplication>
 #include <QVBoxLayout>
+#include <QWindow>
 
-TInspectorWindow::TInspectorWindow() : FInspector(kt::Make<kt::TKTObjectInspector>()), FHead(new QLabel) {
-  setWindowTitle(tr("Inspector"));
-  FHead->setText(tr("Click on a widget with Ctrl and Shift held."));
-  auto* layout = new QVBoxLayout(this);
-  layout->addWidget(FHead);
-  layout->addWidget(FInspector->GetHandle(), 1);
-  resize(360, 600);
+namespace {
+
+/// A window of the window system that this one stands before, through any number of others.
+bool StandsBefore(const QWidget& window, const QWidget& behind) {
+  const QWindow* at = window.windowHandle();
+  while (at && at != behind.windowHandle()) at = at->transientParent();
+  return at && behind.windowHandle();
 }
 
-void TInspectorWindow::Inspect(QWidget& widget) {
-  FHead->setText(tr("%1 %2").arg(QString::fromUtf8(widget.metaObject()->className()), widget.objectName()));
-  FInspector->GetObjects().Clear();
-  FInspector->GetObjects().Add(kt::ComponentOf(&widget));
+}  // namespace
+
+TInspectorWindow::TInspectorWindow() : FPane(new qtinspect::TInspectPane([this] { return OtherWindows(); })) {
+  setWindowTitle(tr("Inspector"));
+  setAttribute(Qt::WA_QuitOnClose, false);
+  new qtinspect::TModalPass(*this);
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(6, 6, 6, 6);
+  layout->addWidget(FPane);
+  const std::pair<QKeySequence, std::function<void()>> keys[] = {
+      {QKeySequence(QStringLiteral("F8")), [this] { FPane->Picker().SetPicking(!FPane->Picker().IsPicking()); }},
+      {QKeySequence(QStringLiteral("F11")), [this] { FPane->Panel().FocusGrid(); }},
+      {QKeySequence(QStringLiteral("F6")), [this] { FPane->Tree().setFocus(Qt::ShortcutFocusReason); }},
+      {QKeySequence(QStringLiteral("Ctrl+F")), [this] { FPane->Panel().FocusFilter(); }},
+      {QKeySequence(QStringLiteral("Ctrl+W")), [this] { close(); }}};
+  for (const auto& [key, call] : keys) {
+    auto* action = new QAction(this);
+    action->setShortcut(key);
+    connect(action, &QAction::triggered, this, call);
+    addAction(action);
+  }
+  resize(380, 680);
+}
+
+/// What stands alone; dialogs and pop-ups of these are listed below them.
+std::vector<QObject*> TInspectorWindow::OtherWindows() const {
+  std::vector<QObject*> windows;
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    const bool isOwn = window == this || window->parent() || StandsBefore(*window, *this);
+    const bool isListed =
+        qtinspect::IsListed(*window) && window->windowType() != Qt::Desktop && window->windowType() != Qt::ToolTip;
+    if (!isOwn && isListed) windows.push_back(window);
+  }
+  return windows;
+}
+
+void TInspectorWindow::Come() {
+  show();
+  raise();
+  // A pop-up would close when another window becomes active.
+  if (!QApplication::activePopupWidget()) activateWindow();
 }

@@ -1,21 +1,22 @@
 #pragma once
 
-#include "kt/KTObjectInspector.h"
+#include "qtinspect/InspectPane.h"
+#include "qtinspect/ModalPass.h"
 
 #include <QWidget>
 
-#include <memory>
-
-class QLabel;
-
-/// A window with an inspector for widgets of the same program.
+/// A window with an inspector for all other windows of the same program. It does not keep the program running, and is
+/// usable while dialogs of the program are open.
 class TInspectorWindow : public QWidget {
  public:
   TInspectorWindow();
 
-  void Inspect(QWidget& widget);
+  qtinspect::TInspectPane& Pane() const { return *FPane; }
+  /// Opens the window where it was closed, and brings it to the front.
+  void Come();
 
  private:
-  std::unique_ptr<kt::TKTObjectInspector> FInspector;
-  QLabel* FHead;
+  std::vector<QObject*> OtherWindows() const;
+
+  qtinspect::TInspectPane* FPane;
 };
