@@ -26,6 +26,19 @@ TNotifySink::TNotifySink(QObject& object, TQObjectComponent& component) : FCompo
   for (size_t i = 0; i < FSignals.size(); ++i) {
     QMetaObject::connect(&object, FSignals[i].Index, this, first + static_cast<int>(i), Qt::DirectConnection);
   }
+  FollowBindables(object);
+}
+
+void TNotifySink::FollowBindables(QObject& object) {
+  const QMetaObject& meta = *object.metaObject();
+  for (int i = 0; i < meta.propertyCount(); ++i) {
+    const QMetaProperty property = meta.property(i);
+    if (property.hasNotifySignal() || !property.isBindable()) continue;
+    QUntypedBindable bindable = property.bindable(&object);
+    if (!bindable.isValid()) continue;
+    const QString name = PublishedPropertyName(meta, i);
+    FNotifiers.push_back(bindable.addNotifier([this, name] { GuardedCall([&] { FComponent.PropertyTold(name); }); }));
+  }
 }
 
 int TNotifySink::qt_metacall(QMetaObject::Call call, int id, void** arguments) {
@@ -44,7 +57,7 @@ int TNotifySink::qt_metacall(QMetaObject::Call call, int id, void** arguments) {
 /// Listeners only make a note, so that nothing goes meanwhile.
 void TNotifySink::Tell(size_t signal) {
   GuardedCall([&] {
-    for (const QString& name : FSignals[signal].Properties) FComponent.TellChanged(name);
+    for (const QString& name : FSignals[signal].Properties) FComponent.PropertyTold(name);
   });
 }
 
