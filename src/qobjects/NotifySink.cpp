@@ -24,7 +24,11 @@ TNotifySink::TNotifySink(QObject& object, TQObjectComponent& component) : FCompo
   }
   const int first = QObject::staticMetaObject.methodCount();
   for (size_t i = 0; i < FSignals.size(); ++i) {
-    QMetaObject::connect(&object, FSignals[i].Index, this, first + static_cast<int>(i), Qt::DirectConnection);
+    // A signal may be emitted in any thread; from another one it comes through the event queue. It comes without what
+    // it is emitted with, whose types need not be known to Qt then: the list of types, which Qt takes over, ends at
+    // once.
+    QMetaObject::connect(&object, FSignals[i].Index, this, first + static_cast<int>(i), Qt::AutoConnection,
+                         new int[1]{0});
   }
   FollowBindables(object);
 }
@@ -37,20 +41,17 @@ void TNotifySink::FollowBindables(QObject& object) {
     QUntypedBindable bindable = property.bindable(&object);
     if (!bindable.isValid()) continue;
     const QString name = PublishedPropertyName(meta, i);
-    FNotifiers.push_back(bindable.addNotifier([this, name] { GuardedCall([&] { FComponent.PropertyTold(name); }); }));
+    FNotifiers.push_back(bindable.addNotifier([this, name] {
+      // Bindings belong to the thread of their object.
+      if (QThread::currentThread() == thread()) GuardedCall([&] { FComponent.PropertyTold(name); });
+    }));
   }
 }
 
 int TNotifySink::qt_metacall(QMetaObject::Call call, int id, void** arguments) {
   id = QObject::qt_metacall(call, id, arguments);
   if (id < 0 || call != QMetaObject::InvokeMetaMethod || static_cast<size_t>(id) >= FSignals.size()) return id;
-  // A signal may be emitted in any thread; components live in one.
-  if (QThread::currentThread() == thread()) {
-    Tell(static_cast<size_t>(id));
-  } else {
-    QMetaObject::invokeMethod(
-        this, [this, id] { Tell(static_cast<size_t>(id)); }, Qt::QueuedConnection);
-  }
+  Tell(static_cast<size_t>(id));
   return -1;
 }
 

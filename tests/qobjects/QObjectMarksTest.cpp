@@ -84,8 +84,11 @@ TEST_F(QObjectMarksTest, ANumberOfAWidgetStandsOut) {
 class QObjectMarksWindowTest : public TInspectorWindowTest {};
 
 TEST_F(QObjectMarksWindowTest, PaintingCallsNoGetter) {
-  TQtCounter object;
+  RegisterQObjectFactory<TQtMadeCounter>();
+  TQtMadeCounter object;
+  object.SetCount(8);
   Show({ComponentOf(&object)});
+  EXPECT_TRUE(Item("count").IsModified());
   object.Reads = 0;
   FWindow->Body()->repaint();
   FInspector->Invalidate();

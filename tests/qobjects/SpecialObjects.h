@@ -182,6 +182,11 @@ class TQtMarked : public TQtKinds {
   }
 };
 
+/// A counter of which a factory makes new ones.
+class TQtMadeCounter : public TQtCounter {
+  Q_OBJECT
+};
+
 /// A class of a program's, of which nobody makes new ones.
 class TQtMyLabel : public QLabel {
   Q_OBJECT
