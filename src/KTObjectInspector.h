@@ -8,3 +8,4 @@
 #include "kt/KTObjectInspector/ItemProperty.h"
 #include "kt/KTObjectInspector/ObjectInspector.h"
 #include "kt/KTObjectInspector/Registration.h"
+#include "kt/KTObjectInspector/ResetCommand.h"

@@ -197,6 +197,7 @@ void TKTItemProperty::Assign(TPersistent* source) {
     FAllEqual = other->IsAllEqual();
     FRealPropName = other->FRealPropName;
     FRealValues = other->FRealValues;
+    FMarks = other->FMarks;
     FTypeKind = other->FTypeKind;
     FTypeName = other->FTypeName;
     FIsRealProperty = other->FIsRealProperty;

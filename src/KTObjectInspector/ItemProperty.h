@@ -6,6 +6,7 @@
 #include "kt/rtl/typeinfo/TypeKind.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace kt {
@@ -14,6 +15,7 @@ class IInterface;
 class TClassInfo;
 class TKTCustomObjectInspector;
 class TKTItemProperties;
+class TPropInfo;
 class TReader;
 class TWriter;
 
@@ -167,6 +169,7 @@ class TKTItemProperty : public TKTItemProp {
   bool HasRefreshableValue() const;
   bool IsInPlaceAsLast(const QString& newName) const;
   bool IsModifiedIn(TObject* instance, int index);
+  void MarkChanged(int index, TObject* instance, const TPropInfo& property);
   template <class F>
   void ChangeRole(F change);
   void LoadTypeDataProperty(TReader& reader);
@@ -179,6 +182,9 @@ class TKTItemProperty : public TKTItemProp {
   QString FTypeName;
   std::vector<Variant> FRealValues;
   std::unique_ptr<TEvents> FEvents;
+  /// Whether the values of objects that know that themselves (IPropView) are changed ones: as of when they were read,
+  /// since painting must not call getters.
+  std::vector<std::optional<bool>> FMarks;
   TTypeKind FTypeKind = tkUnknown;
   TKTPropertyKind FPropertyKind = pkNormal;
   bool FAllEqual = false;

@@ -6,6 +6,7 @@
 #include "kt/KTObjectInspector/ItemProperty.h"
 #include "kt/KTObjectInspector/Messages.h"
 #include "kt/KTObjectInspector/ObjectInspector.h"
+#include "kt/KTObjectInspector/PropViews.h"
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/LifeWatch.h"
@@ -89,11 +90,12 @@ bool TKTItemProperty::RefreshValueOf(TKTCustomObjectInspector& inspector, int in
   if (!self) return false;
   SetValueLine(index, text);
   if (!self || !FIsRealProperty || !property || !instance) return bool(self);
-  Variant value = GetPropValue(instance.Get(), property, false);
+  Variant value = RawPropValue(instance.Get(), *property);
   if (!self) return false;
   std::vector<Variant>& values = GetRealValues();
   if (static_cast<size_t>(index) < values.size()) values[static_cast<size_t>(index)] = std::move(value);
-  return true;
+  MarkChanged(index, instance.Get(), *property);
+  return bool(self);
 }
 
 QString TKTItemProperty::MemberText(int index) {
@@ -195,6 +197,9 @@ bool TKTItemProperty::IsModified() {
 
 bool TKTItemProperty::IsModified(int index) {
   if (!FIsRealProperty || !GetEditor()) return false;
+  if (static_cast<size_t>(index) < FMarks.size() && FMarks[static_cast<size_t>(index)]) {
+    return *FMarks[static_cast<size_t>(index)];
+  }
   QString name;
   TObject* holder = HolderOf(index, name);
   return holder && IsModifiedIn(holder, index);
@@ -223,6 +228,26 @@ bool TKTItemProperty::IsModifiedIn(TObject* instance, int index) {
   const Variant& value = values[static_cast<size_t>(index)];
   const bool isBoolean = VarIsType(value, varBoolean);
   return property->Default() != (isBoolean ? GetEnumValue(property->PropType(), value.ToString()) : value.ToInt64());
+}
+
+/// For whoever has just read the value. The getter may free the item.
+void TKTItemProperty::MarkChanged(int index, TObject* instance, const TPropInfo& property) {
+  IPropView* view = PropViewOf(instance);
+  if (!view && FMarks.empty()) return;
+  const TItemWatch self(this);
+  std::optional<bool> mark;
+  if (view) {
+    try {
+      mark = view->IsPropChanged(property);
+    } catch (...) {
+      // The row shows what is wrong with the value.
+      mark = false;
+    }
+  }
+  if (!self) return;
+  const auto place = static_cast<size_t>(index);
+  if (FMarks.size() <= place) FMarks.resize(place + 1);
+  FMarks[place] = mark;
 }
 
 TFont& TKTItemProperty::GetIndividualValueFont(int index) {

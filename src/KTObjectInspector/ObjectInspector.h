@@ -194,6 +194,12 @@ class TKTCustomObjectInspector : public TKTCustomItemListEditor {
   /// Sends the selected property's object, of every inspected object in turn, the standard message for pasting.
   virtual void PasteFromClipboard();
 
+  /// Whether ResetProperty() would do something. For objects that know the way back (IPropView) alone.
+  bool CanResetProperty(TKTItemProperty& item);
+  /// Gives the property the value that it had before any change, in all inspected objects or, with several value
+  /// columns, in that of the current one. The handlers of a change are called as for what is typed.
+  void ResetProperty(TKTItemProperty& item);
+
  private:
   class TScan;
   class TPropertyWatch;
@@ -210,6 +216,8 @@ class TKTCustomObjectInspector : public TKTCustomItemListEditor {
   void BuildElements(TScan& scan, TKTInspectorObjects& objects, TKTItemProperties& props);
   struct TListedProperty;
   void BuildProperty(TScan& scan, TKTItemProperty* item, TKTInspectorObjects& objects, const TListedProperty& listed);
+  void OfferChoices(TKTItemProperty& item, TObject& object, const TPropInfo& property);
+  void ListChoices(TObject* sender, const QString& path, TStrings& values);
   void FillValues(TKTItemProperty& item, TKTInspectorObjects& objects, const TPropInfo& property);
   bool IsSameInAll(TKTItemProperty& item, TKTInspectorObjects& objects, const TPropInfo& property);
   void BuildMembers(TKTItemProperty& set, TKTInspectorObjects& objects, const TPropInfo& property);
@@ -241,7 +249,11 @@ class TKTCustomObjectInspector : public TKTCustomItemListEditor {
 
   bool IsMultiColumn() const { return GetDisplayOptions().Has(doMultiColValues); }
   bool IsUpdatingObjects() const;
+  bool IsTyping() const;
   bool IsBeingTyped(const TKTItemProperty& item) const;
+  void RefreshSharing(TKTItemProperty& item);
+  bool RefreshMembers(TKTItemProperties& items);
+  void RefreshSharedMembers(TKTItemProperty& set);
   bool IsShownOfAll(TKTItemProperty& item);
   bool RefreshItem(TKTItemProperty& item);
   bool RefreshItems(TKTItemProperties& items);

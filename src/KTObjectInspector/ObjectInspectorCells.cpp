@@ -1,5 +1,6 @@
 // What the cells of an inspector show.
 #include "kt/KTObjectInspector/ObjectInspector.h"
+#include "kt/KTObjectInspector/PropertyWatch.h"
 
 namespace kt {
 
@@ -27,7 +28,9 @@ QString TKTCustomObjectInspector::GetCell(int col, int row) {
   return TKTCustomItemListEditor::GetCell(col, row);
 }
 
+/// Asked for whenever the in-place editor goes to a cell.
 TEditStyle TKTCustomObjectInspector::GetEditStyle(int col, int row) {
+  if (FWatch) FWatch->Resume();
   const TEditStyle style = TKTCustomItemListEditor::GetEditStyle(col, row);
   if (style != esPickList || !IsValueCell(col, row)) return style;
   const TKTItemProp* item = FindItemProp(col, row, true);

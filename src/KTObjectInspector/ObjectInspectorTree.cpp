@@ -1,6 +1,7 @@
 // How an inspector turns its objects into items.
 #include "kt/KTItemListEditor/ItemWatch.h"
 #include "kt/KTObjectInspector/ObjectInspector.h"
+#include "kt/KTObjectInspector/PropViews.h"
 #include "kt/KTObjectInspector/PropertyWatch.h"
 #include "kt/KTObjectInspector/Scan.h"
 #include "kt/KTObjectInspector/StringItems.h"
@@ -23,6 +24,9 @@ namespace {
 
 /// As many members of a set as have a bit in what an inspector keeps of it.
 constexpr int kListedMembers = 32;
+/// So many levels of objects that know their properties themselves are listed below each other: such references may go
+/// on without end.
+constexpr int kDeepestView = 24;
 
 /// What an object of the list has in the place of `property`, which belongs to the first. Null when there is none, or
 /// when one of the two objects is gone.
@@ -85,8 +89,15 @@ bool HasBit(const Variant& set, int bit) { return !set.IsEmpty() && (set.ToInt64
 
 QString TruthName(bool value) { return value ? QStringLiteral("True") : QStringLiteral("False"); }
 
+int DepthOf(const TKTItemProperty& item) {
+  int depth = 0;
+  for (const TKTItemProperty* at = item.GetParent(); at; at = at->GetParent()) ++depth;
+  return depth;
+}
+
 /// Whether a value of a class-typed property shows but cannot be replaced by typing.
 bool IsOwnedObject(TObject* object, const TPropInfo& property) {
+  if (IPropView* view = PropViewOf(object)) return !view->TakesPropText(property);
   if (property.Kind() != tkClass) return false;
   const TObject* value = GetObjectProp(object, &property);
   return value && !dynamic_cast<const TComponent*>(value);
@@ -166,6 +177,8 @@ void TKTCustomObjectInspector::BuildProperty(TScan& scan, TKTItemProperty* item,
   if (!watched || !scan.IsGoing()) return;
   const bool isFixed = !property.IsWritable() || property.Kind() == tkMethod || property.Kind() == tkInterface;
   if (isFixed || isOwned) item->SetReadOnly(true);
+  if (!isFixed) OfferChoices(*item, *first, property);
+  if (!watched || !scan.IsGoing()) return;
   switch (property.Kind()) {
     case tkEnumeration:
       return OfferNamesOf(property.PropType(), *item);
@@ -184,7 +197,7 @@ void TKTCustomObjectInspector::FillValues(TKTItemProperty& item, TKTInspectorObj
   const TItemWatch watched(&item);
   const TTypeKind kind = property.Kind();
   TObject* first = objects.GetItem(0)->GetObjects();
-  const bool isCollection = kind == tkClass && dynamic_cast<TCollection*>(GetObjectProp(first, &property));
+  const bool isCollection = kind == tkClass && dynamic_cast<TCollection*>(ViewedObject(first, property));
   // Getters may do anything.
   if (!watched) return;
   item.SetPropertyKind(isCollection ? pkCollection : kind == tkSet ? pkSet : pkNormal);
@@ -196,13 +209,15 @@ void TKTCustomObjectInspector::FillValues(TKTItemProperty& item, TKTInspectorObj
     const TPropInfo* own = CounterpartIn(objects, i, property);
     if (!own) return;
     const TLifeWatch watchOfObject(object);
-    Variant value = kind != tkInterface ? GetPropValue(object, own, false) : Variant();
+    Variant value = kind != tkInterface ? RawPropValue(object, *own) : Variant();
     if (!watchOfObject.IsAlive() || !watched) return;
     std::vector<Variant>& values = item.GetRealValues();
     if (static_cast<size_t>(i) < values.size()) values[static_cast<size_t>(i)] = std::move(value);
     const QString text = GetPropertyValue(object, &item, own);
     if (!watched) return;
     item.SetValueLine(i, text);
+    if (!watched) return;
+    item.MarkChanged(i, watchOfObject.IsAlive() ? object : nullptr, *own);
     if (!watched) return;
   }
   if (!objects.GetItem(0)->GetObjects()) return;
@@ -233,12 +248,12 @@ namespace {
 qint64 SharedMembers(TKTInspectorObjects& objects, const TPropInfo& property) {
   if (objects.GetCount() == 1) return -1;
   TObject* first = objects.GetItem(0)->GetObjects();
-  const qint64 members = first ? GetOrdProp(first, &property) : 0;
+  const qint64 members = first ? RawPropOrdinal(first, property) : 0;
   qint64 shared = -1;
   for (int i = 1; i < objects.GetCount(); ++i) {
     const TPropInfo* own = CounterpartIn(objects, i, property);
     if (!own) return 0;
-    shared &= ~(members ^ GetOrdProp(objects.GetItem(i)->GetObjects(), own));
+    shared &= ~(members ^ RawPropOrdinal(objects.GetItem(i)->GetObjects(), *own));
   }
   return shared;
 }
@@ -291,7 +306,7 @@ TObject* TKTCustomObjectInspector::ObjectToEnter(const TScan& scan, TObject* obj
   if (property->Kind() == tkInterface) {
     value = FInplaceComponents ? ComponentBehind(GetInterfaceProp(object, property)) : nullptr;
   } else {
-    value = GetObjectProp(object, property);
+    value = ViewedObject(object, *property);
     if (!scan.IsGoing()) return nullptr;
     if (dynamic_cast<TStrings*>(value) && !FInplaceTStrings) return nullptr;
     if (dynamic_cast<TComponent*>(value) && !FInplaceComponents) return nullptr;
@@ -307,6 +322,7 @@ void TKTCustomObjectInspector::BuildObjects(TScan& scan, TKTItemProperty& item, 
     TObject* object = ObjectToEnter(scan, objects.GetItem(i)->GetObjects(), name);
     // Only what every object has is listed below it, and nothing once a getter has ended the scan.
     if (!object || !watched || !scan.IsGoing()) return;
+    if (PropViewOf(object) && DepthOf(item) >= kDeepestView) return;
     below->Add()->SetObjects(object);
   }
   BuildBelow(scan, item, *below);

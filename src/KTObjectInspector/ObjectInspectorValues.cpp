@@ -3,6 +3,8 @@
 #include "kt/KTItemListEditor/ItemPropValueStrings.h"
 #include "kt/KTItemListEditor/ItemWatch.h"
 #include "kt/KTObjectInspector/ObjectInspector.h"
+#include "kt/KTObjectInspector/PropViews.h"
+#include "kt/KTObjectInspector/PropertyWatch.h"
 #include "kt/KTObjectInspector/StringItems.h"
 #include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/rtl/conversions/Format.h"
@@ -62,7 +64,7 @@ TObject* ObjectBehind(TObject* object, const QString& name) {
   const TPropInfo* property = GetPropInfo(object, name);
   if (!property) return nullptr;
   if (property->Kind() == tkInterface) return ComponentBehind(GetInterfaceProp(object, property));
-  return property->Kind() == tkClass ? GetObjectProp(object, property) : nullptr;
+  return property->Kind() == tkClass ? ViewedObject(object, *property) : nullptr;
 }
 
 /// What an item says of the way to those below it, kept because a getter on the way may free the item.
@@ -120,7 +122,7 @@ QString TKTCustomObjectInspector::GetPropertyValue(TObject* instance, TKTItemPro
     handler(item, instance, QString(item->GetRealPropName()), value);
     return value;
   }
-  return TextOf(instance, property);
+  return ViewedText(instance, *property, [&] { return TextOf(instance, property); });
 }
 
 // Writing.
@@ -139,6 +141,8 @@ bool TKTCustomObjectInspector::SetPropertyValue(TObject* instance, TKTItemProper
     return isOther;
   }
   const TPropInfo* property = FindPropInfo(holder.Get(), name);
+  IPropView* view = PropViewOf(holder.Get());
+  if (view && view->SetPropText(*property, value)) return isOther;
   // The wide Boolean types take their names only as truth values.
   const TOrdTypeInfo* type = OrdTypeOf(property->PropType());
   const bool isWide = IsBoolType(type) && type->MinValue() < 0;
@@ -183,6 +187,7 @@ void TKTCustomObjectInspector::SetProperty(TKTItemProperty* item) {
 
 void TKTCustomObjectInspector::KTInvalidateProperty(const TMessage& message) {
   const TLifeWatch self(this);
+  FWatch->Resume();
   const bool isFresh = UpdateProperties(GetItems());
   if (!self.IsAlive()) return;
   if (!isFresh) InvalidateScan();

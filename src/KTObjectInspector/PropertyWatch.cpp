@@ -2,11 +2,16 @@
 
 #include "kt/KTItemListEditor/EditUpdateLock.h"
 #include "kt/KTItemListEditor/ItemWatch.h"
+#include "kt/KTObjectInspector/PropViews.h"
 #include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/rtl/conversions/TextCompare.h"
 #include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
+#include "kt/rtl/typeinfo/PropLists.h"
 #include "kt/vcl/grids/InplaceEdit.h"
+
+#include <utility>
+#include <vector>
 
 namespace kt {
 
@@ -38,10 +43,6 @@ void TKTCustomObjectInspector::TPropertyWatch::StopListening(TPropertyWatch& sel
 
 // What scans enter.
 
-void TKTCustomObjectInspector::TPropertyWatch::BeginScan() {
-  for (auto& [object, watched] : FWatched) watched.IsEntered = false;
-}
-
 void TKTCustomObjectInspector::TPropertyWatch::Enter(TObject* object, TKTItemProperties& level) {
   auto* notifier = dynamic_cast<IPropNotifier*>(object);
   if (!notifier) return;
@@ -69,14 +70,29 @@ void TKTCustomObjectInspector::TPropertyWatch::EndScan() {
 void TKTCustomObjectInspector::TPropertyWatch::PropChanged(TObject* object, const QString& name) {
   GuardedCall([&] {
     FChanges.emplace(object, name);
-    if (FIsPosted || FInspector.HasState(csDestroying)) return;
-    FIsPosted = true;
-    FInspector.PostMessage(KT_INVALIDATEVALUES);
+    Post();
   });
 }
 
 void TKTCustomObjectInspector::TPropertyWatch::PropListChanged(TObject*) {
-  GuardedCall([this] { FInspector.InvalidateScan(); });
+  GuardedCall([this] {
+    FIsScanWanted = true;
+    Resume();
+  });
+}
+
+/// What is wanted can be had perhaps: the user has typed to an end.
+void TKTCustomObjectInspector::TPropertyWatch::Resume() {
+  if (!FIsScanWanted && FChanges.empty()) return;
+  if (FInspector.HasState(csDestroying) || FInspector.IsTyping()) return;
+  if (std::exchange(FIsScanWanted, false)) return FInspector.InvalidateScan();
+  Post();
+}
+
+void TKTCustomObjectInspector::TPropertyWatch::Post() {
+  if (FIsPosted || FInspector.HasState(csDestroying)) return;
+  FIsPosted = true;
+  FInspector.PostMessage(KT_INVALIDATEVALUES);
 }
 
 TKTItemProperty* TKTCustomObjectInspector::TPropertyWatch::ItemOf(const TChange& change) const {
@@ -122,12 +138,23 @@ void TKTCustomObjectInspector::TPropertyWatch::Discard() {
   FIsPosted = false;
 }
 
+void TKTCustomObjectInspector::TPropertyWatch::BeginScan() {
+  // It lists what there is now.
+  FIsScanWanted = false;
+  for (auto& [object, watched] : FWatched) watched.IsEntered = false;
+}
+
 // The inspector's part.
+
+/// Whether there is text in the editor that is not accepted yet.
+bool TKTCustomObjectInspector::IsTyping() const {
+  const TInplaceEdit* edit = IsEditorMode() ? InplaceEditor() : nullptr;
+  return edit && edit->IsModified();
+}
 
 /// Whether there is text in the editor of the item, or of one below it, that is not accepted yet.
 bool TKTCustomObjectInspector::IsBeingTyped(const TKTItemProperty& item) const {
-  const TInplaceEdit* edit = IsEditorMode() ? InplaceEditor() : nullptr;
-  if (!edit || !edit->IsModified()) return false;
+  if (!IsTyping()) return false;
   for (const TKTItemProperty* at = GetSelected(); at; at = at->GetParent()) {
     if (at == &item) return true;
   }
@@ -154,17 +181,62 @@ bool TKTCustomObjectInspector::RefreshItem(TKTItemProperty& item) {
   const TLifeWatch self(this);
   const TItemWatch watched(&item);
   if (!item.RefreshValue() || !self.IsAlive() || !watched) return false;
-  if (FObjects->GetCount() > 1 && !IsMultiColumn() && item.IsRealProperty()) {
-    const bool isSame = IsShownOfAll(item);
-    if (!self.IsAlive() || !watched) return false;
-    item.SetAllEqual(isSame);
+  RefreshSharing(item);
+  if (!self.IsAlive() || !watched) return false;
+  return !item.HasItems() || RefreshMembers(item.GetItems());
+}
+
+/// What is freed meanwhile leads nowhere any more.
+bool TKTCustomObjectInspector::RefreshMembers(TKTItemProperties& items) {
+  const TLifeWatch self(this);
+  const TLifeWatch level(&items);
+  for (int i = 0; i < items.GetCount(); ++i) {
+    if (!RefreshItem(*items.GetItem(i))) return false;
+    if (!self.IsAlive() || !level.IsAlive()) return false;
   }
-  return !item.HasItems() || RefreshItems(item.GetItems());
+  return true;
+}
+
+/// Whether the other objects have the same. May free the item.
+void TKTCustomObjectInspector::RefreshSharing(TKTItemProperty& item) {
+  if (FObjects->GetCount() < 2 || IsMultiColumn() || !item.IsRealProperty()) return;
+  const TLifeWatch self(this);
+  const TItemWatch watched(&item);
+  const bool isSame = IsShownOfAll(item);
+  if (!self.IsAlive() || !watched) return;
+  item.SetAllEqual(isSame);
+  if (watched && item.GetPropertyKind() == pkSet && item.HasItems()) RefreshSharedMembers(item);
+}
+
+/// The members that all objects have, or none has.
+void TKTCustomObjectInspector::RefreshSharedMembers(TKTItemProperty& set) {
+  const TLifeWatch self(this);
+  const TItemWatch watched(&set);
+  qint64 inAll = -1;
+  qint64 inSome = 0;
+  for (int i = 0; i < FObjects->GetCount(); ++i) {
+    QString name = set.GetFullPathPropName();
+    TObject* instance = GetInstance(FObjects->GetItem(i)->GetObjects(), name, &set);
+    const TPropInfo* property = instance && watched ? GetPropInfo(instance, name) : nullptr;
+    if (!property) return;
+    const qint64 bits = RawPropOrdinal(instance, *property);
+    if (!self.IsAlive() || !watched) return;
+    inAll &= bits;
+    inSome |= bits;
+  }
+  for (int i = 0; watched && i < set.GetItems().GetCount(); ++i) {
+    TKTItemProperty* member = set.GetItems().GetItem(i);
+    const std::vector<Variant>& ordinals = member->GetRealValues();
+    if (ordinals.empty() || ordinals[0].IsEmpty()) continue;
+    const qint64 ordinal = ordinals[0].ToInt64();
+    member->SetAllEqual((inAll >> ordinal & 1) == (inSome >> ordinal & 1));
+  }
 }
 
 void TKTCustomObjectInspector::KTInvalidateValues() {
   if (HasState(csDestroying)) return;
   if (IsUpdatingObjects()) return FWatch->Discard();
+  FWatch->Resume();
   const TLifeWatch self(this);
   bool isFresh = false;
   {

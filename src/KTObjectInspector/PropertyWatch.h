@@ -12,7 +12,8 @@ namespace kt {
 
 /// Listens to those of the objects in an inspector's tree that tell when their properties change, and has just the
 /// items of these read again. However often they change until control is back at the event queue, each is read once. A
-/// value that the user is typing is left alone; it is read again with the first change after that.
+/// value that the user is typing is left alone, and so are the rows while text is typed: what has changed meanwhile is
+/// read, or listed, when the user has typed to an end.
 class TKTCustomObjectInspector::TPropertyWatch final : public IPropListener {
  public:
   explicit TPropertyWatch(TKTCustomObjectInspector& inspector) : FInspector(inspector) {}
@@ -32,6 +33,8 @@ class TKTCustomObjectInspector::TPropertyWatch final : public IPropListener {
   bool Refresh();
   /// Leaves it to the scan that follows.
   void Discard();
+  /// The user may have typed to an end: has what was put off done.
+  void Resume();
 
  private:
   struct TWatched {
@@ -41,6 +44,7 @@ class TKTCustomObjectInspector::TPropertyWatch final : public IPropListener {
   };
   using TChange = std::pair<const TObject*, QString>;
 
+  void Post();
   TKTItemProperty* ItemOf(const TChange& change) const;
   static void StopListening(TPropertyWatch& self, const TWatched& watched);
 
@@ -48,6 +52,8 @@ class TKTCustomObjectInspector::TPropertyWatch final : public IPropListener {
   std::unordered_map<const TObject*, TWatched> FWatched;
   std::set<TChange> FChanges;
   bool FIsPosted = false;
+  /// A scan that was put off.
+  bool FIsScanWanted = false;
 };
 
 }  // namespace kt

@@ -5,9 +5,24 @@
 #include "kt/qobjects/QObjectComponent.h"
 #include "kt/qobjects/QObjectRegistry.h"
 
+#include <QCoreApplication>
+#include <QThread>
+
 namespace kt {
 
-TComponent* ComponentOf(QObject* object) { return object ? QObjectRegistry().ComponentFor(*object) : nullptr; }
+namespace {
+
+/// Without an application object the first thread that asks is the one of the user interface.
+bool IsUserInterfaceThread() {
+  const QCoreApplication* application = QCoreApplication::instance();
+  return !application || application->thread() == QThread::currentThread();
+}
+
+}  // namespace
+
+TComponent* ComponentOf(QObject* object) {
+  return object && IsUserInterfaceThread() ? QObjectRegistry().ComponentFor(*object) : nullptr;
+}
 
 QObject* ObjectOf(TComponent* component) {
   const auto* known = dynamic_cast<TQObjectComponent*>(component);

@@ -13,12 +13,13 @@ class TComponent;
 /// Its class info is made at run time of the object's class and its ancestors, down to TComponent. Its properties are
 /// those that the class declares for designers, and the object's own. Owner and children are the components of the
 /// object's parent and children, and follow them (children that come once control is back at the event queue, as they
-/// are not complete before). Its name is the object's where that is an identifier that no sibling has, else empty. It
-/// offers IPropNotifier.
+/// are not complete before). Its name is the object's where that is an identifier; where a sibling has it already there
+/// is a number behind it ("name_2"). It offers IPropNotifier and IPropView.
 ///
 /// The component is destroyed, and says so, the moment its object is; nothing of the object is touched once its
-/// destructor runs. For objects of the calling thread, which is that of the user interface. The first call for a window
-/// makes components of all in it: some microseconds for each object.
+/// destructor runs. So it is, and whoever watches is told, before the object moves to another thread. Null for objects
+/// of other threads than that of the user interface, and for callers there. The first call for a window makes
+/// components of all in it: some microseconds for each object.
 TComponent* ComponentOf(QObject* object);
 
 /// The object that a component stands for; null for other components, and once the object's destructor runs.

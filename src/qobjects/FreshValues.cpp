@@ -5,7 +5,9 @@
 
 #include <QMetaProperty>
 #include <QObject>
+#include <QSequentialIterable>
 
+#include <algorithm>
 #include <map>
 #include <memory>
 
@@ -13,12 +15,37 @@ namespace kt {
 
 namespace {
 
+bool IsPointer(QMetaType type) {
+  constexpr QMetaType::TypeFlags pointers = QMetaType::IsPointer | QMetaType::PointerToQObject |
+                                            QMetaType::PointerToGadget | QMetaType::TrackingPointerToQObject |
+                                            QMetaType::SharedPointerToQObject | QMetaType::WeakPointerToQObject;
+  return (type.flags() & pointers) != 0;
+}
+
+/// Whether a value points to what goes, or may go, with the new object; lists and maps of such do.
+bool LeadsAway(const QVariant& value) {
+  const QMetaType type = value.metaType();
+  if (type.flags().testFlag(QMetaType::IsPointer) || type.flags().testFlag(QMetaType::PointerToQObject)) {
+    return *static_cast<void* const*>(value.constData()) != nullptr;
+  }
+  if (IsPointer(type)) return true;
+  if (type.id() == QMetaType::QVariantList) {
+    const QVariantList values = value.toList();
+    return std::any_of(values.begin(), values.end(), LeadsAway);
+  }
+  if (type.id() == QMetaType::QVariantMap) {
+    const QVariantMap values = value.toMap();
+    return std::any_of(values.begin(), values.end(), LeadsAway);
+  }
+  if (!value.canConvert<QSequentialIterable>()) return false;
+  const auto elements = value.value<QSequentialIterable>();
+  return IsPointer(elements.metaContainer().valueMetaType()) && elements.size() > 0;
+}
+
 std::optional<QVariant> FreshValue(const QObject& object, const QMetaProperty& property) {
   if (!property.isReadable()) return std::nullopt;
   QVariant value = property.read(&object);
-  const bool isPointer = value.metaType().flags().testFlag(QMetaType::PointerToQObject);
-  if (isPointer && *static_cast<QObject* const*>(value.constData())) return std::nullopt;
-  return value;
+  return LeadsAway(value) ? std::nullopt : std::optional(value);
 }
 
 std::unique_ptr<const TFreshValues> TakeFreshValues(const QMetaObject& meta) {

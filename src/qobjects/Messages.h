@@ -7,5 +7,9 @@ namespace kt {
 
 inline constexpr QLatin1StringView SInvalidTextOfType{"'%s' is not a valid value of type %s"};
 inline constexpr QLatin1StringView SValueNotTaken{"Property %s of %s does not take the value"};
+/// In place of the name of an object that a property points to.
+inline constexpr QLatin1StringView SNoReference{"(none)"};
+inline constexpr QLatin1StringView SDestroyedReference{"(destroyed)"};
+inline constexpr QLatin1StringView SReferenceElsewhere{"(in another thread)"};
 
 }  // namespace kt

@@ -1,15 +1,18 @@
 #pragma once
 
 #include <QObject>
+#include <QProperty>
 #include <QStringList>
 
+#include <list>
 #include <vector>
 
 namespace kt {
 
 class TQObjectComponent;
 
-/// Connected to every signal by which an object tells that a property has changed; passes on which.
+/// Connected to every signal by which an object tells that a property has changed, and to the bindable properties that
+/// have none; passes on which.
 ///
 /// Without a class description of its own: the signals are known only at run time, so each has a number behind the last
 /// method of QObject.
@@ -21,6 +24,7 @@ class TNotifySink final : public QObject {
 
  private:
   void Tell(size_t signal);
+  void FollowBindables(QObject& object);
 
   struct TSignal {
     int Index;
@@ -29,6 +33,8 @@ class TNotifySink final : public QObject {
 
   TQObjectComponent& FComponent;
   std::vector<TSignal> FSignals;
+  /// For properties without a signal that can be bound to. In places of their own: they are linked to each other.
+  std::list<QPropertyNotifier> FNotifiers;
 };
 
 }  // namespace kt

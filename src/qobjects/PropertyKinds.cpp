@@ -1,5 +1,7 @@
 #include "kt/qobjects/PropertyKinds.h"
 
+#include "kt/qobjects/MemberAccess.h"
+#include "kt/qobjects/NumberTexts.h"
 #include "kt/qobjects/ObjectReferences.h"
 #include "kt/qobjects/ValueEnums.h"
 #include "kt/qobjects/ValueShapes.h"
@@ -42,14 +44,17 @@ qint64 DefaultOf(const TForm<V>& form, const TValueMember& member) {
 /// What cannot be written has nothing to store.
 TPropInfo::TStoredRule StoredRule(const TMemberPtr& member) {
   if (!member->IsStored || !member->Write) return [](TObject&) { return false; };
-  if (!member->HasFresh) return {};
-  return [member](TObject& object) { return !LooksSame(member->Read(HolderIn(object)), member->Fresh); };
+  return [member](TObject& object) {
+    TValueHolder& holder = HolderIn(object);
+    const std::optional<QVariant> fresh = holder.FreshValueOf(*member);
+    return !fresh || !LooksSame(member->Read(holder), *fresh);
+  };
 }
 
 template <class V>
-TPropInfo::TDefinition Define(const TMemberPtr& member, const TForm<V>& form) {
+TPropInfo::TDefinition Define(const TMemberPtr& member, const TForm<V>& form, TMemberTexts texts = {}) {
   const auto get = [member, form](TObject& object) { return form.FromValue(member->Read(HolderIn(object))); };
-  typename TFunctionAccess<V>::TSetter set;
+  typename TMemberAccess<V>::TSetter set;
   if (member->Write && form.ToValue) {
     set = [member, form](TObject& object, const V& value) {
       ChangeMember(object, *member, [&](const QVariant& current) { return form.ToValue(value, current); });
@@ -57,7 +62,7 @@ TPropInfo::TDefinition Define(const TMemberPtr& member, const TForm<V>& form) {
   }
   return {.Name = member->Name,
           .Type = form.Type,
-          .Access = std::make_unique<TFunctionAccess<V>>(get, set),
+          .Access = std::make_unique<TMemberAccess<V>>(member, get, set, std::move(texts)),
           .Default = DefaultOf(form, *member),
           .Stored = StoredRule(member)};
 }
@@ -125,7 +130,7 @@ std::optional<TPropInfo::TDefinition> DefinePlain(const TMemberPtr& member) {
       return Define(member, CharacterForm(type));
     case QMetaType::Float:
     case QMetaType::Double:
-      return Define(member, FloatForm(type));
+      return Define(member, FloatForm(type), NumberTexts(member));
     default:
       return std::nullopt;
   }
@@ -156,7 +161,20 @@ TForm<qint64> NumberForm(QMetaType type) {
           [type](qint64 ordinal, const QVariant&) { return EnumVariant(type, static_cast<int>(ordinal)); }};
 }
 
+/// With more bits than Qt knows of the keys: by the names of those that are certain, else by number.
+TForm<QString> WideEnumForm(const TValueMember& member) {
+  return {[] { return TypeInfos::LongString(); },
+          [keys = member.Enumeration](const QVariant& value) { return WideEnumText(keys, value); },
+          [keys = member.Enumeration, type = member.Type](const QString& text, const QVariant&) {
+            return WideEnumOfText(keys, type, text);
+          }};
+}
+
 TPropInfo::TDefinition DefineEnumeration(const TMemberPtr& member) {
+  if (IsWideEnum(member->Type)) {
+    const auto choices = [keys = member->Enumeration](TValueHolder&) { return WideEnumKeys(keys); };
+    return Define(member, WideEnumForm(*member), {.Choices = choices});
+  }
   if (!member->Enumeration.isFlag()) return Define(member, EnumForm(*member));
   if (FlagsTypeInfoFor(member->Enumeration)->HasMembers()) return Define(member, FlagsForm(*member));
   return Define(member, NumberForm(member->Type));
@@ -205,11 +223,12 @@ TForm<Variant> VariantForm() {
 // Objects.
 
 TPropInfo::TDefinition DefineObject(const TMemberPtr& member, TPropInfo::TTypeGetter type,
-                                    TFunctionAccess<TObject*>::TGetter get, TFunctionAccess<TObject*>::TSetter set) {
+                                    TMemberAccess<TObject*>::TGetter get, TMemberAccess<TObject*>::TSetter set,
+                                    TMemberTexts texts = {}) {
   if (!member->Write) set = {};
   return {.Name = member->Name,
           .Type = std::move(type),
-          .Access = std::make_unique<TFunctionAccess<TObject*>>(std::move(get), std::move(set)),
+          .Access = std::make_unique<TMemberAccess<TObject*>>(member, std::move(get), std::move(set), std::move(texts)),
           .Stored = StoredRule(member)};
 }
 
@@ -247,17 +266,17 @@ TPropInfo::TDefinition DefineStrings(const TMemberPtr& member) {
     ChangeMember(object, *member, [&](const QVariant&) { return QVariant(written); });
   };
   return DefineObject(
-      member, [] { return TypeInfos::OfClass(TStrings::Class()); }, get, set);
+      member, [] { return TypeInfos::OfClass(TStrings::Class()); }, get, set, StringsTexts(member));
 }
 
 TPropInfo::TDefinition DefineReference(const TMemberPtr& member) {
   const QMetaType type = member->Type;
-  const auto get = [member](TObject& object) -> TObject* { return ComponentInValue(member->Read(HolderIn(object))); };
+  const auto get = [member](TObject& object) { return ReferredComponent(HolderIn(object), *member); };
   const auto set = [member, type](TObject& object, TObject* const& value) {
     ChangeMember(object, *member, [&](const QVariant&) { return ValueOfComponent(type, value); });
   };
   return DefineObject(
-      member, [type] { return ReferenceTypeInfo(type); }, get, set);
+      member, [type] { return ReferenceTypeInfo(type); }, get, set, ReferenceTexts(member));
 }
 
 }  // namespace

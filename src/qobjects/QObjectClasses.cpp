@@ -54,6 +54,9 @@ TMemberPtr MemberOf(const QMetaObject& meta, int index, const TFreshValues* fres
       ComponentIn(holder).Write(property, value);
     };
   }
+  if (property.isResettable()) {
+    member.Reset = [property](TValueHolder& holder) { return ComponentIn(holder).Reset(property); };
+  }
   member.IsStored = property.isStored();
   member.HasFresh = fresh && fresh->Has(index);
   if (member.HasFresh) member.Fresh = fresh->Value(index);

@@ -4,6 +4,7 @@
 #include "kt/qobjects/NotifySink.h"
 #include "kt/qobjects/QObjectClasses.h"
 #include "kt/qobjects/QObjectRegistry.h"
+#include "kt/qobjects/ValueEnums.h"
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/conversions/Text.h"
 #include "kt/rtl/objects/Exceptions.h"
@@ -70,9 +71,30 @@ QVariant TQObjectComponent::ReadDynamic(const QByteArray& name) const {
 }
 
 void TQObjectComponent::Write(const QMetaProperty& property, const QVariant& value) {
+  if (IsWideEnum(property.metaType()) && value.metaType() == property.metaType()) return WriteWide(property, value);
   if (property.write(&ObjectInUse(), value)) return;
   throw EPropertyError(Format(SValueNotTaken, {QLatin1StringView(property.name()),
                                                QLatin1StringView(property.enclosingMetaObject()->className())}));
+}
+
+/// QMetaProperty would pass 32 bits on.
+void TQObjectComponent::WriteWide(const QMetaProperty& property, QVariant value) {
+  QVariant whole = value;
+  int status = -1;
+  int flags = 0;
+  void* arguments[] = {value.data(), &whole, &status, &flags};
+  QMetaObject::metacall(&ObjectInUse(), QMetaObject::WriteProperty, property.propertyIndex(), arguments);
+}
+
+bool TQObjectComponent::Reset(const QMetaProperty& property) { return property.reset(&ObjectInUse()); }
+
+std::optional<QVariant> TQObjectComponent::FreshValueOf(const TValueMember& member) const {
+  return member.HasFresh ? std::optional(member.Fresh) : std::nullopt;
+}
+
+void TQObjectComponent::LoseObject() {
+  FObject = nullptr;
+  FHasLostObject = true;
 }
 
 void TQObjectComponent::WriteDynamic(const QByteArray& name, const QVariant& value) {
@@ -90,13 +112,28 @@ void TQObjectComponent::SetName(const QString& value) {
   if (object && object->objectName() != value) object->setObjectName(value);
 }
 
+/// That name, or one made of it where a sibling has it already.
+QString TQObjectComponent::FreeNameFor(const QString& wanted) const {
+  TComponent* owner = GetOwnerComponent();
+  const TComponent* namesake = owner ? owner->FindComponent(wanted) : nullptr;
+  if (!namesake || namesake == this) return wanted;
+  const QString stem = wanted + u'_';
+  // The one that it has is as good as any.
+  const QString present = GetName();
+  bool isNumbered = false;
+  if (present.startsWith(stem)) present.mid(stem.size()).toUInt(&isNumbered);
+  if (isNumbered) return present;
+  auto* known = dynamic_cast<TQObjectComponent*>(owner);
+  int number = known ? known->FNextNamesakes.value(wanted, 2) : 2;
+  while (owner->FindComponent(stem + QString::number(number))) ++number;
+  if (known) known->FNextNamesakes[wanted] = number + 1;
+  return stem + QString::number(number);
+}
+
 void TQObjectComponent::FollowName() {
   const QObject* object = FindObject();
   const QString wanted = object ? object->objectName() : QString();
-  const TComponent* owner = GetOwnerComponent();
-  const TComponent* namesake = owner ? owner->FindComponent(wanted) : nullptr;
-  const bool isFree = IsValidIdent(wanted) && (!namesake || namesake == this);
-  const QString name = isFree ? wanted : QString();
+  const QString name = IsValidIdent(wanted) ? FreeNameFor(wanted) : QString();
   if (name == GetName()) return;
   ChangeName(name);
   TellChanged(QStringLiteral("Name"));
@@ -118,6 +155,11 @@ void TQObjectComponent::RemovePropListener(IPropListener* listener) {
 
 void TQObjectComponent::TellChanged(const QString& name) {
   for (IPropListener* listener : FListeners) listener->PropChanged(this, name);
+}
+
+void TQObjectComponent::PropertyTold(const QString& name) {
+  ReferenceTold(name);
+  TellChanged(name);
 }
 
 void TQObjectComponent::TellListChanged() {

@@ -4,6 +4,7 @@
 #include "kt/rtl/objects/Component.h"
 #include "kt/rtl/typeinfo/PropListener.h"
 
+#include <QHash>
 #include <QMetaProperty>
 #include <QObject>
 
@@ -26,6 +27,9 @@ class TQObjectComponent : public TComponent, public TValueHolder, public IPropNo
   ~TQObjectComponent() override;
 
   TObject& AsObject() override { return *this; }
+  QObject* Root() const override { return FindObject(); }
+  std::optional<QVariant> FreshValueOf(const TValueMember& member) const override;
+  void MemberChanged(const TValueMember& member) override { TellChanged(member.Name); }
   /// Names the object, too.
   void SetName(const QString& value) override;
   void AddPropListener(IPropListener* listener) override;
@@ -40,6 +44,8 @@ class TQObjectComponent : public TComponent, public TValueHolder, public IPropNo
   /// setter may destroy both.
   void Write(const QMetaProperty& property, const QVariant& value);
   void WriteDynamic(const QByteArray& name, const QVariant& value);
+  /// By the property's own way; false when nothing came of it.
+  bool Reset(const QMetaProperty& property);
 
   // For the registry.
 
@@ -52,8 +58,12 @@ class TQObjectComponent : public TComponent, public TValueHolder, public IPropNo
   void DynamicChanged(const QByteArray& name);
   bool HasListeners() const { return !FListeners.empty(); }
   void TellChanged(const QString& name);
+  /// The object itself has told of a change.
+  void PropertyTold(const QString& name);
   /// The object is gone: whatever happens until the component is, too, leaves it alone.
-  void LoseObject() { FObject = nullptr; }
+  void LoseObject();
+  /// Whether the component goes because its object has gone.
+  bool HasLostObject() const { return FHasLostObject; }
 
  protected:
   explicit TQObjectComponent(QObject& object);
@@ -62,6 +72,8 @@ class TQObjectComponent : public TComponent, public TValueHolder, public IPropNo
 
  private:
   QObject& ObjectInUse() const;
+  void WriteWide(const QMetaProperty& property, QVariant value);
+  QString FreeNameFor(const QString& wanted) const;
   void TellListChanged();
 
   QObject* FObject;
@@ -71,6 +83,9 @@ class TQObjectComponent : public TComponent, public TValueHolder, public IPropNo
   mutable const TClassInfo* FClass = nullptr;
   mutable int FClassGeneration = 0;
   std::vector<IPropListener*> FListeners;
+  bool FHasLostObject = false;
+  /// By the names of children's objects, the number of the next one of that name.
+  QHash<QString, int> FNextNamesakes;
   std::unique_ptr<TNotifySink> FSink;
 };
 

@@ -36,11 +36,15 @@ void RegisterQObjectFactory(const QMetaObject& meta, TQObjectFactory factory) {
   Factories()[&meta] = std::move(factory);
 }
 
+void RegisterInvokableQObject(const QMetaObject& meta) {
+  RegisterQObjectFactory(meta, [&meta] { return MakeByConstructor(meta); });
+}
+
 std::unique_ptr<QObject> MakeFreshQObject(const QMetaObject& meta) {
   const bool isWidget = meta.inherits(&QWidget::staticMetaObject);
   if (isWidget && !qobject_cast<QApplication*>(QCoreApplication::instance())) return nullptr;
   const auto factory = Factories().find(&meta);
-  std::unique_ptr<QObject> made = factory != Factories().end() ? factory->second() : MakeByConstructor(meta);
+  std::unique_ptr<QObject> made = factory != Factories().end() ? factory->second() : nullptr;
   return made && made->metaObject() == &meta ? std::move(made) : nullptr;
 }
 

@@ -20,9 +20,12 @@ void RegisterQObjectFactory() {
   RegisterQObjectFactory(T::staticMetaObject, [] { return std::make_unique<T>(); });
 }
 
-/// A new object of just that class: by its factory, by those of Qt's own classes, or by a constructor that the class
-/// declares invokable, without arguments or with a parent. Null when there is none of these, and for widgets without a
-/// QApplication.
+/// The same, by a constructor that the class declares invokable, without arguments or with a parent. Nobody's
+/// constructors are called unasked: they may do anything.
+void RegisterInvokableQObject(const QMetaObject& meta);
+
+/// A new object of just that class: by its factory, or that of one of Qt's own classes. Null when there is none, and
+/// for widgets without a QApplication.
 std::unique_ptr<QObject> MakeFreshQObject(const QMetaObject& meta);
 
 /// The classes of Qt that have a factory from the start.

@@ -8,11 +8,9 @@
 #include <QChildEvent>
 #include <QCoreApplication>
 #include <QDynamicPropertyChangeEvent>
-#include <QPointer>
 #include <QThread>
 
 #include <utility>
-#include <vector>
 
 namespace kt {
 
@@ -29,28 +27,32 @@ QEvent::Type ProbeType() {
 TQObjectRegistry& QObjectRegistry() {
   // Deliberately never destroyed: objects live on behind the last line of main.
   static auto* registry = new TQObjectRegistry;
-  Q_ASSERT(QThread::currentThread() == registry->thread());
   return *registry;
 }
 
 // Making.
 
 TQObjectComponent* TQObjectRegistry::ComponentFor(QObject& object) {
-  Q_ASSERT(object.thread() == QThread::currentThread());
+  if (QThread::currentThread() != thread() || object.thread() != thread()) return nullptr;
   if (TQObjectComponent* known = FindComponent(&object)) {
     if (FUnsettled.contains(&object)) FollowParent(object);
     return known;
   }
-  if (FDying.contains(&object)) {
-    if (IsDying(object)) return nullptr;
-    FDying.remove(&object);
-  }
-  AddTree(TopWithoutComponent(object));
+  if (IsLeftover(object)) return nullptr;
+  AddTrees({&TopWithoutComponent(object)});
   return FindComponent(&object);
 }
 
+/// Whether the destruction of an object has been told already.
+bool TQObjectRegistry::IsLeftover(QObject& object) {
+  if (!FDying.contains(&object)) return false;
+  if (!FindComponent(&object) && IsDying(object)) return true;
+  FDying.remove(&object);
+  return false;
+}
+
 /// Another object may have been made at the address of one that went.
-bool TQObjectRegistry::IsDying(QObject& object) const {
+bool TQObjectRegistry::IsDying(QObject& object) {
   QEvent probe(ProbeType());
   probe.setAccepted(false);
   QCoreApplication::sendEvent(&object, &probe);
@@ -58,14 +60,15 @@ bool TQObjectRegistry::IsDying(QObject& object) const {
 }
 
 /// The parent that the component of an object follows; null for none, and for one that is not to be touched.
-QObject* TQObjectRegistry::ParentToFollow(const QObject& object) const {
+QObject* TQObjectRegistry::ParentToFollow(const QObject& object) {
   QObject* parent = object.parent();
   // The application object sees all events of all objects, and is nobody's whole.
   const bool isWanted = parent && parent != QCoreApplication::instance();
-  return isWanted && !FDying.contains(parent) && parent->thread() == thread() ? parent : nullptr;
+  if (!isWanted || parent->thread() != thread()) return nullptr;
+  return IsLeftover(*parent) ? nullptr : parent;
 }
 
-QObject& TQObjectRegistry::TopWithoutComponent(QObject& object) const {
+QObject& TQObjectRegistry::TopWithoutComponent(QObject& object) {
   QObject* top = &object;
   for (QObject* parent = ParentToFollow(*top); parent && !FindComponent(parent); parent = ParentToFollow(*top)) {
     top = parent;
@@ -73,35 +76,37 @@ QObject& TQObjectRegistry::TopWithoutComponent(QObject& object) const {
   return *top;
 }
 
-/// Parents before their children.
-void TQObjectRegistry::AddTree(QObject& top) {
-  std::vector<QObject*> open = {&top};
-  while (!open.empty()) {
-    QObject* object = open.back();
-    open.pop_back();
+/// Level by level: an owner tells what comes to each component below that has some of its own, and none has as long as
+/// its siblings come. Whoever hears of a component that comes may destroy objects.
+void TQObjectRegistry::AddTrees(const std::vector<QPointer<QObject>>& tops) {
+  std::vector<QPointer<QObject>> open = tops;
+  for (size_t i = 0; i < open.size(); ++i) {
+    QObject* object = open[i];
+    if (!object || IsLeftover(*object)) continue;
     if (!FindComponent(object)) AddOne(*object);
     FollowParent(*object);
-    const QObjectList& children = object->children();
-    // The first child comes first.
-    for (auto child = children.rbegin(); child != children.rend(); ++child) {
-      if (!FindComponent(*child)) open.push_back(*child);
+    if (!open[i]) continue;
+    if (TQObjectComponent* component = FindComponent(object)) component->FollowName();
+    if (!open[i]) continue;
+    for (QObject* child : object->children()) {
+      if (!FindComponent(child)) open.emplace_back(child);
     }
   }
 }
 
 void TQObjectRegistry::AddOne(QObject& object) {
-  TQObjectComponent* component = Make<TQObjectComponent>(object).release();
-  FComponents.insert(&object, component);
+  FComponents.insert(&object, Make<TQObjectComponent>(object).release());
   if (&object != QCoreApplication::instance()) object.installEventFilter(this);
   connect(&object, &QObject::destroyed, this, &TQObjectRegistry::ObjectDestroyed, Qt::UniqueConnection);
   connect(&object, &QObject::objectNameChanged, this, &TQObjectRegistry::NameChanged, Qt::UniqueConnection);
-  component->FollowName();
 }
 
 void TQObjectRegistry::FollowParent(QObject& object) {
   TQObjectComponent* component = FindComponent(&object);
   QObject* parent = ParentToFollow(object);
-  TComponent* owner = parent ? ComponentFor(*parent) : nullptr;
+  // Where the parent's own place is not settled, that is done in its turn.
+  TComponent* owner = parent ? FindComponent(parent) : nullptr;
+  if (parent && !owner) owner = ComponentFor(*parent);
   if (!component || component->GetOwnerComponent() == owner) return;
   if (TComponent* former = component->GetOwnerComponent()) former->RemoveComponent(component);
   component->DropName();
@@ -125,6 +130,14 @@ void TQObjectRegistry::ObjectDestroyed(QObject* object) {
   delete component;
 }
 
+/// To another thread, where nothing of this one may follow it.
+void TQObjectRegistry::ObjectLeaves(QObject& object) {
+  object.removeEventFilter(this);
+  disconnect(&object, nullptr, this, nullptr);
+  FUnsettled.remove(&object);
+  delete FComponents.take(&object);
+}
+
 // Following.
 
 bool TQObjectRegistry::eventFilter(QObject* watched, QEvent* event) {
@@ -133,6 +146,9 @@ bool TQObjectRegistry::eventFilter(QObject* watched, QEvent* event) {
       // Its constructors may be running.
       FUnsettled.insert(watched);
       SettleLater();
+      return false;
+    case QEvent::ThreadChange:
+      ObjectLeaves(*watched);
       return false;
     case QEvent::ChildRemoved:
       ChildRemoved(static_cast<QChildEvent*>(event)->child());
@@ -182,14 +198,16 @@ void TQObjectRegistry::SettleLater() {
 void TQObjectRegistry::FollowChildren(const QObject& object) {
   const QObjectList& present = object.children();
   const std::vector<QPointer<QObject>> children(present.begin(), present.end());
+  std::vector<QPointer<QObject>> unknown;
   for (const QPointer<QObject>& child : children) {
     if (!child) continue;
     if (FindComponent(child)) {
       FollowParent(*child);
     } else {
-      AddTree(*child);
+      unknown.push_back(child);
     }
   }
+  AddTrees(unknown);
 }
 
 void TQObjectRegistry::Settle() {

@@ -3,14 +3,17 @@
 #include <QEvent>
 #include <QHash>
 #include <QObject>
+#include <QPointer>
 #include <QSet>
+
+#include <vector>
 
 namespace kt {
 
 class TQObjectComponent;
 
 /// The components of objects of Qt's, one for each: makes them, has them follow the tree of the objects, and destroys
-/// them with their objects.
+/// them with their objects, and before these move to another thread.
 ///
 /// Sees every event of each such object; what is not about the tree or a property costs one look at its type.
 class TQObjectRegistry final : public QObject {
@@ -31,16 +34,18 @@ class TQObjectRegistry final : public QObject {
   friend TQObjectRegistry& QObjectRegistry();
   TQObjectRegistry() = default;
 
-  QObject& TopWithoutComponent(QObject& object) const;
-  QObject* ParentToFollow(const QObject& object) const;
-  bool IsDying(QObject& object) const;
-  void AddTree(QObject& top);
+  QObject& TopWithoutComponent(QObject& object);
+  QObject* ParentToFollow(const QObject& object);
+  bool IsLeftover(QObject& object);
+  static bool IsDying(QObject& object);
+  void AddTrees(const std::vector<QPointer<QObject>>& tops);
   void AddOne(QObject& object);
   void FollowParent(QObject& object);
   void FollowChildren(const QObject& object);
   void ObjectDestroyed(QObject* object);
   void NameChanged();
   void ChildRemoved(QObject* child);
+  void ObjectLeaves(QObject& object);
   void SettleLater();
 
   QHash<const QObject*, TQObjectComponent*> FComponents;

@@ -1,5 +1,9 @@
 #include "kt/qobjects/ValueEnums.h"
 
+#include "kt/rtl/conversions/Format.h"
+#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/Messages.h"
+
 #include <QSet>
 
 #include <algorithm>
@@ -23,9 +27,16 @@ QString NameOf(const QMetaEnum& enumeration, const char* name) {
   return scope.isEmpty() ? QString::fromUtf8(name) : scope + QStringLiteral("::") + QString::fromUtf8(name);
 }
 
+/// Names are compared without regard to case: behind one that differs in nothing else there are underscores.
+void AddKey(QStringList& keys, const char* key) {
+  QString name = QString::fromUtf8(key);
+  while (keys.contains(name, Qt::CaseInsensitive)) name += u'_';
+  keys += name;
+}
+
 QStringList KeysOf(const QMetaEnum& enumeration) {
   QStringList keys;
-  for (int i = 0; i < enumeration.keyCount(); ++i) keys += QString::fromUtf8(enumeration.key(i));
+  for (int i = 0; i < enumeration.keyCount(); ++i) AddKey(keys, enumeration.key(i));
   return keys;
 }
 
@@ -50,7 +61,7 @@ std::vector<int> SingleBits(const QMetaEnum& flags) {
 
 QStringList SingleBitNames(const QMetaEnum& flags) {
   QStringList names;
-  for (const int key : SingleBitKeys(flags)) names += QString::fromUtf8(flags.key(key));
+  for (const int key : SingleBitKeys(flags)) AddKey(names, flags.key(key));
   return names;
 }
 
@@ -133,6 +144,42 @@ const TQtEnumTypeInfo* EnumTypeInfoFor(const QMetaEnum& enumeration) {
 }
 
 const TQtFlagsTypeInfo* FlagsTypeInfoFor(const QMetaEnum& flags) { return OnePerEnum<TQtFlagsTypeInfo>(flags); }
+
+bool IsWideEnum(QMetaType type) { return IsEnumeration(type) && type.sizeOf() == 8; }
+
+QStringList WideEnumKeys(const QMetaEnum& enumeration) {
+  QStringList keys;
+  for (int i = 0; i < enumeration.keyCount(); ++i) {
+    const int value = enumeration.value(i);
+    int count = 0;
+    for (int j = 0; j < enumeration.keyCount(); ++j) count += enumeration.value(j) == value;
+    if (value >= 0 && count == 1) keys += QString::fromUtf8(enumeration.key(i));
+  }
+  return keys;
+}
+
+QString WideEnumText(const QMetaEnum& enumeration, const QVariant& value) {
+  if (!IsWideEnum(value.metaType())) return QString::number(value.toLongLong());
+  quint64 number = 0;
+  std::memcpy(&number, value.constData(), sizeof number);
+  const bool isSmall = number <= static_cast<quint64>(std::numeric_limits<int>::max());
+  const char* key = isSmall ? enumeration.valueToKey(static_cast<int>(number)) : nullptr;
+  if (key && WideEnumKeys(enumeration).contains(QString::fromUtf8(key))) return QString::fromUtf8(key);
+  return IsUnsigned(value.metaType()) ? QString::number(number) : QString::number(static_cast<qint64>(number));
+}
+
+QVariant WideEnumOfText(const QMetaEnum& enumeration, QMetaType type, const QString& text) {
+  const QString name = text.trimmed();
+  bool isNumber = false;
+  quint64 number = IsUnsigned(type) ? name.toULongLong(&isNumber) : static_cast<quint64>(name.toLongLong(&isNumber));
+  if (!isNumber && WideEnumKeys(enumeration).contains(name)) {
+    number = static_cast<quint64>(enumeration.keyToValue(name.toUtf8().constData(), &isNumber));
+  }
+  if (!isNumber) throw EPropertyConvertError(Format(SInvalidPropertyElement, {text}));
+  QVariant value(type);
+  std::memcpy(value.data(), &number, sizeof number);
+  return value;
+}
 
 int EnumNumber(const QVariant& value) {
   const QMetaType type = value.metaType();

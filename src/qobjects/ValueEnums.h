@@ -47,6 +47,15 @@ class TQtFlagsTypeInfo final {
 const TQtEnumTypeInfo* EnumTypeInfoFor(const QMetaEnum& enumeration);
 const TQtFlagsTypeInfo* FlagsTypeInfoFor(const QMetaEnum& flags);
 
+/// Enumerations of 64 bits: Qt tells 32 of each key.
+bool IsWideEnum(QMetaType type);
+/// The keys that certainly mean what Qt tells of them: those that only one of the keys is, and that are not negative.
+QStringList WideEnumKeys(const QMetaEnum& enumeration);
+/// The name of such a key, else the number.
+QString WideEnumText(const QMetaEnum& enumeration, const QVariant& value);
+/// Raises EPropertyConvertError "Invalid property element: %s" for what is neither.
+QVariant WideEnumOfText(const QMetaEnum& enumeration, QMetaType type, const QString& text);
+
 /// The number that an enumerator or flags in a variant are; 0 for none.
 int EnumNumber(const QVariant& value);
 /// A number as a value of that type; where that is not known, as a number.

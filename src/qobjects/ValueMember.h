@@ -2,6 +2,7 @@
 
 #include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/Object.h"
+#include "kt/rtl/typeinfo/PropView.h"
 
 #include <QMetaEnum>
 #include <QMetaType>
@@ -10,7 +11,10 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <unordered_map>
+
+class QObject;
 
 namespace kt {
 
@@ -25,8 +29,12 @@ struct TValueMember {
   QMetaEnum Enumeration = {};
   /// May do anything, as getters do: the holder can be gone afterwards.
   std::function<QVariant(TValueHolder&)> Read;
+  /// What a value of the holder's type has as this member; only for members of values.
+  std::function<QVariant(const QVariant&)> Pick = {};
   /// Empty for what cannot be written. May do anything, too.
   std::function<void(TValueHolder&, const QVariant&)> Write = {};
+  /// The member's own way back to its value before any change; empty for none. False when nothing came of it.
+  std::function<bool(TValueHolder&)> Reset = {};
   bool IsStored = true;
   /// What a fresh object has; only with HasFresh.
   QVariant Fresh = {};
@@ -35,24 +43,47 @@ struct TValueMember {
 
 using TMemberPtr = std::shared_ptr<const TValueMember>;
 
+class TReferenceWatch;
+
 /// Has members: the component of an object of Qt's, or a part that stands for a value made of values.
-class TValueHolder {
+class TValueHolder : public IPropView {
  public:
-  TValueHolder() = default;
-  virtual ~TValueHolder() = default;
+  TValueHolder();
+  ~TValueHolder() override;
   TValueHolder(const TValueHolder&) = delete;
   TValueHolder& operator=(const TValueHolder&) = delete;
 
   /// The holder as the object that it is.
   virtual TObject& AsObject() = 0;
+  /// The object of Qt's that all is part of; null once it is gone.
+  virtual QObject* Root() const = 0;
+  /// What a member is in a fresh object; nothing where that is not known.
+  virtual std::optional<QVariant> FreshValueOf(const TValueMember& member) const = 0;
+  /// A member may have another value.
+  virtual void MemberChanged(const TValueMember& member) = 0;
   /// The object that stands for a member whose value is shown as one; made by `make` when it is asked for first, and
   /// kept as long as the holder.
   TObject* Part(const TMemberPtr& member, const std::function<std::unique_ptr<TObject>()>& make);
+  /// The objects that members point to.
+  TReferenceWatch& References();
+
+  std::optional<QString> PropText(const TPropInfo& property) override;
+  bool TakesPropText(const TPropInfo& property) override;
+  bool SetPropText(const TPropInfo& property, const QString& text) override;
+  bool HasPropChoices(const TPropInfo& property) override;
+  QStringList PropChoices(const TPropInfo& property) override;
+  bool IsPropChanged(const TPropInfo& property) override;
+  bool CanResetProp(const TPropInfo& property) override;
+  bool ResetProp(const TPropInfo& property) override;
 
  protected:
-  void DropParts() { FParts.clear(); }
+  /// Of what is kept for members.
+  void DropParts();
+  /// The owner of what a member points to has told of a change.
+  void ReferenceTold(const QString& member);
 
  private:
+  std::unique_ptr<TReferenceWatch> FReferences;
   std::unordered_map<const TValueMember*, std::unique_ptr<TObject>> FParts;
 };
 

@@ -17,6 +17,12 @@ bool TValuePart::IsWithin(QMetaType type) const {
   return false;
 }
 
+std::optional<QVariant> TValuePart::FreshValueOf(const TValueMember& member) const {
+  const std::optional<QVariant> whole = FHolder.FreshValueOf(*FMember);
+  if (!whole || whole->metaType() != Type() || !member.Pick) return std::nullopt;
+  return member.Pick(*whole);
+}
+
 QVariant TValuePart::ReadWhole() {
   const QMetaType type = Type();
   QVariant whole = FMember->Read(FHolder);

@@ -15,6 +15,9 @@ class TValuePart : public TPersistent, public TValueHolder {
   const TClassInfo* ClassType() const override { return FClass; }
 
   TObject& AsObject() override { return *this; }
+  QObject* Root() const override { return FHolder.Root(); }
+  std::optional<QVariant> FreshValueOf(const TValueMember& member) const override;
+  void MemberChanged(const TValueMember&) override { FHolder.MemberChanged(*FMember); }
   QMetaType Type() const { return FMember->Type; }
   /// Whether a value of that type is what this part, or one that it is in, stands for.
   bool IsWithin(QMetaType type) const;

@@ -111,8 +111,16 @@ TValueMember GadgetMember(const QMetaProperty& property) {
   member.Name = QString::fromUtf8(property.name());
   member.Type = property.metaType();
   if (property.isEnumType()) member.Enumeration = property.enumerator();
-  member.Read = [property](TValueHolder& holder) { return property.readOnGadget(WholeOf(holder).constData()); };
-  if (!property.isWritable()) return member;
+  member.IsStored = property.isStored();
+  member.Pick = [property](const QVariant& whole) { return property.readOnGadget(whole.constData()); };
+  member.Read = [pick = member.Pick](TValueHolder& holder) { return pick(WholeOf(holder)); };
+  if (!property.isWritable() || property.isConstant()) return member;
+  if (property.isResettable()) {
+    member.Reset = [property](TValueHolder& holder) {
+      ChangeWhole(holder, [&](QVariant& whole) { property.resetOnGadget(whole.data()); });
+      return true;
+    };
+  }
   member.Write = [property](TValueHolder& holder, const QVariant& value) {
     ChangeWhole(holder, [&](QVariant& whole) { property.writeOnGadget(whole.data(), value); });
   };
@@ -123,7 +131,8 @@ std::vector<TValueMember> GadgetMembers(const QMetaObject& meta) {
   std::vector<TValueMember> members;
   for (int i = 0; i < meta.propertyCount(); ++i) {
     const QMetaProperty property = meta.property(i);
-    if (property.isReadable() && meta.indexOfProperty(property.name()) == i) members.push_back(GadgetMember(property));
+    const bool isListed = property.isReadable() && property.isDesignable();
+    if (isListed && meta.indexOfProperty(property.name()) == i) members.push_back(GadgetMember(property));
   }
   return members;
 }
@@ -137,6 +146,7 @@ std::unique_ptr<const TClassInfo> MakeShape(QMetaType type, const TClassInfo* pa
   TClassInfo::TDefinition definition{.Name = QString::fromUtf8(type.name()), .Parent = parent};
   for (TValueMember& member : MembersOf(type)) {
     if (!isWritable) member.Write = nullptr;
+    if (!isWritable) member.Reset = nullptr;
     definition.Properties.push_back(DefineProperty(std::make_shared<const TValueMember>(std::move(member))));
   }
   return std::make_unique<const TClassInfo>(std::move(definition));

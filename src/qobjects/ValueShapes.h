@@ -31,9 +31,10 @@ class TShapeBuilder {
     member.Name = QString::fromLatin1(name);
     member.Type = QMetaType::fromType<V>();
     if constexpr (std::is_enum_v<V>) member.Enumeration = QMetaEnum::fromType<V>();
-    member.Read = [get](TValueHolder& holder) {
-      return QVariant::fromValue<V>(std::invoke(get, WholeOf(holder).template value<T>()));
+    member.Pick = [get](const QVariant& whole) {
+      return QVariant::fromValue<V>(std::invoke(get, whole.template value<T>()));
     };
+    member.Read = [pick = member.Pick](TValueHolder& holder) { return pick(WholeOf(holder)); };
     member.Write = [set](TValueHolder& holder, const QVariant& value) {
       ChangeWhole(holder, [&](QVariant& whole) {
         T changed = whole.value<T>();

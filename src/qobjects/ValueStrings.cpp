@@ -2,6 +2,7 @@
 
 #include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/Make.h"
 #include "kt/rtl/objects/Messages.h"
 
 namespace kt {
@@ -10,6 +11,23 @@ QStringList LinesOf(TStrings& strings) {
   QStringList lines;
   for (int i = 0; i < strings.GetCount(); ++i) lines += strings.GetStrings(i);
   return lines;
+}
+
+TMemberTexts StringsTexts(const TMemberPtr& member) {
+  return {.ToText =
+              [member](TValueHolder& holder) {
+                const auto lines = Make<TStringList>();
+                for (const QString& line : member->Read(holder).toStringList()) lines->Add(line);
+                return lines->GetCommaText();
+              },
+          .FromText =
+              [member](TValueHolder& holder, const QString& text) {
+                const auto lines = Make<TStringList>();
+                lines->SetCommaText(text);
+                const QStringList written = LinesOf(*lines);
+                ChangeMember(holder.AsObject(), *member, [&](const QVariant&) { return QVariant(written); });
+                return true;
+              }};
 }
 
 QStringList TValueStrings::Lines() { return LinesOf(*this); }

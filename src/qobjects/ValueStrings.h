@@ -1,6 +1,6 @@
 #pragma once
 
-#include "kt/qobjects/ValueMember.h"
+#include "kt/qobjects/MemberAccess.h"
 #include "kt/rtl/strings/StringList.h"
 
 namespace kt {
@@ -30,5 +30,8 @@ class TValueStrings : public TStringList {
 
 /// The lines of any string list.
 QStringList LinesOf(TStrings& strings);
+
+/// Lists of texts as one text: with commas between, and quotes where they are needed.
+TMemberTexts StringsTexts(const TMemberPtr& member);
 
 }  // namespace kt

@@ -4,15 +4,11 @@
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Exceptions.h"
 
-#include <QBitmap>
 #include <QByteArray>
 #include <QColor>
 #include <QDateTime>
-#include <QIcon>
-#include <QImage>
 #include <QKeySequence>
 #include <QLocale>
-#include <QPixmap>
 #include <QRegularExpression>
 #include <QTimeZone>
 #include <QUrl>
@@ -159,29 +155,6 @@ const std::map<int, TTextForm>& Forms() {
   return forms;
 }
 
-QString SizeText(QSize size) { return QStringLiteral("%1 x %2").arg(size.width()).arg(size.height()); }
-
-bool IsNullPointer(const QVariant& value) {
-  constexpr QMetaType::TypeFlags pointers =
-      QMetaType::IsPointer | QMetaType::PointerToQObject | QMetaType::PointerToGadget;
-  const bool isPointer = (value.metaType().flags() & pointers) != 0;
-  return isPointer && !*static_cast<void* const*>(value.constData());
-}
-
-/// What a picture looks like; nothing for what is none. Each copy of Qt's own icons is another one.
-QImage LookOf(const QVariant& value) {
-  constexpr QSize kProbe(16, 16);
-  switch (value.metaType().id()) {
-    case QMetaType::QIcon:
-      return value.value<QIcon>().pixmap(kProbe).toImage();
-    case QMetaType::QPixmap:
-    case QMetaType::QBitmap:
-      return value.value<QPixmap>().toImage();
-    default:
-      return {};
-  }
-}
-
 }  // namespace
 
 const TTextForm* FindTextForm(QMetaType type) {
@@ -196,30 +169,6 @@ QVariant ValueOfText(QMetaType type, const QString& text, const QVariant& curren
   QVariant value = form->FromText(text, current);
   if (!value.isValid()) throw EPropertyConvertError(Format(SInvalidTextOfType, {text, QLatin1StringView(type.name())}));
   return value;
-}
-
-QString ReadOnlyText(const QVariant& value) {
-  if (!value.isValid() || IsNullPointer(value)) return {};
-  const QMetaType type = value.metaType();
-  if (const TTextForm* form = FindTextForm(type)) return form->ToText(value);
-  switch (type.id()) {
-    case QMetaType::QPixmap:
-    case QMetaType::QBitmap:
-      return SizeText(value.value<QPixmap>().size());
-    case QMetaType::QImage:
-      return SizeText(value.value<QImage>().size());
-    default:
-      break;
-  }
-  const QMetaType text = QMetaType::fromType<QString>();
-  if (QMetaType::hasRegisteredConverterFunction(type, text)) return value.toString();
-  return u'(' + QString::fromUtf8(type.name()) + u')';
-}
-
-bool LooksSame(const QVariant& a, const QVariant& b) {
-  if (a.metaType() != b.metaType()) return false;
-  if (!a.isValid() || a.metaType().isEqualityComparable()) return a == b;
-  return ReadOnlyText(a) == ReadOnlyText(b) && LookOf(a) == LookOf(b);
 }
 
 }  // namespace kt

@@ -20,8 +20,8 @@ const TTextForm* FindTextForm(QMetaType type);
 /// Raises EPropertyConvertError "'%s' is not a valid value of type %s".
 QVariant ValueOfText(QMetaType type, const QString& text, const QVariant& current);
 
-/// What is shown of a value that cannot be edited: its text where its type has one, the size of a picture, or the name
-/// of its type in parentheses.
+/// What is shown of a value that cannot be edited: its text where its type has one, the size of a picture, the name
+/// or the sizes of an icon, what is in a list or map, or the name of its type in parentheses.
 QString ReadOnlyText(const QVariant& value);
 
 /// Whether two values are the same as far as can be told: for types that cannot be compared, by what is shown of them,

@@ -31,6 +31,8 @@ const std::map<QEvent::Type, QStringList>& Table() {
       {QEvent::WindowDeactivate, Names("isActiveWindow")},
       {QEvent::FocusIn, Names("focus")},
       {QEvent::FocusOut, Names("focus")},
+      {QEvent::AcceptDropsChange, Names("acceptDrops")},
+      {QEvent::ReadOnlyChange, Names("readOnly")},
       {QEvent::LayoutRequest, Names("sizeHint minimumSizeHint")},
   };
   return table;

@@ -1,5 +1,8 @@
 // Getters and setters that do what they should not.
 #include "qobjects/QObjectFixture.h"
+#include "qobjects/SpecialObjects.h"
+
+#include <stdexcept>
 
 namespace kt::tests {
 namespace {
@@ -73,6 +76,38 @@ TEST_F(HostileQObjectTest, AGetterThatThrowsIsHeardByWhoeverReads) {
   EXPECT_THROW(GetOrdProp(component, u"alpha"), EConvertError);
   FObject->OnGet = nullptr;
   EXPECT_EQ(1, GetOrdProp(component, u"alpha"));
+}
+
+TEST_F(HostileQObjectTest, AGetterThatThrowsShowsWhatItThrewAndTheRestGoesOn) {
+  TQtThrower object;
+  object.OnGet = [] { throw EConvertError("no value"); };
+  InspectQ({&object});
+  for (const char* name : {"alpha", "text", "partner", "sides", "lines"}) EXPECT_EQ("(no value)", Value(name)) << name;
+  EXPECT_EQ("9", Value("zeta"));
+  EXPECT_NE(nullptr, Find("Tag"));
+}
+
+TEST_F(HostileQObjectTest, AnyExceptionIsShown) {
+  TQtThrower object;
+  object.OnGet = [] { throw std::runtime_error("standard"); };
+  InspectQ({&object});
+  EXPECT_EQ("(standard)", Value("alpha"));
+  object.OnGet = [] { throw 5; };
+  FInspector->RefreshProperties();
+  EXPECT_EQ("(unknown error)", Value("alpha"));
+}
+
+TEST_F(HostileQObjectTest, AGetterThatThrowsNoMoreShowsItsValue) {
+  TQtThrower object;
+  InspectQ({&object});
+  EXPECT_EQ("1", Value("alpha"));
+  object.OnGet = [] { throw EConvertError("no value"); };
+  FInspector->RefreshProperties();
+  EXPECT_EQ("(no value) (no value) 9", Value("alpha") + ' ' + Value("sides") + ' ' + Value("zeta"));
+  object.OnGet = nullptr;
+  FInspector->RefreshProperties();
+  Deliver();
+  EXPECT_EQ("1 [AlignLeft]", Value("alpha") + ' ' + Value("sides"));
 }
 
 TEST_F(HostileQObjectTest, ASetterThatThrowsIsHeardByWhoeverWrites) {

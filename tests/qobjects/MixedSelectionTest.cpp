@@ -1,4 +1,5 @@
 // Several objects of Qt's, and components of the framework among them.
+#include "kt/qobjects/QObjectComponent.h"
 #include "qobjects/QObjectFixture.h"
 
 #include <QCheckBox>
@@ -40,6 +41,32 @@ TEST_F(MixedSelectionTest, ValuesThatBecomeDifferentOrEqualAreShownSo) {
   first.SetCount(6);
   Deliver();
   EXPECT_TRUE(Item("count").IsAllEqual());
+}
+
+TEST_F(MixedSelectionTest, MembersThatBecomeDifferentOrEqualAreShownSo) {
+  TQtCounter first;
+  TQtCounter second;
+  InspectQ({&first, &second});
+  second.SetPlace({7, 0});
+  Deliver();
+  EXPECT_FALSE(Item("place.x").IsAllEqual());
+  EXPECT_TRUE(Item("place.y").IsAllEqual());
+  first.SetPlace({7, 0});
+  Deliver();
+  EXPECT_TRUE(Item("place.x").IsAllEqual());
+}
+
+TEST_F(MixedSelectionTest, MembersOfSetsThatBecomeDifferentAreShownSo) {
+  QLabel first;
+  QLabel second;
+  InspectQ({&first, &second});
+  EXPECT_TRUE(Item("inputMethodHints.ImhDate").IsAllEqual());
+  second.setInputMethodHints(Qt::ImhDate);
+  // No signal and no event tells.
+  static_cast<TQObjectComponent*>(ComponentOf(&second))->TellChanged("inputMethodHints");
+  Deliver();
+  EXPECT_FALSE(Item("inputMethodHints.ImhDate").IsAllEqual());
+  EXPECT_TRUE(Item("inputMethodHints.ImhTime").IsAllEqual());
 }
 
 TEST_F(MixedSelectionTest, AValueColumnForEachObject) {

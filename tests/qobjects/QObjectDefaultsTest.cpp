@@ -1,5 +1,6 @@
 // What is a change, and what is not.
 #include "qobjects/QObjectFixture.h"
+#include "qobjects/SpecialObjects.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -40,11 +41,20 @@ TEST_F(QObjectDefaultsTest, ChangedValuesAreModified) {
   EXPECT_TRUE(Item("suffix").IsModified());
 }
 
-TEST_F(QObjectDefaultsTest, AClassWithAnInvokableConstructorNeedsNoFactory) {
-  TQtCounter object;
+TEST_F(QObjectDefaultsTest, NobodysConstructorIsCalledUnasked) {
+  TQtInvokable object;
+  TQtInvokable::Made = 0;
+  EXPECT_FALSE(FindPropInfo(ComponentOf(&object), u"count")->HasDefault());
+  EXPECT_FALSE(ResetProperty(ComponentOf(&object), u"count"));
+  EXPECT_EQ(0, TQtInvokable::Made);
+}
+
+TEST_F(QObjectDefaultsTest, AnInvokableConstructorDoesInsteadOfAFactoryWhenItIsAskedTo) {
+  RegisterInvokableQObject(TQtInvited::staticMetaObject);
+  TQtInvited object;
   EXPECT_FALSE(IsStoredProp(ComponentOf(&object), u"count"));
   EXPECT_EQ(5, FindPropInfo(ComponentOf(&object), u"count")->Default());
-  object.SetCount(6);
+  object.Count = 6;
   EXPECT_TRUE(IsStoredProp(ComponentOf(&object), u"count"));
 }
 

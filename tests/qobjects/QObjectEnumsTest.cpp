@@ -1,5 +1,6 @@
 // Enumerations and flags of Qt's.
 #include "qobjects/QObjectFixture.h"
+#include "qobjects/SpecialObjects.h"
 
 namespace kt::tests {
 namespace {
@@ -62,6 +63,31 @@ TEST_F(QObjectEnumsTest, AnEnumerationOfTwoBytesKeepsItsSign) {
   EXPECT_EQ(TQtKinds::Above, FObject.ANarrow);
   Put("narrow", "-7");
   EXPECT_EQ(-7, static_cast<int>(FObject.ANarrow));
+}
+
+TEST_F(QObjectEnumsTest, AnEnumerationOfEightBytesLosesNoBit) {
+  TQtWide object;
+  InspectQ({&object});
+  EXPECT_EQ("None", Value("wide"));
+  object.AWide = TQtWide::Wide::Vast;
+  FInspector->RefreshProperties();
+  EXPECT_EQ("4294967297", Value("wide"));
+  Put("wide", "18446744073709551615");
+  EXPECT_EQ(std::numeric_limits<quint64>::max(), static_cast<quint64>(object.AWide));
+  Put("wide", "Two");
+  EXPECT_EQ(TQtWide::Wide::Two, object.AWide);
+  EXPECT_THROW(Put("wide", "Three"), EPropertyConvertError);
+}
+
+TEST_F(QObjectEnumsTest, KeysThatDifferInCaseAreToldApart) {
+  TQtWide object;
+  InspectQ({&object});
+  EXPECT_EQ("left", Value("key"));
+  Put("key", "Left_");
+  EXPECT_EQ(TQtWide::Left, object.ACase);
+  EXPECT_EQ("Left_", Value("key"));
+  Put("key", "left");
+  EXPECT_EQ(TQtWide::left, object.ACase);
 }
 
 TEST_F(QObjectEnumsTest, FlagsWithoutAKeyOfOneBitAreANumber) {

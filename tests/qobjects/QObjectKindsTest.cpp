@@ -62,6 +62,47 @@ TEST_F(QObjectKindsTest, NumbersWithDecimals) {
   EXPECT_EQ(1e100, FObject.Real);
 }
 
+TEST_F(QObjectKindsTest, NumbersWithDecimalsKeepEveryDigit) {
+  FObject.Real = 0.1 + 0.2;
+  FObject.Single = 0.1f;
+  FObject.RectF = QRectF(1.0 / 3, 1e-17, 123456789.123456789, 0.1);
+  Inspect();
+  EXPECT_EQ("0.30000000000000004 0.1", Value("real") + ' ' + Value("single"));
+  EXPECT_EQ("0.1", Value("rectF.height"));
+  for (const QString name : {"x", "y", "width", "height"}) {
+    const QRectF before = FObject.RectF;
+    Put("rectF." + name, Value("rectF." + name));
+    EXPECT_EQ(before.x(), FObject.RectF.x());
+    EXPECT_EQ(before.y(), FObject.RectF.y());
+    EXPECT_EQ(before.width(), FObject.RectF.width());
+  }
+  EXPECT_EQ(1.0 / 3, Value("rectF.x").toDouble());
+  Put("single", "0.3");
+  EXPECT_EQ(0.3f, FObject.Single);
+  EXPECT_THROW(Put("real", "many"), std::exception);
+}
+
+TEST_F(QObjectKindsTest, AnIconIsItsName) {
+  FObject.Icon = QIcon::fromTheme("nobody-has-this", QIcon(QPixmap(8, 8)));
+  Inspect();
+  EXPECT_EQ("8 x 8", Value("icon"));
+  FObject.Icon = QIcon();
+  FInspector->RefreshProperties();
+  EXPECT_EQ("", Value("icon"));
+}
+
+TEST_F(QObjectKindsTest, WhatIsInAVariantIsShown) {
+  FObject.AVariant = QVariantList{1, "two", QVariantMap{{"b", 2.5}, {"a", QSize(3, 4)}}, true};
+  Inspect();
+  EXPECT_EQ("[1, two, {a: 3 x 4, b: 2.5}, true]", Value("variant"));
+  FObject.AVariant = QRectF(1, 2.5, 3, 4);
+  FInspector->RefreshProperties();
+  EXPECT_EQ("1, 2.5, 3, 4", Value("variant"));
+  FObject.AVariant = QStringList{"a", "b"};
+  FInspector->RefreshProperties();
+  EXPECT_EQ("[a, b]", Value("variant"));
+}
+
 TEST_F(QObjectKindsTest, ACharacterIsItsNumber) {
   Inspect();
   EXPECT_EQ("97", Value("letter"));
@@ -161,7 +202,10 @@ TEST_F(QObjectKindsTest, LocalesKeySequencesAndAddresses) {
 TEST_F(QObjectKindsTest, WhatCannotBeEditedIsShownReadOnly) {
   FObject.Picture = QPixmap(16, 9);
   Inspect();
-  EXPECT_EQ("(QIcon) 16 x 9 (QPolygon)", Value("icon") + ' ' + Value("picture") + ' ' + Value("polygon"));
+  FObject.Icon.addPixmap(QPixmap(16, 16));
+  FObject.Icon.addPixmap(QPixmap(32, 24));
+  FInspector->RefreshProperties();
+  EXPECT_EQ("16 x 16, 32 x 24|16 x 9|(QPolygon)", Value("icon") + '|' + Value("picture") + '|' + Value("polygon"));
   EXPECT_TRUE(Item("icon").IsReadOnly());
   EXPECT_TRUE(Item("picture").IsReadOnly());
   EXPECT_TRUE(Item("polygon").IsReadOnly());

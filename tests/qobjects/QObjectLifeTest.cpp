@@ -3,6 +3,7 @@
 #include "qobjects/QObjectFixture.h"
 
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWidget>
 
@@ -173,6 +174,47 @@ TEST_F(QObjectLifeTest, AThousandObjectsComeAndGo) {
   EXPECT_FALSE(watched);
 }
 
+TEST_F(QObjectLifeTest, AnObjectMayGoInASlotOfItsOwnSignal) {
+  auto counter = std::make_unique<TQtCounter>();
+  InspectQ({counter.get()});
+  QObject::connect(counter.get(), &TQtCounter::Changed, [&] { counter.release()->deleteLater(); });
+  Put("count", "8");
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  Deliver();
+  EXPECT_EQ(0, FInspector->GetItemCount());
+}
+
+TEST_F(QObjectLifeTest, AnObjectMayGoInASignalThatTellsOfItsChange) {
+  auto counter = std::make_unique<TQtCounter>();
+  TQtCounter other;
+  InspectQ({&other, counter.get()});
+  QObject::connect(&other, &TQtCounter::Changed, [&] { counter.reset(); });
+  Put("count", "8");
+  EXPECT_EQ(1, FInspector->GetObjects().GetCount());
+  EXPECT_EQ(8, other.Count());
+}
+
+TEST_F(QObjectLifeTest, AnObjectMayGoInATimer) {
+  InspectQ({FObject.get()});
+  QTimer timer;
+  timer.setSingleShot(true);
+  QObject::connect(&timer, &QTimer::timeout, [&] { FObject.reset(); });
+  timer.start(0);
+  while (FObject) QCoreApplication::processEvents();
+  Deliver();
+  EXPECT_EQ(0, FInspector->GetItemCount());
+}
+
+TEST_F(QObjectLifeTest, AReferredObjectMayGoWhileItIsRead) {
+  auto partner = std::make_unique<TQtHostile>();
+  FObject->Partner = partner.get();
+  partner->OnGet = [&] { partner.reset(); };
+  InspectQ({FObject.get()});
+  Deliver();
+  Deliver();
+  EXPECT_EQ("(destroyed)", Value("partner"));
+}
+
 class QObjectEditorLifeTest : public TInspectorWindowTest {};
 
 TEST_F(QObjectEditorLifeTest, AnObjectMayGoWhileItsEditorIsOpen) {
@@ -183,6 +225,32 @@ TEST_F(QObjectEditorLifeTest, AnObjectMayGoWhileItsEditorIsOpen) {
   ASSERT_TRUE(IsEditorOpen());
   Retype("new");
   object.reset();
+  TWindowProbe::Settle();
+  EXPECT_EQ(0, FInspector->GetItemCount());
+  EXPECT_EQ("", TakeErrors());
+}
+
+TEST_F(QObjectEditorLifeTest, AnObjectMayGoInATimerWhileItsListIsOpen) {
+  auto object = std::make_unique<TQtKinds>();
+  Show({ComponentOf(object.get())});
+  Select("mode");
+  TWindowProbe::Key(Qt::Key_Down, Qt::AltModifier);
+  TWindowProbe::Settle();
+  QTimer::singleShot(0, [&] { object.reset(); });
+  while (object) QCoreApplication::processEvents();
+  TWindowProbe::Key(Qt::Key_Return);
+  TWindowProbe::Settle();
+  EXPECT_EQ(0, FInspector->GetItemCount());
+  EXPECT_EQ("", TakeErrors());
+}
+
+TEST_F(QObjectEditorLifeTest, AnObjectMayGoInTheSetterOfWhatIsTyped) {
+  auto object = std::make_unique<TQtHostile>();
+  object->OnSet = [&] { object.reset(); };
+  Show({ComponentOf(object.get())});
+  Select("alpha");
+  Retype("3");
+  TWindowProbe::Key(Qt::Key_Return);
   TWindowProbe::Settle();
   EXPECT_EQ(0, FInspector->GetItemCount());
   EXPECT_EQ("", TakeErrors());

@@ -1,6 +1,7 @@
 // Objects that tell of their changes.
 #include "KTObjectInspector/InspectorWindowFixture.h"
 #include "qobjects/QObjectFixture.h"
+#include "qobjects/SpecialObjects.h"
 
 #include <QEvent>
 #include <QLineEdit>
@@ -143,6 +144,23 @@ TEST_F(QObjectNotifyTest, WhatAWidgetOnlySaysInEventsIsShown) {
   EXPECT_EQ("False WaitCursor", Value("enabled") + ' ' + Value("cursor"));
 }
 
+TEST_F(QObjectNotifyTest, WhatOnlyABindingTellsIsShown) {
+  TQtBindable object;
+  InspectQ({&object});
+  object.SetLevel(8);
+  Deliver();
+  EXPECT_EQ("8", Value("level"));
+}
+
+TEST_F(QObjectNotifyTest, ABindableObjectMayGoBeforeTheInspector) {
+  auto object = std::make_unique<TQtBindable>();
+  InspectQ({object.get()});
+  object->SetLevel(8);
+  object.reset();
+  Deliver();
+  EXPECT_EQ(0, FInspector->GetItemCount());
+}
+
 TEST_F(QObjectNotifyTest, TheNameFollows) {
   InspectQ({&FObject});
   FObject.setObjectName("Fresh");
@@ -186,6 +204,38 @@ TEST_F(QObjectNotifyWindowTest, WhatIsBeingTypedStays) {
   FCounter.SetCount(99);
   TWindowProbe::Settle();
   EXPECT_EQ("12", Editor().GetText());
+}
+
+TEST_F(QObjectNotifyWindowTest, WhatIsBeingTypedStaysWhenADynamicPropertyComes) {
+  Show({ComponentOf(&FCounter)});
+  Select("count");
+  Retype("12");
+  FCounter.setProperty("late", 1);
+  TWindowProbe::Settle();
+  ASSERT_TRUE(IsEditorOpen());
+  EXPECT_EQ("12", Editor().GetText());
+  EXPECT_EQ(nullptr, Find("late"));
+  TWindowProbe::Key(Qt::Key_Return);
+  TWindowProbe::Settle();
+  EXPECT_EQ(12, FCounter.Count());
+  TWindowProbe::Key(Qt::Key_Down);
+  TWindowProbe::Settle();
+  TWindowProbe::Settle();
+  EXPECT_EQ("1", Value("late"));
+}
+
+TEST_F(QObjectNotifyWindowTest, WhatChangedWhileItWasTypedOverIsShownWhenThatIsTakenBack) {
+  Show({ComponentOf(&FCounter)});
+  Select("count");
+  Retype("12");
+  FCounter.setProperty("late", 1);
+  TWindowProbe::Settle();
+  TWindowProbe::Key(Qt::Key_Escape);
+  TWindowProbe::Settle();
+  TWindowProbe::Key(Qt::Key_Down);
+  TWindowProbe::Settle();
+  TWindowProbe::Settle();
+  EXPECT_NE(nullptr, Find("late"));
 }
 
 TEST_F(QObjectNotifyWindowTest, AnEditorInWhichNothingWasTypedShowsTheNewValue) {

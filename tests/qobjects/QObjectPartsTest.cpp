@@ -111,6 +111,19 @@ TEST_F(QObjectPartsTest, APartTakesTheValueOfAnother) {
   EXPECT_EQ("other", FObject.Gadget.Title);
 }
 
+TEST_F(QObjectPartsTest, AListOfTextsIsEditedAsOneText) {
+  FObject.Lines = QStringList{"a", "b c", "d,\"e"};
+  Inspect();
+  EXPECT_FALSE(Item("lines").IsReadOnly());
+  EXPECT_EQ("a,\"b c\",\"d,\"\"e\"", Value("lines"));
+  Put("lines", Value("lines"));
+  EXPECT_EQ(QStringList({"a", "b c", "d,\"e"}), FObject.Lines);
+  Put("lines", "x,\"y z\"");
+  EXPECT_EQ(QStringList({"x", "y z"}), FObject.Lines);
+  // Whoever has an editor for string lists finds them by that name.
+  EXPECT_EQ("TStrings", Item("lines").GetTypeName());
+}
+
 TEST_F(QObjectPartsTest, AListOfTextsIsAStringList) {
   FObject.Lines = QStringList{"a", "b"};
   FInspector->SetInplaceTStrings(true);

@@ -5,6 +5,8 @@
 #include <QPushButton>
 #include <QWidget>
 
+#include <cstddef>
+
 namespace kt::tests {
 namespace {
 
@@ -87,12 +89,61 @@ TEST_F(QObjectTreeTest, TheNameIsTheObjectsWhereThatIsAnIdentifier) {
   EXPECT_EQ("Root2", ComponentOf(&FRoot)->GetName());
 }
 
-TEST_F(QObjectTreeTest, OfNamesakesOneHasTheName) {
+TEST_F(QObjectTreeTest, NamesakesAreNumbered) {
   QObject* first = Named("same", &FRoot);
   QObject* second = Named("same", &FRoot);
+  QObject* third = Named("same", &FRoot);
   EXPECT_EQ("same", ComponentOf(first)->GetName());
-  EXPECT_EQ("", ComponentOf(second)->GetName());
+  EXPECT_EQ("same_2", ComponentOf(second)->GetName());
+  EXPECT_EQ("same_3", ComponentOf(third)->GetName());
   EXPECT_EQ("same", GetStrProp(ComponentOf(second), u"objectName"));
+  second->setObjectName("other");
+  EXPECT_EQ("other", ComponentOf(second)->GetName());
+  second->setObjectName("same");
+  EXPECT_EQ("same_4", ComponentOf(second)->GetName());
+}
+
+TEST_F(QObjectTreeTest, TenThousandObjectsBelowEachOtherComeAndGo) {
+  constexpr int kDepth = 10'000;
+  auto root = std::make_unique<QObject>();
+  QObject* last = root.get();
+  for (int i = 0; i < kDepth; ++i) last = new QObject(last);
+  const TObjectRef component(ComponentOf(root.get()));
+  int depth = 0;
+  for (TComponent* at = ComponentOf(last); at->GetOwnerComponent(); at = at->GetOwnerComponent()) ++depth;
+  EXPECT_EQ(kDepth, depth);
+  root.reset();
+  EXPECT_FALSE(component);
+}
+
+TEST_F(QObjectTreeTest, OfAWideTreeEachComponentHearsOfNoSiblings) {
+  // Each level as a whole: what comes later than a sibling's children is told to all of these.
+  for (int i = 0; i < 20'000; ++i) Named("same", Named("", &FRoot));
+  EXPECT_EQ(20'000, ComponentOf(&FRoot)->GetComponentCount());
+}
+
+TEST_F(QObjectTreeTest, WhatBelongsToTheApplicationIsInspectedToo) {
+  QObject* child = Named("ofAll", QCoreApplication::instance());
+  InspectQ({child});
+  EXPECT_EQ("ofAll", Value("objectName"));
+  EXPECT_EQ(nullptr, ComponentOf(child)->GetOwnerComponent());
+  const TObjectRef component(ComponentOf(child));
+  ASSERT_NE(nullptr, ComponentOf(QCoreApplication::instance()));
+  delete child;
+  EXPECT_FALSE(component);
+  Deliver();
+  EXPECT_EQ(0, FInspector->GetItemCount());
+}
+
+TEST_F(QObjectTreeTest, AParentAtTheAddressOfOneThatWentIsFollowed) {
+  alignas(QObject) std::byte memory[sizeof(QObject)];
+  auto* first = new (memory) QObject;
+  ComponentOf(first);
+  first->~QObject();
+  auto* second = new (memory) QObject;
+  auto* child = new QObject(second);
+  EXPECT_EQ(ComponentOf(second), ComponentOf(child)->GetOwnerComponent());
+  second->~QObject();
 }
 
 TEST_F(QObjectTreeTest, NamingTheComponentNamesTheObject) {

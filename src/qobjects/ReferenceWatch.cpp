@@ -1,0 +1,45 @@
+#include "kt/qobjects/ReferenceWatch.h"
+
+#include "kt/qobjects/ComponentOf.h"
+#include "kt/qobjects/QObjectComponent.h"
+#include "kt/qobjects/ValueMember.h"
+
+#include <QObject>
+
+#include <vector>
+
+namespace kt {
+
+void TReferenceWatch::Follow(const TValueMember& member, QObject& object) {
+  TComponent* component = ComponentOf(&object);
+  TTarget& target = FTargets[&member];
+  if (target.Component == component) return;
+  target = {component, &object, false};
+  // Whom it pointed to before may be told of still; that costs one look.
+  if (component) component->FreeNotification(this);
+}
+
+bool TReferenceWatch::IsGone(const TValueMember& member, const QObject* object) const {
+  const auto found = FTargets.find(&member);
+  return found != FTargets.end() && found->second.IsGone && found->second.Address == object;
+}
+
+void TReferenceWatch::Refreshed(const QString& member) {
+  std::erase_if(FTargets, [&](const auto& target) { return target.first->Name == member && target.second.IsGone; });
+}
+
+void TReferenceWatch::Notification(TComponent* component, TOperation operation) {
+  TComponent::Notification(component, operation);
+  if (operation != opRemove) return;
+  const auto* known = dynamic_cast<const TQObjectComponent*>(component);
+  std::vector<const TValueMember*> changed;
+  for (auto& [member, target] : FTargets) {
+    if (target.Component != component) continue;
+    target.Component = nullptr;
+    target.IsGone = known && known->HasLostObject();
+    changed.push_back(member);
+  }
+  for (const TValueMember* member : changed) FHolder.MemberChanged(*member);
+}
+
+}  // namespace kt
