@@ -20,6 +20,8 @@ inline std::vector<TClassInfo::TPublishedMethod> VisualHandlers() {
           HandlerOf<TKeyPressEvent>(),
           HandlerOf<TMouseEvent>(),
           HandlerOf<TMouseMoveEvent>(),
+          HandlerOf<TCanResizeEvent>(),
+          HandlerOf<TConstrainedResizeEvent>(),
           HandlerOf<TContextPopupEvent>(),
           HandlerOf<TCloseEvent>(),
           HandlerOf<TCloseQueryEvent>(),

@@ -41,6 +41,7 @@ const TClassInfo* TPanel::Class() {
     Publish::Color(builder, clBtnFace);
     Publish::Constraints(builder);
     builder.Property<&T::IsDockSite, &T::SetDockSite>("DockSite").Default(false);
+    Publish::Ctl3D(builder);
     Publish::DragCursor(builder);
     Publish::DragKind(builder);
     Publish::DragMode(builder);
@@ -63,7 +64,7 @@ const TClassInfo* TPanel::Class() {
     Publish::MouseEvents(builder);
     Publish::DragEvents(builder);
     Publish::FocusEvents(builder);
-    builder.Property<&TControl::OnResize>("OnResize");
+    Publish::SizeEvents(builder);
     return builder.Creatable().Done();
   }();
   return &info;

@@ -1,6 +1,7 @@
 // The menu of TCustomForm.
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/forms/Form.h"
 #include "kt/vcl/forms/FormMenuBar.h"
 #include "kt/vcl/forms/Screen.h"
@@ -45,7 +46,9 @@ void TCustomForm::UpdateMenuBar(int before) {
     FMenuBar->Place();
   }
   if (GetClientMargins().top() == before) return;
+  const TLifeWatch self(this);
   if (HasState(csLoading) && FLoadedClientHeight >= 0) TCustomControl::SetClientHeight(FLoadedClientHeight);
+  if (!self.IsAlive()) return;
   PlaceChildWindows();
   Invalidate();
   Realign();
@@ -73,8 +76,9 @@ void TCustomForm::DestroyWnd() {
 }
 
 void TCustomForm::CMBiDiModeChanged(TMessage& message) {
+  const TLifeWatch self(this);
   TCustomControl::CMBiDiModeChanged(message);
-  UpdateMenuBar();
+  if (self.IsAlive()) UpdateMenuBar();
 }
 
 }  // namespace kt

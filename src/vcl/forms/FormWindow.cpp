@@ -38,7 +38,9 @@ Qt::WindowFlags TCustomForm::WindowFlags() const {
 
 void TCustomForm::CreateWnd() {
   // The client area lies below it already when the windows in it are made.
+  const TLifeWatch self(this);
   UpdateMenuBar();
+  if (!self.IsAlive()) return;
   TCustomControl::CreateWnd();
   Window()->setWindowTitle(GetText());
   if (FMenuBar) FMenuBar->Place();
@@ -78,21 +80,27 @@ void TCustomForm::CMTextChanged(TMessage& message) {
 /// A form that is being designed shows where its designer puts it, whatever it says of itself.
 void TCustomForm::CMVisibleChanged(TMessage& message) {
   if (HasState(csLoading) || HasState(csDesigning)) return;
+  const TLifeWatch self(this);
   if (IsVisible() && !IsShowing()) {
-    GetHandle();
+    if (!GetHandle()) return;
     PlaceWindow();
     OnShow(this);
+    // The handler may also have hidden it again.
+    if (!self.IsAlive() || !IsVisible()) return;
     SetWindowState(FWindowState);
+    if (!self.IsAlive()) return;
   }
   TCustomControl::CMVisibleChanged(message);
 }
 
 void TCustomForm::Loaded() {
+  const TLifeWatch self(this);
   UpdateMenuBar();
+  if (!self.IsAlive()) return;
   FLoadedClientHeight = -1;
   TCustomControl::Loaded();
   // What the file says of Visible waits until all is read.
-  if (IsVisible()) Perform(CM_VISIBLECHANGED, 1);
+  if (self.IsAlive() && IsVisible()) Perform(CM_VISIBLECHANGED, 1);
 }
 
 void TCustomForm::PlaceWindow() {
@@ -156,9 +164,11 @@ TModalResult TCustomForm::ShowModal() {
   if (IsVisible() || FModalLoop) throw EInvalidOperation(QStringLiteral("Cannot make a visible window modal"));
   QEventLoop loop;
   FModalResult = mrNone;
-  GetHandle()->setWindowModality(Qt::ApplicationModal);
-  FModalLoop = &loop;
   const TLifeWatch self(this);
+  QWidget* const window = GetHandle();
+  if (!window) return mrCancel;
+  window->setWindowModality(Qt::ApplicationModal);
+  FModalLoop = &loop;
   // A handler may raise, or free the form.
   struct TDone {
     TCustomForm& Form;

@@ -123,7 +123,7 @@ TEST_F(FormTest, AHandlerMayTakeTheAnswerOfAModalFormBack) {
   });
   later([&] { later([this] { Form.SetModalResult(mrYes); }); });
   EXPECT_EQ(Form.ShowModal(), mrYes);
-  EXPECT_EQ(Log(), "query close");
+  EXPECT_EQ(Log(), "show query close hide");
 }
 
 TEST_F(FormTest, AModalFormMayFreeItselfWhenItCloses) {
@@ -133,7 +133,7 @@ TEST_F(FormTest, AModalFormMayFreeItselfWhenItCloses) {
       QCoreApplication::instance(), [form] { form->SetModalResult(mrYes); }, Qt::QueuedConnection);
   EXPECT_EQ(form->ShowModal(), mrYes);
   TWindowProbe::Settle();
-  EXPECT_EQ(Log(), "query close destroy");
+  EXPECT_EQ(Log(), "show query close hide destroy");
   EXPECT_EQ(Screen().GetFormCount(), 0);
 }
 
