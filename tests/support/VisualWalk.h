@@ -25,6 +25,7 @@ inline std::vector<TClassInfo::TPublishedMethod> VisualHandlers() {
           HandlerOf<TContextPopupEvent>(),
           HandlerOf<TCloseEvent>(),
           HandlerOf<TCloseQueryEvent>(),
+          HandlerOf<TShortCutEvent>(),
           HandlerOf<TDrawCellEvent>(),
           HandlerOf<TSelectCellEvent>(),
           HandlerOf<TGetEditEvent>(),

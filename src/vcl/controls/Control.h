@@ -325,6 +325,7 @@ class TControl : public TComponent {
   /// Remembers where the control stands relative to its parent, which anchors keep.
   void RememberAnchorBase();
   bool IsMovedByAnchors() const;
+  void ScrollOn(int deltaX, int deltaY);
   bool CheckNewSize(int& width, int& height);
   void ApplyAnchors(QSize parentSize);
 

@@ -121,6 +121,17 @@ void TControl::RememberAnchorBase() {
   FAnchorParent = FParent->GetClientRect().size();
 }
 
+/// The surroundings are scrolled: what the anchors keep to goes along.
+void TControl::ScrollOn(int deltaX, int deltaY) {
+  const QRect base = FAnchorBase.translated(deltaX, deltaY);
+  const QSize parentSize = FAnchorParent;
+  const TLifeWatch self(this);
+  SetBounds(FLeft + deltaX, FTop + deltaY, FWidth, FHeight);
+  if (!self.IsAlive()) return;
+  FAnchorBase = base;
+  FAnchorParent = parentSize;
+}
+
 bool TControl::IsMovedByAnchors() const { return FAlign == alNone && FAnchors != TAnchors{akLeft, akTop}; }
 
 void TControl::ApplyAnchors(QSize parentSize) {

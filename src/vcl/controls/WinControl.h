@@ -69,6 +69,9 @@ class TWinControl : public TControl {
   /// Brings the children to the places that their Align and Anchors ask for.
   void Realign() { AlignControl(nullptr); }
 
+  /// Moves all children. Their anchors hold as they are.
+  void ScrollBy(int deltaX, int deltaY);
+
   // The window.
   bool HandleAllocated() const { return FWindow != nullptr; }
   /// Makes the window if there is none. Needs a QApplication.

@@ -127,6 +127,16 @@ void TWinControl::AlignSide(TAlign align, QRect& rect) {
   }
 }
 
+void TWinControl::ScrollBy(int deltaX, int deltaY) {
+  const std::vector<TObjectRef> children(FControls.begin(), FControls.end());
+  const TLifeWatch self(this);
+  DisableAlign();
+  for (const TObjectRef& child : children) {
+    if (TControl* const control = self.IsAlive() ? StillIn(this, child) : nullptr) control->ScrollOn(deltaX, deltaY);
+  }
+  if (self.IsAlive()) EnableAlign();
+}
+
 void TWinControl::SetBounds(int left, int top, int width, int height) {
   const QSize before = GetClientRect().size();
   const TLifeWatch self(this);

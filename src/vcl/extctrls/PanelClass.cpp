@@ -31,7 +31,10 @@ const TClassInfo* TPanel::Class() {
     builder.Property<&T::GetAlignment, &T::SetAlignment>("Alignment").Default(taCenter);
     Publish::Anchors(builder);
     builder.Property<&T::IsAutoSize, &T::SetAutoSize>("AutoSize").Default(false);
+    builder.Property<&TWinControl::GetBevelEdges, &TWinControl::SetBevelEdges>("BevelEdges")
+        .Default(TBevelEdges{beLeft, beTop, beRight, beBottom});
     builder.Property<&T::GetBevelInner, &T::SetBevelInner>("BevelInner").Default(bvNone);
+    builder.Property<&TWinControl::GetBevelKind, &TWinControl::SetBevelKind>("BevelKind").Default(bkNone);
     builder.Property<&T::GetBevelOuter, &T::SetBevelOuter>("BevelOuter").Default(bvRaised);
     builder.Property<&T::GetBevelWidth, &T::SetBevelWidth>("BevelWidth", &BevelWidthTypeInfo).Default(1);
     Publish::BiDiMode(builder);

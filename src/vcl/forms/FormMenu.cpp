@@ -47,7 +47,7 @@ void TCustomForm::UpdateMenuBar(int before) {
   }
   if (GetClientMargins().top() == before) return;
   const TLifeWatch self(this);
-  if (HasState(csLoading) && FLoadedClientHeight >= 0) TCustomControl::SetClientHeight(FLoadedClientHeight);
+  if (HasState(csLoading) && FLoadedClientHeight >= 0) TScrollingWinControl::SetClientHeight(FLoadedClientHeight);
   if (!self.IsAlive()) return;
   PlaceChildWindows();
   Invalidate();
@@ -55,29 +55,29 @@ void TCustomForm::UpdateMenuBar(int before) {
 }
 
 QMargins TCustomForm::GetClientMargins() const {
-  QMargins margins = TCustomControl::GetClientMargins();
+  QMargins margins = TScrollingWinControl::GetClientMargins();
   if (FMenuBar) margins.setTop(margins.top() + FMenuBar->GetHeight());
   return margins;
 }
 
 void TCustomForm::SetClientHeight(int value) {
   if (HasState(csLoading)) FLoadedClientHeight = value;
-  TCustomControl::SetClientHeight(value);
+  TScrollingWinControl::SetClientHeight(value);
 }
 
 void TCustomForm::BoundsUpdated() {
-  TCustomControl::BoundsUpdated();
+  TScrollingWinControl::BoundsUpdated();
   if (FMenuBar) FMenuBar->Place();
 }
 
 void TCustomForm::DestroyWnd() {
   if (FMenuBar) FMenuBar->LeaveWindow();
-  TCustomControl::DestroyWnd();
+  TScrollingWinControl::DestroyWnd();
 }
 
 void TCustomForm::CMBiDiModeChanged(TMessage& message) {
   const TLifeWatch self(this);
-  TCustomControl::CMBiDiModeChanged(message);
+  TScrollingWinControl::CMBiDiModeChanged(message);
   if (self.IsAlive()) UpdateMenuBar();
 }
 

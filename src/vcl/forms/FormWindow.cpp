@@ -16,17 +16,31 @@
 
 namespace kt {
 
+namespace {
+
+bool IsSizedByUser(TFormBorderStyle style) { return style == bsSizeable || style == bsSizeToolWin; }
+
+}  // namespace
+
+void TCustomForm::SetAutoScroll(bool value) {
+  if (HasState(csLoading)) FIsAutoScrollLoaded = true;
+  TScrollingWinControl::SetAutoScroll(value);
+}
+
+bool TCustomForm::IsAutoScrollStored() const { return IsAutoScroll() != IsSizedByUser(FBorderStyle); }
+
 QWidget* TCustomForm::CreateBody(QWidget* parent) {
-  QWidget* body = TCustomControl::CreateBody(parent);
+  QWidget* body = TScrollingWinControl::CreateBody(parent);
   if (!parent) body->setWindowFlags(WindowFlags());
   return body;
 }
 
 Qt::WindowFlags TCustomForm::WindowFlags() const {
-  if (FBorderStyle == bsNone) return Qt::Window | Qt::FramelessWindowHint;
+  const Qt::WindowFlags above = FFormStyle == fsStayOnTop ? Qt::WindowStaysOnTopHint : Qt::WindowFlags();
+  if (FBorderStyle == bsNone) return Qt::Window | Qt::FramelessWindowHint | above;
   const bool isTool = FBorderStyle == bsToolWindow || FBorderStyle == bsSizeToolWin;
   Qt::WindowFlags flags = isTool ? Qt::Tool : FBorderStyle == bsDialog ? Qt::Dialog : Qt::Window;
-  flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+  flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | above;
   flags.setFlag(Qt::WindowSystemMenuHint, FBorderIcons.Has(biSystemMenu));
   flags.setFlag(Qt::WindowCloseButtonHint, FBorderIcons.Has(biSystemMenu));
   const bool hasButtons = FBorderStyle == bsSingle || FBorderStyle == bsSizeable;
@@ -41,14 +55,20 @@ void TCustomForm::CreateWnd() {
   const TLifeWatch self(this);
   UpdateMenuBar();
   if (!self.IsAlive()) return;
-  TCustomControl::CreateWnd();
+  TScrollingWinControl::CreateWnd();
+  if (!self.IsAlive()) return;
   Window()->setWindowTitle(GetText());
+  UpdateOpacity();
+  UpdateIcon();
   if (FMenuBar) FMenuBar->Place();
 }
 
 void TCustomForm::SetBorderStyle(TFormBorderStyle value) {
   if (FBorderStyle == value) return;
   FBorderStyle = value;
+  const TLifeWatch self(this);
+  if (!FIsAutoScrollLoaded) TScrollingWinControl::SetAutoScroll(IsSizedByUser(value));
+  if (!self.IsAlive()) return;
   UpdateWindowFlags();
   UpdateMenuBar();
 }
@@ -73,7 +93,7 @@ void TCustomForm::SetWindowState(TWindowState value) {
 }
 
 void TCustomForm::CMTextChanged(TMessage& message) {
-  TCustomControl::CMTextChanged(message);
+  TScrollingWinControl::CMTextChanged(message);
   if (HandleAllocated()) Window()->setWindowTitle(GetText());
 }
 
@@ -90,7 +110,7 @@ void TCustomForm::CMVisibleChanged(TMessage& message) {
     SetWindowState(FWindowState);
     if (!self.IsAlive()) return;
   }
-  TCustomControl::CMVisibleChanged(message);
+  TScrollingWinControl::CMVisibleChanged(message);
 }
 
 void TCustomForm::Loaded() {
@@ -98,7 +118,8 @@ void TCustomForm::Loaded() {
   UpdateMenuBar();
   if (!self.IsAlive()) return;
   FLoadedClientHeight = -1;
-  TCustomControl::Loaded();
+  FIsAutoScrollLoaded = false;
+  TScrollingWinControl::Loaded();
   // What the file says of Visible waits until all is read.
   if (self.IsAlive() && IsVisible()) Perform(CM_VISIBLECHANGED, 1);
 }
@@ -109,7 +130,7 @@ void TCustomForm::PlaceWindow() {
                           FPosition == poMainFormCenter || FPosition == poOwnerFormCenter;
   if (FPosition == poDesigned) Window()->move(GetLeft(), GetTop());
   if (!isCentered) return;
-  QRect around = Window()->screen()->availableGeometry();
+  QRect around = AreaToCenterIn();
   auto* const owner = FPosition == poOwnerFormCenter ? dynamic_cast<TCustomForm*>(GetOwnerComponent()) : nullptr;
   TCustomForm* const other = FPosition == poMainFormCenter ? Application().GetMainForm() : owner;
   if (other && other != this && other->IsShowing()) around = other->Window()->frameGeometry();
@@ -119,7 +140,7 @@ void TCustomForm::PlaceWindow() {
 }
 
 void TCustomForm::CMShowingChanged(TMessage& message) {
-  TCustomControl::CMShowingChanged(message);
+  TScrollingWinControl::CMShowingChanged(message);
   if (!IsShowing()) return OnHide(this);
   FocusActiveControl();
 }
@@ -145,7 +166,7 @@ bool TCustomForm::WindowEvent(QEvent& event) {
       OnDeactivate(this);
       return false;
     default:
-      return TCustomControl::WindowEvent(event);
+      return TScrollingWinControl::WindowEvent(event);
   }
 }
 

@@ -36,7 +36,8 @@ class PanelTest : public tests::TPaintWorld {
 
 TEST_F(PanelTest, ItPublishesWhatFormsSay) {
   EXPECT_EQ(
-      "Align=alNone Alignment=taCenter Anchors AutoSize=False BevelInner=bvNone BevelOuter=bvRaised BevelWidth=1 "
+      "Align=alNone Alignment=taCenter Anchors AutoSize=False BevelEdges=15 BevelInner=bvNone BevelKind=bkNone "
+      "BevelOuter=bvRaised BevelWidth=1 "
       "BiDiMode BorderStyle=bsNone BorderWidth=0 Caption Color=-16777201 Constraints DockSite=False Ctl3D "
       "ParentCtl3D=True DragCursor=-12 DragKind=dkDrag DragMode=dmManual Enabled=True Font FullRepaint=True "
       "Locked=False ParentBackground ParentBiDiMode=True ParentColor=False ParentFont=True ParentShowHint=True "
