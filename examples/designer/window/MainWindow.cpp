@@ -57,7 +57,7 @@ bool TMainWindow::eventFilter(QObject* watched, QEvent* event) {
   const auto* edit = event->type() == QEvent::ShortcutOverride ? qobject_cast<QLineEdit*>(watched) : nullptr;
   if (edit && FPanel->Inspector().GetHandle()->isAncestorOf(edit)) {
     const auto* key = static_cast<QKeyEvent*>(event);
-    const bool isForForm = (key->matches(QKeySequence::Undo) && !edit->isUndoAvailable()) ||
+    const bool isForForm = (key->matches(QKeySequence::Undo) && !edit->isModified()) ||
                            (key->matches(QKeySequence::Redo) && !edit->isRedoAvailable());
     if (isForForm) {
       event->ignore();
