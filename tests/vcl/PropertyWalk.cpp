@@ -18,6 +18,8 @@ const TWalkRules& Rules() {
       .Choosy = {{"TDrawGrid.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TGroupBox.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TPanel.TabOrder", "is the place among the parent's controls, and there is no parent"},
+                 {"TScrollBox.TabOrder", "is the place among the parent's controls, and there is no parent"},
+                 {"TControlScrollBar.Position", "is at most what the children need, and there are none"},
                  {"TButton.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TCheckBox.TabOrder", "is the place among the parent's controls, and there is no parent"},
                  {"TRadioButton.TabOrder", "is the place among the parent's controls, and there is no parent"},

@@ -20,8 +20,8 @@ namespace kt {
 namespace {
 
 /// What a page leaves to the frame, and to the tabs, as long as no window says it better.
-constexpr int kFrame = 4;
-constexpr int kTabs = 24;
+constexpr int kPageFrame = 4;
+constexpr int kPageTabs = 24;
 
 QTabBar::Shape ShapeOf(TTabPosition position) {
   switch (position) {
@@ -61,10 +61,10 @@ void TPageControl::CreateWnd() {
 
 QRect TPageControl::GetDisplayRect() const {
   if (View() && !HasState(csLoading)) return View()->ContentsRect();
-  const int tabs = GetTabCount() > 0 ? kTabs : kFrame;
-  return GetClientRect().adjusted(FTabPosition == tpLeft ? tabs : kFrame, FTabPosition == tpTop ? tabs : kFrame,
-                                  FTabPosition == tpRight ? -tabs : -kFrame,
-                                  FTabPosition == tpBottom ? -tabs : -kFrame);
+  const int tabs = GetTabCount() > 0 ? kPageTabs : kPageFrame;
+  return GetClientRect().adjusted(FTabPosition == tpLeft ? tabs : kPageFrame, FTabPosition == tpTop ? tabs : kPageFrame,
+                                  FTabPosition == tpRight ? -tabs : -kPageFrame,
+                                  FTabPosition == tpBottom ? -tabs : -kPageFrame);
 }
 
 void TPageControl::AlignControls(QRect& rect) {
@@ -184,13 +184,17 @@ bool TPageControl::WindowEvent(QEvent& event) {
 }
 
 void TPageControl::CMFontChanged(TMessage& message) {
+  const TLifeWatch self(this);
   TWinControl::CMFontChanged(message);
+  if (!self.IsAlive()) return;
   UpdateLook();
   Realign();
 }
 
 void TPageControl::CMBiDiModeChanged(TMessage& message) {
+  const TLifeWatch self(this);
   TWinControl::CMBiDiModeChanged(message);
+  if (!self.IsAlive()) return;
   UpdateLook();
   Realign();
 }

@@ -18,6 +18,7 @@ const TClassInfo* TTrackBar::Class() {
     Publish::Align(builder);
     Publish::Anchors(builder);
     Publish::Constraints(builder);
+    Publish::Ctl3D(builder);
     Publish::DragCursor(builder);
     Publish::DragKind(builder);
     Publish::DragMode(builder);

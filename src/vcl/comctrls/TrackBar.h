@@ -1,5 +1,6 @@
 #pragma once
 
+#include "kt/vcl/controls/WheelSteps.h"
 #include "kt/vcl/controls/WinControl.h"
 
 namespace kt {
@@ -109,7 +110,7 @@ class TTrackBar : public TWinControl {
   int FSelEnd = 0;
   int FThumbLength = 20;
   int FFrequency = 1;
-  int FWheelRest = 0;
+  TWheelSteps FWheel;
   TTrackBarOrientation FOrientation = trHorizontal;
   TTickMark FTickMarks = tmBottomRight;
   TTickStyle FTickStyle = tsAuto;

@@ -14,9 +14,6 @@ namespace kt {
 
 namespace {
 
-/// A step of the wheel in eighths of a degree.
-constexpr int kWheelStep = 120;
-
 QSlider::TickPosition SidesOf(TTickMark marks, bool isUpright) {
   if (marks == tmBoth) return QSlider::TicksBothSides;
   const bool isFirst = marks == tmTopLeft;
@@ -89,9 +86,7 @@ bool TTrackBar::DoMouseWheel(TShiftState shift, int delta, bool isHorizontal, QP
   if (TWinControl::DoMouseWheel(shift, delta, isHorizontal, position)) return true;
   // Nobody moves it by passing over it.
   if (!self.IsAlive() || !Focused() || HasState(csDesigning)) return !self.IsAlive();
-  FWheelRest += delta;
-  const int steps = FWheelRest / kWheelStep;
-  FWheelRest -= steps * kWheelStep;
+  const int steps = FWheel.Turn(delta);
   // Away from the user is up, where an upright one has its least value, and what lies has its greatest.
   const qint64 way = qint64{steps} * FLineSize * (FOrientation == trVertical ? -1 : 1);
   SetPosition(static_cast<int>(std::clamp<qint64>(FPosition + way, FMin, FMax)));

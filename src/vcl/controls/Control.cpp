@@ -3,9 +3,11 @@
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/LifeWatch.h"
+#include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/actions/ControlActionLink.h"
 #include "kt/vcl/controls/DragSession.h"
+#include "kt/vcl/controls/ExplicitBounds.h"
 #include "kt/vcl/controls/MessageAddress.h"
 #include "kt/vcl/controls/WinControl.h"
 #include "kt/vcl/menus/PopupMenu.h"
@@ -67,8 +69,13 @@ void TControl::Destruct() {
   TDragSession::Forget(*this);
   FAddress.reset();
   FActionLink.reset();
+  TWinControl* const parent = FParent;
+  const TLifeWatch parentLife(parent);
+  // The others move when this one is out of everybody's lists, so that their handlers may free those who had it.
+  if (parent) parent->DisableAlign();
   if (FParent) SetParent(nullptr);
   TComponent::Destruct();
+  if (parentLife.IsAlive()) GuardedCall([parent] { parent->EnableAlign(); });
 }
 
 void TControl::Loaded() {
@@ -100,12 +107,24 @@ void TControl::SetHelpContext(int value) {
 
 TComponent* TControl::GetParentComponent() { return FParent; }
 
+/// A text that is as the name was keeps to it.
+void TControl::SetName(const QString& value) {
+  const auto* const owner = dynamic_cast<const TControl*>(GetOwnerComponent());
+  const bool isLoading = HasState(csLoading) || (owner && owner->HasState(csLoading));
+  const bool takesText = FControlStyle.Has(csSetCaption) && !isLoading && GetText() == GetName();
+  TComponent::SetName(value);
+  if (takesText) SetText(value);
+}
+
 void TControl::SetParentComponent(TComponent* value) { SetParent(dynamic_cast<TWinControl*>(value)); }
 
 void TControl::SetParent(TWinControl* value) {
   if (FParent == value) return;
+  const TLifeWatch self(this);
+  const TLifeWatch next(value);
   if (FParent) FParent->RemoveControl(this);
-  if (value) value->InsertControl(this);
+  // A handler of those that the control leaves behind may have put it somewhere else.
+  if (next.IsAlive() && self.IsAlive() && !FParent) value->InsertControl(this);
 }
 
 void TControl::SetVisible(bool value) {
@@ -175,8 +194,9 @@ void TControl::SetParentShowHint(bool value) {
 
 void TControl::CMParentShowHintChanged(TMessage&) {
   if (!FParentShowHint || !FParent) return;
+  const TLifeWatch self(this);
   SetShowHint(FParent->FShowHint);
-  FParentShowHint = true;
+  if (self.IsAlive()) FParentShowHint = true;
 }
 
 qintptr TControl::Perform(quint32 msg, qintptr wParam, qintptr lParam) {

@@ -25,6 +25,7 @@ class TControlActionLink;
 class TMessageAddress;
 class TPopupMenu;
 class TWinControl;
+struct TExplicitBounds;
 
 /// Something with a place on a form, a look, and the mouse.
 ///
@@ -32,7 +33,7 @@ class TWinControl;
 /// positions are pixels; positions are those in the parent's client area, mouse positions those in the control's own.
 ///
 /// Which properties are published is up to the final class; Publish.h has a line for each. Used from the thread of the
-/// user interface alone. A handler must not free the control whose event it handles; it can ask the control's form to.
+/// user interface alone. Handlers may free whatever they like, the control whose event they handle as well.
 class TControl : public TComponent {
  public:
   using Inherited = TComponent;
@@ -177,6 +178,8 @@ class TControl : public TComponent {
   /// no window.
   void PostMessage(quint32 msg, qintptr wParam = 0, qintptr lParam = 0);
   void Dispatch(TMessage& message) override;
+  /// A text that is the same as the name changes with it, as that of a new button does.
+  void SetName(const QString& value) override;
 
   // What streams ask.
   bool IsAnchorsStored() const;
@@ -193,7 +196,9 @@ class TControl : public TComponent {
   bool IsBiDiModeStored() const { return !FParentBiDiMode; }
   bool IsShowHintStored() const { return !FParentShowHint; }
 
+  TCanResizeEvent OnCanResize;
   TNotifyEvent OnClick;
+  TConstrainedResizeEvent OnConstrainedResize;
   TContextPopupEvent OnContextPopup;
   TNotifyEvent OnDblClick;
   TDragDropEvent OnDragDrop;
@@ -224,6 +229,9 @@ class TControl : public TComponent {
   void Loaded() override;
   void Notification(TComponent* component, TOperation operation) override;
   void SetParentComponent(TComponent* value) override;
+  /// The bounds that an aligned or anchored control had before, as forms say them. They are kept until a designer puts
+  /// it somewhere else.
+  void DefineProperties(TFiler& filer) override;
 
   virtual void SetZOrder(bool isTopmost);
   /// Whether the parent shows it: what is not Visible shows in a designer all the same, unless it does not want to.
@@ -313,8 +321,12 @@ class TControl : public TComponent {
   QPoint PlaceInClient(QPoint screenPos);
   void ButtonDown(const TMessage& message, TMouseButton button, bool isDouble);
   void ButtonUp(const TMessage& message, TMouseButton button);
+  void ForgetExplicit();
   /// Remembers where the control stands relative to its parent, which anchors keep.
   void RememberAnchorBase();
+  bool IsMovedByAnchors() const;
+  void ScrollOn(int deltaX, int deltaY);
+  bool CheckNewSize(int& width, int& height);
   void ApplyAnchors(QSize parentSize);
 
   TWinControl* FParent = nullptr;
@@ -330,6 +342,8 @@ class TControl : public TComponent {
   int FTop = 0;
   int FWidth = 0;
   int FHeight = 0;
+  /// Named by the form file, or null.
+  std::unique_ptr<TExplicitBounds> FExplicit;
   QRect FAnchorBase;
   QSize FAnchorParent;
   TColor FColor = clWindow;

@@ -1,5 +1,7 @@
 // Place and size of TControl, alignment and anchors.
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/controls/Control.h"
+#include "kt/vcl/controls/ExplicitBounds.h"
 #include "kt/vcl/controls/WinControl.h"
 
 #include <array>
@@ -35,12 +37,11 @@ TSpan Anchored(TSpan base, int growth, bool toStart, bool toEnd) {
 }  // namespace
 
 void TControl::SetBounds(int left, int top, int width, int height) {
-  if (FConstraints) {
-    width = FConstraints->ClampWidth(width);
-    height = FConstraints->ClampHeight(height);
-  }
+  const TLifeWatch self(this);
+  if (!CheckNewSize(width, height) || !self.IsAlive()) return;
   const QRect bounds(left, top, qMax(width, 0), qMax(height, 0));
   if (bounds == GetBoundsRect()) return;
+  if (FExplicit) ForgetExplicit();
   const bool isResized = bounds.size() != GetBoundsRect().size();
   Invalidate();
   FLeft = bounds.x();
@@ -49,8 +50,25 @@ void TControl::SetBounds(int left, int top, int width, int height) {
   FHeight = bounds.height();
   BoundsUpdated();
   RememberAnchorBase();
+  // The parent moves others, whose handlers may free this one.
   RequestAlign();
-  if (isResized && !HasState(csLoading)) Resize();
+  if (self.IsAlive() && isResized && !HasState(csLoading)) Resize();
+}
+
+/// Whether the size may be had. It may be given another one, by handlers that free whatever they like.
+bool TControl::CheckNewSize(int& width, int& height) {
+  const TLifeWatch self(this);
+  bool isAllowed = true;
+  if (OnCanResize && !HasState(csLoading)) OnCanResize(this, width, height, isAllowed);
+  if (!isAllowed || !self.IsAlive()) return false;
+  if (!FConstraints) return true;
+  TSizeLimits limits = FConstraints->GetLimits();
+  if (OnConstrainedResize && !HasState(csLoading)) {
+    OnConstrainedResize(this, limits.MinWidth, limits.MinHeight, limits.MaxWidth, limits.MaxHeight);
+  }
+  width = limits.ClampWidth(width);
+  height = limits.ClampHeight(height);
+  return self.IsAlive();
 }
 
 QRect TControl::GetClientRect() const {
@@ -103,8 +121,21 @@ void TControl::RememberAnchorBase() {
   FAnchorParent = FParent->GetClientRect().size();
 }
 
+/// The surroundings are scrolled: what the anchors keep to goes along.
+void TControl::ScrollOn(int deltaX, int deltaY) {
+  const QRect base = FAnchorBase.translated(deltaX, deltaY);
+  const QSize parentSize = FAnchorParent;
+  const TLifeWatch self(this);
+  SetBounds(FLeft + deltaX, FTop + deltaY, FWidth, FHeight);
+  if (!self.IsAlive()) return;
+  FAnchorBase = base;
+  FAnchorParent = parentSize;
+}
+
+bool TControl::IsMovedByAnchors() const { return FAlign == alNone && FAnchors != TAnchors{akLeft, akTop}; }
+
 void TControl::ApplyAnchors(QSize parentSize) {
-  if (FAlign != alNone || FAnchors == TAnchors{akLeft, akTop}) return;
+  if (!IsMovedByAnchors()) return;
   const QSize growth = parentSize - FAnchorParent;
   const TSpan x =
       Anchored({FAnchorBase.x(), FAnchorBase.width()}, growth.width(), FAnchors.Has(akLeft), FAnchors.Has(akRight));

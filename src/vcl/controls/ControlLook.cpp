@@ -1,4 +1,5 @@
 // Colour, font and reading direction of TControl, and how they follow the parent.
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/controls/Control.h"
 #include "kt/vcl/controls/WinControl.h"
 
@@ -19,8 +20,9 @@ void TControl::SetParentColor(bool value) {
 
 void TControl::CMParentColorChanged(TMessage&) {
   if (!FParentColor || !FParent) return;
+  const TLifeWatch self(this);
   SetColor(FParent->FColor);
-  FParentColor = true;
+  if (self.IsAlive()) FParentColor = true;
 }
 
 void TControl::SetFont(const TFont& value) { FFont->Assign(const_cast<TFont*>(&value)); }
@@ -38,8 +40,9 @@ void TControl::SetParentFont(bool value) {
 
 void TControl::CMParentFontChanged(TMessage&) {
   if (!FParentFont || !FParent) return;
+  const TLifeWatch self(this);
   SetFont(*FParent->FFont);
-  FParentFont = true;
+  if (self.IsAlive()) FParentFont = true;
 }
 
 void TControl::SetBiDiMode(TBiDiMode value) {
@@ -57,8 +60,9 @@ void TControl::SetParentBiDiMode(bool value) {
 
 void TControl::CMParentBiDiModeChanged(TMessage&) {
   if (!FParentBiDiMode || !FParent) return;
+  const TLifeWatch self(this);
   SetBiDiMode(FParent->FBiDiMode);
-  FParentBiDiMode = true;
+  if (self.IsAlive()) FParentBiDiMode = true;
 }
 
 }  // namespace kt

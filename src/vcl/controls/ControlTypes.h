@@ -72,6 +72,31 @@ using TBorderStyle = TFormBorderStyle;
 /// The scroll bars of a control.
 enum TScrollStyle { ssNone, ssHorizontal, ssVertical, ssBoth };
 
+/// How an edge looks. bvSpace only takes room.
+enum TBevelCut { bvNone, bvLowered, bvRaised, bvSpace };
+using TPanelBevel = TBevelCut;
+/// The sides that a control has edges on.
+enum TBevelEdge { beLeft, beTop, beRight, beBottom };
+using TBevelEdges = TSet<TBevelEdge>;
+/// The kind of edges that a window has around its border: none, or those of a tile, soft or flat.
+enum TBevelKind { bkNone, bkTile, bkSoft, bkFlat };
+
+/// Whether input methods are on while a control has the keyboard, and in which mode.
+enum TImeMode {
+  imDisable,
+  imClose,
+  imOpen,
+  imDontCare,
+  imSAlpha,
+  imAlpha,
+  imHira,
+  imSKata,
+  imKata,
+  imChinese,
+  imSHanguel,
+  imHanguel
+};
+
 /// Where a text stands in its room. From right to left the sides are exchanged.
 enum TAlignment { taLeftJustify, taRightJustify, taCenter };
 /// On which side of a sign its caption stands: taLeftJustify or taRightJustify. Published with LeftRightTypeInfo().
@@ -108,6 +133,16 @@ struct TMouseWheelUpDownEvent : TEvent<TObject*, TShiftState, const QPoint&, boo
 struct TContextPopupEvent : TEvent<TObject*, const QPoint&, bool&> {
   using TEvent::TEvent;
   static constexpr char TypeName[] = "TContextPopupEvent";
+};
+/// The size that a control is about to get, which the handler may change, or refuse with the last one.
+struct TCanResizeEvent : TEvent<TObject*, int&, int&, bool&> {
+  using TEvent::TEvent;
+  static constexpr char TypeName[] = "TCanResizeEvent";
+};
+/// The least width and height, and the greatest ones, that a control may get; 0 is no limit.
+struct TConstrainedResizeEvent : TEvent<TObject*, int&, int&, int&, int&> {
+  using TEvent::TEvent;
+  static constexpr char TypeName[] = "TConstrainedResizeEvent";
 };
 struct TMouseMoveEvent : TEvent<TObject*, TShiftState, int, int> {
   using TEvent::TEvent;
@@ -156,6 +191,28 @@ template <>
 struct TEnumNames<TScrollStyle> {
   static constexpr char Name[] = "TScrollStyle";
   static constexpr const char* Values[] = {"ssNone", "ssHorizontal", "ssVertical", "ssBoth"};
+};
+template <>
+struct TEnumNames<TBevelCut> {
+  static constexpr char Name[] = "TBevelCut";
+  static constexpr const char* Values[] = {"bvNone", "bvLowered", "bvRaised", "bvSpace"};
+};
+template <>
+struct TEnumNames<TBevelEdge> {
+  static constexpr char Name[] = "TBevelEdge";
+  static constexpr const char* Values[] = {"beLeft", "beTop", "beRight", "beBottom"};
+  static constexpr char SetName[] = "TBevelEdges";
+};
+template <>
+struct TEnumNames<TBevelKind> {
+  static constexpr char Name[] = "TBevelKind";
+  static constexpr const char* Values[] = {"bkNone", "bkTile", "bkSoft", "bkFlat"};
+};
+template <>
+struct TEnumNames<TImeMode> {
+  static constexpr char Name[] = "TImeMode";
+  static constexpr const char* Values[] = {"imDisable", "imClose", "imOpen", "imDontCare", "imSAlpha",   "imAlpha",
+                                           "imHira",    "imSKata", "imKata", "imChinese",  "imSHanguel", "imHanguel"};
 };
 template <>
 struct TEnumNames<TAlignment> {

@@ -41,9 +41,24 @@ void Color(TClassBuilder<T>& builder, TColor value) {
   builder.template Property<&TControl::GetColor, &TControl::SetColor>("Color").Default(value).Stored(
       &TControl::IsColorStored);
 }
+/// For windows with a border of Qt's.
+template <class T>
+void Bevels(TClassBuilder<T>& builder) {
+  builder.template Property<&TWinControl::GetBevelEdges, &TWinControl::SetBevelEdges>("BevelEdges")
+      .Default(TBevelEdges{beLeft, beTop, beRight, beBottom});
+  builder.template Property<&TWinControl::GetBevelInner, &TWinControl::SetBevelInner>("BevelInner").Default(bvRaised);
+  builder.template Property<&TWinControl::GetBevelKind, &TWinControl::SetBevelKind>("BevelKind").Default(bkNone);
+  builder.template Property<&TWinControl::GetBevelOuter, &TWinControl::SetBevelOuter>("BevelOuter").Default(bvLowered);
+}
 template <class T>
 void Constraints(TClassBuilder<T>& builder) {
   builder.template Property<&TControl::GetConstraints, &TControl::SetConstraints>("Constraints");
+}
+/// With what says that it is the parent's.
+template <class T>
+void Ctl3D(TClassBuilder<T>& builder) {
+  builder.template Property<&TWinControl::IsCtl3D, &TWinControl::SetCtl3D>("Ctl3D").Stored(&TWinControl::IsCtl3DStored);
+  builder.template Property<&TWinControl::IsParentCtl3D, &TWinControl::SetParentCtl3D>("ParentCtl3D").Default(true);
 }
 template <class T>
 void DragCursor(TClassBuilder<T>& builder) {
@@ -65,6 +80,11 @@ void Enabled(TClassBuilder<T>& builder) {
 template <class T>
 void Font(TClassBuilder<T>& builder) {
   builder.template Property<&TControl::GetFont, &TControl::SetFont>("Font").Stored(&TControl::IsFontStored);
+}
+template <class T>
+void InputMethod(TClassBuilder<T>& builder) {
+  builder.template Property<&TWinControl::GetImeMode, &TWinControl::SetImeMode>("ImeMode").Default(imDontCare);
+  builder.template Property<&TWinControl::GetImeName, &TWinControl::SetImeName>("ImeName");
 }
 template <class T>
 void ParentBiDiMode(TClassBuilder<T>& builder) {
@@ -140,6 +160,12 @@ void WheelEvents(TClassBuilder<T>& builder) {
   builder.template Property<&TWinControl::OnMouseWheel>("OnMouseWheel");
   builder.template Property<&TWinControl::OnMouseWheelDown>("OnMouseWheelDown");
   builder.template Property<&TWinControl::OnMouseWheelUp>("OnMouseWheelUp");
+}
+template <class T>
+void SizeEvents(TClassBuilder<T>& builder) {
+  builder.template Property<&TControl::OnCanResize>("OnCanResize");
+  builder.template Property<&TControl::OnConstrainedResize>("OnConstrainedResize");
+  builder.template Property<&TControl::OnResize>("OnResize");
 }
 template <class T>
 void FocusEvents(TClassBuilder<T>& builder) {

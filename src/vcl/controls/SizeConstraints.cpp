@@ -1,5 +1,6 @@
 #include "kt/vcl/controls/SizeConstraints.h"
 
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 #include "kt/vcl/controls/Control.h"
 
@@ -23,19 +24,16 @@ const TClassInfo* TSizeConstraints::Class() {
 void TSizeConstraints::Assign(TPersistent* source) {
   const auto* other = dynamic_cast<TSizeConstraints*>(source);
   if (!other) return TPersistent::Assign(source);
-  FMaxHeight = other->FMaxHeight;
-  FMaxWidth = other->FMaxWidth;
-  FMinHeight = other->FMinHeight;
-  FMinWidth = other->FMinWidth;
+  FLimits = other->FLimits;
   Change();
 }
 
 TPersistent* TSizeConstraints::GetOwner() { return FControl; }
 
-void TSizeConstraints::SetMaxHeight(int value) { SetMax(FMaxHeight, FMinHeight, value); }
-void TSizeConstraints::SetMaxWidth(int value) { SetMax(FMaxWidth, FMinWidth, value); }
-void TSizeConstraints::SetMinHeight(int value) { SetMin(FMinHeight, FMaxHeight, value); }
-void TSizeConstraints::SetMinWidth(int value) { SetMin(FMinWidth, FMaxWidth, value); }
+void TSizeConstraints::SetMaxHeight(int value) { SetMax(FLimits.MaxHeight, FLimits.MinHeight, value); }
+void TSizeConstraints::SetMaxWidth(int value) { SetMax(FLimits.MaxWidth, FLimits.MinWidth, value); }
+void TSizeConstraints::SetMinHeight(int value) { SetMin(FLimits.MinHeight, FLimits.MaxHeight, value); }
+void TSizeConstraints::SetMinWidth(int value) { SetMin(FLimits.MinWidth, FLimits.MaxWidth, value); }
 
 void TSizeConstraints::SetMax(int& max, int& min, int value) {
   value = qMax(value, 0);
@@ -53,19 +51,20 @@ void TSizeConstraints::SetMin(int& min, int& max, int value) {
   Change();
 }
 
-int TSizeConstraints::ClampWidth(int width) const {
-  if (FMaxWidth > 0) width = qMin(width, FMaxWidth);
-  return qMax(width, FMinWidth);
+int TSizeLimits::ClampWidth(int width) const {
+  if (MaxWidth > 0) width = qMin(width, MaxWidth);
+  return qMax(width, MinWidth);
 }
 
-int TSizeConstraints::ClampHeight(int height) const {
-  if (FMaxHeight > 0) height = qMin(height, FMaxHeight);
-  return qMax(height, FMinHeight);
+int TSizeLimits::ClampHeight(int height) const {
+  if (MaxHeight > 0) height = qMin(height, MaxHeight);
+  return qMax(height, MinHeight);
 }
 
 void TSizeConstraints::Change() {
+  const TLifeWatch self(this);
   FControl->ConstraintsChanged();
-  OnChange(this);
+  if (self.IsAlive()) OnChange(this);
 }
 
 }  // namespace kt

@@ -7,6 +7,17 @@ namespace kt {
 
 class TControl;
 
+/// The least and greatest size, in pixels; 0 is no limit. Where they cross, the least one holds.
+struct TSizeLimits {
+  int MinWidth = 0;
+  int MinHeight = 0;
+  int MaxWidth = 0;
+  int MaxHeight = 0;
+
+  int ClampWidth(int width) const;
+  int ClampHeight(int height) const;
+};
+
 /// The least and greatest size of a control, in pixels; 0 is no limit. Belongs to its control.
 class TSizeConstraints : public TPersistent {
  public:
@@ -17,19 +28,17 @@ class TSizeConstraints : public TPersistent {
 
   void Assign(TPersistent* source) override;
 
-  int GetMaxHeight() const { return FMaxHeight; }
-  int GetMaxWidth() const { return FMaxWidth; }
-  int GetMinHeight() const { return FMinHeight; }
-  int GetMinWidth() const { return FMinWidth; }
+  int GetMaxHeight() const { return FLimits.MaxHeight; }
+  int GetMaxWidth() const { return FLimits.MaxWidth; }
+  int GetMinHeight() const { return FLimits.MinHeight; }
+  int GetMinWidth() const { return FLimits.MinWidth; }
   /// A negative value counts as none. A limit that crosses its opposite takes that one along.
   void SetMaxHeight(int value);
   void SetMaxWidth(int value);
   void SetMinHeight(int value);
   void SetMinWidth(int value);
 
-  /// Cuts a width or height to the limits.
-  int ClampWidth(int width) const;
-  int ClampHeight(int height) const;
+  const TSizeLimits& GetLimits() const { return FLimits; }
 
   TNotifyEvent OnChange;
 
@@ -44,10 +53,7 @@ class TSizeConstraints : public TPersistent {
   void SetMin(int& min, int& max, int value);
 
   TControl* FControl;
-  int FMaxHeight = 0;
-  int FMaxWidth = 0;
-  int FMinHeight = 0;
-  int FMinWidth = 0;
+  TSizeLimits FLimits;
 };
 
 }  // namespace kt

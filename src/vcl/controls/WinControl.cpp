@@ -2,6 +2,7 @@
 
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/Messages.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 
@@ -36,22 +37,27 @@ bool TWinControl::ContainsControl(const TControl* control) const {
 }
 
 void TWinControl::InsertControl(TControl* control) {
+  const TLifeWatch self(this);
+  const TObjectRef child(control);
+  // The handlers of a control that gets another look or place may free both.
+  const auto isStillHere = [&] { return self.IsAlive() && child && control->FParent == this; };
   FControls.push_back(control);
   control->FParent = this;
   auto* const window = dynamic_cast<TWinControl*>(control);
   if (window) {
     FTabList.push_back(window);
     window->TakeWindowAlong();
-    TabsChanged();
+    if (self.IsAlive()) TabsChanged();
   }
-  if (!control->HasState(csReading)) {
-    control->Perform(CM_PARENTCOLORCHANGED);
-    control->Perform(CM_PARENTFONTCHANGED);
-    control->Perform(CM_PARENTSHOWHINTCHANGED);
-    control->Perform(CM_PARENTBIDIMODECHANGED);
+  for (quint32 message : {CM_PARENTCOLORCHANGED, CM_PARENTFONTCHANGED, CM_PARENTCTL3DCHANGED, CM_PARENTSHOWHINTCHANGED,
+                          CM_PARENTBIDIMODECHANGED}) {
+    if (!isStillHere()) return;
+    if (!control->HasState(csReading)) control->Perform(message);
   }
+  if (!isStillHere()) return;
   control->RememberAnchorBase();
   AlignControl(control);
+  if (!isStillHere()) return;
   if (!window) control->Invalidate();
   Perform(CM_CONTROLLISTCHANGE, PointerMessage(control), 1);
 }
@@ -129,8 +135,9 @@ void TWinControl::SetChildOrder(TComponent* child, int order) {
 }
 
 void TWinControl::NotifyControls(quint32 msg) {
-  // A handler may take controls away.
-  for (int i = 0; i < GetControlCount(); ++i) FControls[i]->Perform(msg);
+  const TLifeWatch self(this);
+  // A handler may take controls away, or this one.
+  for (int i = 0; self.IsAlive() && i < GetControlCount(); ++i) FControls[i]->Perform(msg);
 }
 
 void TWinControl::CMFontChanged(TMessage& message) {
@@ -152,8 +159,9 @@ void TWinControl::CMBiDiModeChanged(TMessage& message) {
 void TWinControl::CMParentBiDiModeChanged(TMessage& message) {
   if (GetParent()) return TControl::CMParentBiDiModeChanged(message);
   if (!IsParentBiDiMode() || !HandleAllocated()) return;
+  const TLifeWatch self(this);
   SetBiDiMode(FWindow->layoutDirection() == Qt::RightToLeft ? bdRightToLeft : bdLeftToRight);
-  SetParentBiDiMode(true);
+  if (self.IsAlive()) SetParentBiDiMode(true);
 }
 
 void TWinControl::CMShowHintChanged(TMessage&) { NotifyControls(CM_PARENTSHOWHINTCHANGED); }

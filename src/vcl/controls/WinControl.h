@@ -2,7 +2,9 @@
 
 #include "kt/rtl/objects/ObjectRef.h"
 #include "kt/vcl/controls/Control.h"
+#include "kt/vcl/controls/WheelSteps.h"
 
+#include <QPoint>
 #include <QRect>
 #include <QRegion>
 #include <QWidget>
@@ -13,6 +15,17 @@
 namespace kt {
 
 class TControlBody;
+
+/// What forms say of the frame of a window. It is kept for them: borders look as Qt's style draws them.
+struct TWindowFrame {
+  TBevelEdges Edges = {beLeft, beTop, beRight, beBottom};
+  TBevelCut Inner = bvRaised;
+  TBevelCut Outer = bvLowered;
+  TBevelKind Kind = bkNone;
+  int Width = 1;
+  bool IsCtl3D = true;
+  bool IsParentCtl3D = true;
+};
 
 /// A control that can have a window, the focus, and other controls inside.
 ///
@@ -56,10 +69,14 @@ class TWinControl : public TControl {
   /// Brings the children to the places that their Align and Anchors ask for.
   void Realign() { AlignControl(nullptr); }
 
+  /// Moves all children. Their anchors hold as they are.
+  void ScrollBy(int deltaX, int deltaY);
+
   // The window.
   bool HandleAllocated() const { return FWindow != nullptr; }
   /// Makes the window if there is none. Needs a QApplication.
   void HandleNeeded();
+  /// Null when a handler has freed the control while its window was made.
   QWidget* GetHandle();
   /// Whether the window is on the screen, as far as the program can tell.
   bool IsShowing() const { return FShowing; }
@@ -71,6 +88,28 @@ class TWinControl : public TControl {
   /// Gets all mouse events until it is released, or another one captures the mouse.
   void SetMouseCapture(bool value);
   bool HasMouseCapture() const;
+
+  // The frame, which is kept for the forms that say it: the border is Qt's.
+  TBevelEdges GetBevelEdges() const { return FFrame.Edges; }
+  void SetBevelEdges(TBevelEdges value) { FFrame.Edges = value; }
+  TBevelCut GetBevelInner() const { return FFrame.Inner; }
+  void SetBevelInner(TBevelCut value) { FFrame.Inner = value; }
+  TBevelCut GetBevelOuter() const { return FFrame.Outer; }
+  void SetBevelOuter(TBevelCut value) { FFrame.Outer = value; }
+  TBevelKind GetBevelKind() const { return FFrame.Kind; }
+  void SetBevelKind(TBevelKind value) { FFrame.Kind = value; }
+  bool IsCtl3D() const { return FFrame.IsCtl3D; }
+  void SetCtl3D(bool value);
+  bool IsParentCtl3D() const { return FFrame.IsParentCtl3D; }
+  void SetParentCtl3D(bool value);
+  bool IsCtl3DStored() const { return !FFrame.IsParentCtl3D; }
+
+  // Input methods.
+  /// With imDisable none is asked while the control has the keyboard. What the other modes say is kept for the forms.
+  TImeMode GetImeMode() const { return FImeMode; }
+  void SetImeMode(TImeMode value);
+  const QString& GetImeName() const { return FImeName; }
+  void SetImeName(const QString& value) { FImeName = value; }
 
   // Focus.
   /// Whether this very window has the keyboard.
@@ -106,6 +145,8 @@ class TWinControl : public TControl {
   void WndProc(TMessage& message) override;
   void GetChildren(const TGetChildProc& proc, TComponent* root) override;
   void SetChildOrder(TComponent* child, int order) override;
+  /// The client size that a form was designed with, as forms with anchored controls say it.
+  void DefineProperties(TFiler& filer) override;
 
   /// Places the aligned and anchored children in `rect`, the client area.
   virtual void AlignControls(QRect& rect);
@@ -122,7 +163,7 @@ class TWinControl : public TControl {
   void NotifyControls(quint32 msg);
 
   // The window.
-  /// Makes the window; overrides call the inherited one and then finish it.
+  /// Makes the window; overrides call the inherited one and then finish it. Those of the children are made afterwards.
   virtual void CreateWnd();
   virtual void DestroyWnd();
   /// Makes the widget itself. `parent` may be null.
@@ -183,6 +224,8 @@ class TWinControl : public TControl {
   virtual bool IsActionKey(quint16, TShiftState) { return false; }
 
   void WMContextMenu(TMessage& message) override;
+  virtual void CMCtl3DChanged(TMessage&);
+  virtual void CMParentCtl3DChanged(TMessage&);
   virtual void CMEnter(TMessage&) { DoEnter(); }
   virtual void CMExit(TMessage&) { DoExit(); }
   virtual void CMShowingChanged(TMessage&) {}
@@ -235,6 +278,7 @@ class TWinControl : public TControl {
   /// Has the topmost control do it.
   void TabsNeeded();
   void OrderTabs(QWidget*& last) const;
+  void MakeWindows();
   void InitializeWindow();
   void UpdateFocusPolicy();
   void TakeWindowAlong();
@@ -252,6 +296,10 @@ class TWinControl : public TControl {
   void DispatchKey(TMessage& message);
   void DispatchDown(TMessage& message);
 
+  TWindowFrame FFrame;
+  /// The size that the form file names; empty for none.
+  QPoint FDesignSize;
+  QString FImeName;
   std::vector<TControl*> FControls;
   std::vector<TWinControl*> FTabList;
   QWidget* FWindow = nullptr;
@@ -261,9 +309,9 @@ class TWinControl : public TControl {
   TObjectRef FPointedChild;
   TPointed FPointed = poWindow;
   int FTabOrder = -1;
-  /// What was turned since the last whole step.
-  int FWheelRest = 0;
+  TWheelSteps FWheel;
   int FAlignLevel = 0;
+  TImeMode FImeMode = imDontCare;
   bool FTabStop = false;
   bool FIsAligning = false;
   bool FAlignNeeded = false;

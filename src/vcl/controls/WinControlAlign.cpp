@@ -1,4 +1,6 @@
 // How TWinControl places its children.
+#include "kt/rtl/objects/LifeWatch.h"
+#include "kt/rtl/objects/ObjectRef.h"
 #include "kt/vcl/controls/WinControl.h"
 
 #include <algorithm>
@@ -23,26 +25,42 @@ int DistanceFromSide(const TControl* control, TAlign align) {
   }
 }
 
-/// Puts a control on its side of `rect` and takes its room away from it.
-void PlaceAt(TControl* control, QRect& rect) {
-  const int width = control->GetWidth();
-  const int height = control->GetHeight();
-  switch (control->GetAlign()) {
+/// Where a control of that size belongs in `rect`.
+QRect PlaceIn(const QRect& rect, TAlign align, QSize size) {
+  switch (align) {
     case alTop:
-      control->SetBounds(rect.x(), rect.y(), rect.width(), height);
-      return rect.setTop(rect.y() + control->GetHeight());
+      return {rect.x(), rect.y(), rect.width(), size.height()};
     case alBottom:
-      control->SetBounds(rect.x(), rect.y() + rect.height() - height, rect.width(), height);
-      return rect.setHeight(rect.height() - control->GetHeight());
+      return {rect.x(), rect.y() + rect.height() - size.height(), rect.width(), size.height()};
     case alLeft:
-      control->SetBounds(rect.x(), rect.y(), width, rect.height());
-      return rect.setLeft(rect.x() + control->GetWidth());
+      return {rect.x(), rect.y(), size.width(), rect.height()};
     case alRight:
-      control->SetBounds(rect.x() + rect.width() - width, rect.y(), width, rect.height());
-      return rect.setWidth(rect.width() - control->GetWidth());
+      return {rect.x() + rect.width() - size.width(), rect.y(), size.width(), rect.height()};
     default:
-      control->SetBounds(rect.x(), rect.y(), rect.width(), rect.height());
+      return rect;
   }
+}
+
+/// Takes the room of what stands on a side of `rect` away from it.
+void TakeAway(QRect& rect, TAlign align, const TControl& control) {
+  switch (align) {
+    case alTop:
+      return rect.setTop(rect.y() + control.GetHeight());
+    case alBottom:
+      return rect.setHeight(rect.height() - control.GetHeight());
+    case alLeft:
+      return rect.setLeft(rect.x() + control.GetWidth());
+    case alRight:
+      return rect.setWidth(rect.width() - control.GetWidth());
+    default:
+      return;
+  }
+}
+
+/// The control, if it is still there and in its parent.
+TControl* StillIn(const TWinControl* parent, const TObjectRef& child) {
+  auto* const control = static_cast<TControl*>(child.Get());
+  return control && control->GetParent() == parent ? control : nullptr;
 }
 
 }  // namespace
@@ -58,25 +76,31 @@ void TWinControl::AlignControl(TControl*) {
     return;
   }
   FAlignNeeded = false;
-  FIsAligning = true;
+  const TLiveFlag aligning(this, FIsAligning);
   QRect rect = GetClientRect();
-  try {
-    AlignControls(rect);
-  } catch (...) {
-    FIsAligning = false;
-    throw;
-  }
-  FIsAligning = false;
+  AlignControls(rect);
 }
 
 void TWinControl::AlignControls(QRect& rect) {
+  const TLifeWatch self(this);
   AlignAnchored(rect);
-  AdjustClientRect(rect);
-  for (TAlign align : {alTop, alBottom, alLeft, alRight, alClient}) AlignSide(align, rect);
+  if (self.IsAlive()) AdjustClientRect(rect);
+  for (TAlign align : {alTop, alBottom, alLeft, alRight, alClient}) {
+    if (self.IsAlive()) AlignSide(align, rect);
+  }
 }
 
+/// The handlers of a child that is resized may free this one, or change who its children are.
 void TWinControl::AlignAnchored(const QRect& rect) {
-  for (int i = 0; i < GetControlCount(); ++i) FControls[i]->ApplyAnchors(rect.size());
+  std::vector<TObjectRef> anchored;
+  for (TControl* control : FControls) {
+    if (control->IsMovedByAnchors()) anchored.emplace_back(control);
+  }
+  const TLifeWatch self(this);
+  for (const TObjectRef& child : anchored) {
+    TControl* const control = self.IsAlive() ? StillIn(this, child) : nullptr;
+    if (control) control->ApplyAnchors(rect.size());
+  }
 }
 
 void TWinControl::RebaseAnchors() {
@@ -91,13 +115,33 @@ void TWinControl::AlignSide(TAlign align, QRect& rect) {
   std::stable_sort(controls.begin(), controls.end(), [align](const TControl* a, const TControl* b) {
     return DistanceFromSide(a, align) < DistanceFromSide(b, align);
   });
-  for (TControl* control : controls) PlaceAt(control, rect);
+  const std::vector<TObjectRef> children(controls.begin(), controls.end());
+  const TLifeWatch self(this);
+  for (const TObjectRef& child : children) {
+    TControl* control = self.IsAlive() ? StillIn(this, child) : nullptr;
+    if (!control) continue;
+    const QRect place = PlaceIn(rect, align, control->GetBoundsRect().size());
+    control->SetBounds(place.x(), place.y(), place.width(), place.height());
+    control = self.IsAlive() ? StillIn(this, child) : nullptr;
+    if (control) TakeAway(rect, align, *control);
+  }
+}
+
+void TWinControl::ScrollBy(int deltaX, int deltaY) {
+  const std::vector<TObjectRef> children(FControls.begin(), FControls.end());
+  const TLifeWatch self(this);
+  DisableAlign();
+  for (const TObjectRef& child : children) {
+    if (TControl* const control = self.IsAlive() ? StillIn(this, child) : nullptr) control->ScrollOn(deltaX, deltaY);
+  }
+  if (self.IsAlive()) EnableAlign();
 }
 
 void TWinControl::SetBounds(int left, int top, int width, int height) {
   const QSize before = GetClientRect().size();
+  const TLifeWatch self(this);
   TControl::SetBounds(left, top, width, height);
-  if (GetClientRect().size() != before) AlignControl(nullptr);
+  if (self.IsAlive() && GetClientRect().size() != before) AlignControl(nullptr);
 }
 
 }  // namespace kt

@@ -11,14 +11,11 @@
 #include <QLatin1StringView>
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace kt {
 
 namespace {
 
-/// A step of the wheel in eighths of a degree.
-constexpr int kWheelStep = 120;
 constexpr QLatin1StringView SCannotFocus{"Cannot focus a disabled or invisible window"};
 
 }  // namespace
@@ -56,6 +53,10 @@ void TWinControl::Dispatch(TMessage& message) {
       return DispatchDown(message);
     case CM_DRAG:
       return CMDrag(message);
+    case CM_CTL3DCHANGED:
+      return CMCtl3DChanged(message);
+    case CM_PARENTCTL3DCHANGED:
+      return CMParentCtl3DChanged(message);
     case CM_TABSTOPCHANGED:
       return CMTabStopChanged(message);
     case CM_ORDERTABS:
@@ -169,9 +170,9 @@ bool TWinControl::DoMouseWheel(TShiftState shift, int delta, bool isHorizontal, 
   bool isUsed = false;
   OnMouseWheel(this, shift, delta, place, isUsed);
   if (!self.IsAlive() || isUsed) return true;
-  for (FWheelRest += delta; std::abs(FWheelRest) >= kWheelStep;) {
-    const bool isUp = FWheelRest > 0;
-    FWheelRest += isUp ? -kWheelStep : kWheelStep;
+  for (int steps = FWheel.Turn(delta); steps != 0;) {
+    const bool isUp = steps > 0;
+    steps += isUp ? -1 : 1;
     const TMouseWheelUpDownEvent handler = isUp ? OnMouseWheelUp : OnMouseWheelDown;
     handler(this, shift, place, isUsed);
     if (!self.IsAlive()) return true;

@@ -1,4 +1,5 @@
 // The window of TWinControl.
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/actions/IdleActions.h"
 #include "kt/vcl/controls/ControlBody.h"
 #include "kt/vcl/controls/DragSession.h"
@@ -28,15 +29,32 @@ bool Replace(QLayout& layout, QWidget* from, QWidget* to) {
 
 void TWinControl::HandleNeeded() {
   if (HandleAllocated()) return;
+  // A control that learns its size from its window may raise events, whose handlers may free anything.
+  const TLifeWatch self(this);
   if (GetParent()) GetParent()->HandleNeeded();
   // The parent makes the windows of its children.
-  if (!HandleAllocated()) CreateWnd();
-  if (!GetParent()) Perform(CM_PARENTBIDIMODECHANGED);
+  if (self.IsAlive() && !HandleAllocated()) MakeWindows();
+  if (self.IsAlive() && !GetParent()) Perform(CM_PARENTBIDIMODECHANGED);
+}
+
+/// The windows of the children come when this one is complete.
+void TWinControl::MakeWindows() {
+  const TLifeWatch self(this);
+  CreateWnd();
+  if (!self.IsAlive()) return;
+  const std::vector<TObjectRef> children(FControls.begin(), FControls.end());
+  for (const TObjectRef& child : children) {
+    auto* const window = dynamic_cast<TWinControl*>(child.Get());
+    if (window && window->GetParent() == this) window->HandleNeeded();
+    if (!self.IsAlive() || !HandleAllocated()) return;
+  }
+  TabsChanged();
 }
 
 QWidget* TWinControl::GetHandle() {
+  const TLifeWatch self(this);
   HandleNeeded();
-  return FWindow;
+  return self.IsAlive() ? FWindow : nullptr;
 }
 
 QWidget* TWinControl::CreateBody(QWidget* parent) { return new TBodyOf<QWidget>(this, parent); }
@@ -49,10 +67,6 @@ void TWinControl::CreateWnd() {
   Q_ASSERT(FBody);
   InitializeWindow();
   FPlacedClient = ClientInWindow();
-  for (int i = 0; i < GetControlCount(); ++i) {
-    if (auto* child = dynamic_cast<TWinControl*>(FControls[i])) child->HandleNeeded();
-  }
-  TabsChanged();
 }
 
 /// The window follows its control to another parent, which has one already or will make it.
@@ -71,7 +85,7 @@ void TWinControl::InitializeWindow() {
   FWindow->setAttribute(Qt::WA_OpaquePaintEvent, FControlStyle.Has(csOpaque));
   UpdateFocusPolicy();
   FWindow->setMouseTracking(true);
-  FWindow->setAttribute(Qt::WA_InputMethodEnabled);
+  FWindow->setAttribute(Qt::WA_InputMethodEnabled, FImeMode != imDisable);
   FWindow->setEnabled(IsEnabled());
   UpdateWindowBounds();
   UpdateWindowVisible();
@@ -108,6 +122,7 @@ void TWinControl::WindowDestroyed() {
 
 void TWinControl::RecreateWnd() {
   if (!HandleAllocated()) return;
+  const TLifeWatch self(this);
   const bool isFocused = Focused();
   if (!GetParent() && !FWindow->isWindow()) {
     RecreateEmbedded();
@@ -116,10 +131,11 @@ void TWinControl::RecreateWnd() {
     const QPoint position = FWindow->pos();
     DestroyHandle();
     HandleNeeded();
+    if (!self.IsAlive() || !HandleAllocated()) return;
     if (isShown) FWindow->move(position);
     if (isShown) FWindow->show();
   }
-  if (isFocused) SetFocus();
+  if (self.IsAlive() && isFocused) SetFocus();
 }
 
 /// Somebody else's layout keeps the new window in the place of the old one.
@@ -129,7 +145,9 @@ void TWinControl::RecreateEmbedded() {
   const auto place = std::make_unique<QWidget>();
   const bool isInLayout = host->layout() && Replace(*host->layout(), FWindow, place.get());
   DestroyHandle();
+  const TLifeWatch self(this);
   HandleNeeded();
+  if (!self.IsAlive() || !HandleAllocated()) return;
   if (isInLayout) {
     Replace(*host->layout(), place.get(), FWindow);
   } else {
@@ -213,16 +231,10 @@ void TWinControl::UpdateWindowBounds() {
 
 void TWinControl::WindowMoved(const QRect& geometry) {
   if (FIsMovingWindow) return;
-  FIsMovingWindow = true;
+  const TLiveFlag moving(this, FIsMovingWindow);
   QPoint position = geometry.topLeft();
   if (GetParent()) position -= GetParent()->GetClientOrigin();
-  try {
-    SetBounds(position.x(), position.y(), geometry.width(), geometry.height());
-  } catch (...) {
-    FIsMovingWindow = false;
-    throw;
-  }
-  FIsMovingWindow = false;
+  SetBounds(position.x(), position.y(), geometry.width(), geometry.height());
 }
 
 QPoint TWinControl::GetClientOrigin() const {

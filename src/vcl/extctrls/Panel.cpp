@@ -1,5 +1,6 @@
 #include "kt/vcl/extctrls/Panel.h"
 
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/controls/ControlText.h"
 #include "kt/vcl/graphics/DrawText.h"
 
@@ -79,13 +80,14 @@ void TCustomPanel::AdjustClientRect(QRect& rect) {
 
 void TCustomPanel::AlignControls(QRect& rect) {
   const QRect client = rect;
+  const TLifeWatch self(this);
   TCustomControl::AlignControls(rect);
-  if (!FAutoSize || HasState(csLoading)) return;
+  if (!self.IsAlive() || !FAutoSize || HasState(csLoading)) return;
   const QSize needed = NeededSize();
   if (needed == QSize(GetWidth(), GetHeight())) return;
   SetBounds(GetLeft(), GetTop(), needed.width(), needed.height());
   // What is aligned has to follow.
-  if (GetClientRect() == client) return;
+  if (!self.IsAlive() || GetClientRect() == client) return;
   rect = GetClientRect();
   TCustomControl::AlignControls(rect);
 }

@@ -5,14 +5,6 @@
 
 namespace kt {
 
-/// How an edge of a panel looks. bvSpace only takes room.
-enum TPanelBevel { bvNone, bvLowered, bvRaised, bvSpace };
-template <>
-struct TEnumNames<TPanelBevel> {
-  static constexpr char Name[] = "TPanelBevel";
-  static constexpr const char* Values[] = {"bvNone", "bvLowered", "bvRaised", "bvSpace"};
-};
-
 /// An area with edges, for other controls or for a text in its middle.
 ///
 /// Places of children are counted from the corner of the client area, which the edges belong to; aligned ones stay

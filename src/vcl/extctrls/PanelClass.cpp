@@ -31,7 +31,10 @@ const TClassInfo* TPanel::Class() {
     builder.Property<&T::GetAlignment, &T::SetAlignment>("Alignment").Default(taCenter);
     Publish::Anchors(builder);
     builder.Property<&T::IsAutoSize, &T::SetAutoSize>("AutoSize").Default(false);
+    builder.Property<&TWinControl::GetBevelEdges, &TWinControl::SetBevelEdges>("BevelEdges")
+        .Default(TBevelEdges{beLeft, beTop, beRight, beBottom});
     builder.Property<&T::GetBevelInner, &T::SetBevelInner>("BevelInner").Default(bvNone);
+    builder.Property<&TWinControl::GetBevelKind, &TWinControl::SetBevelKind>("BevelKind").Default(bkNone);
     builder.Property<&T::GetBevelOuter, &T::SetBevelOuter>("BevelOuter").Default(bvRaised);
     builder.Property<&T::GetBevelWidth, &T::SetBevelWidth>("BevelWidth", &BevelWidthTypeInfo).Default(1);
     Publish::BiDiMode(builder);
@@ -41,6 +44,7 @@ const TClassInfo* TPanel::Class() {
     Publish::Color(builder, clBtnFace);
     Publish::Constraints(builder);
     builder.Property<&T::IsDockSite, &T::SetDockSite>("DockSite").Default(false);
+    Publish::Ctl3D(builder);
     Publish::DragCursor(builder);
     Publish::DragKind(builder);
     Publish::DragMode(builder);
@@ -63,7 +67,7 @@ const TClassInfo* TPanel::Class() {
     Publish::MouseEvents(builder);
     Publish::DragEvents(builder);
     Publish::FocusEvents(builder);
-    builder.Property<&TControl::OnResize>("OnResize");
+    Publish::SizeEvents(builder);
     return builder.Creatable().Done();
   }();
   return &info;

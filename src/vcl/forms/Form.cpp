@@ -2,6 +2,7 @@
 
 #include "kt/rtl/objects/Exceptions.h"
 #include "kt/rtl/objects/LifeWatch.h"
+#include "kt/rtl/objects/Make.h"
 #include "kt/rtl/objects/UnhandledExceptions.h"
 #include "kt/rtl/streams/FormConversion.h"
 #include "kt/rtl/streams/Reader.h"
@@ -11,19 +12,23 @@
 #include "kt/vcl/forms/Application.h"
 #include "kt/vcl/forms/FormMenuBar.h"
 #include "kt/vcl/forms/Screen.h"
+#include "kt/vcl/graphics/Icon.h"
 #include "kt/vcl/menus/MainMenu.h"
 
 #include <QBuffer>
+#include <QEventLoop>
 #include <QLatin1StringView>
 
 namespace kt {
 
-TCustomForm::TCustomForm(TComponent* owner) : TCustomControl(owner) {}
+TCustomForm::TCustomForm(TComponent* owner) : TScrollingWinControl(owner) {}
 
 TCustomForm::~TCustomForm() = default;
 
 void TCustomForm::Construct() {
-  TCustomControl::Construct();
+  FIcon = Make<TIcon>();
+  FIcon->OnChange = TNotifyEvent([this](TObject*) { UpdateIcon(); });
+  TScrollingWinControl::Construct();
   FControlStyle = {csAcceptsControls, csCaptureMouse, csClickEvents, csSetCaption, csDoubleClicks};
   SetVisibleFlag(false);
   SetParentColor(false);
@@ -34,12 +39,12 @@ void TCustomForm::Construct() {
 }
 
 void TCustomForm::AfterConstruction() {
-  TCustomControl::AfterConstruction();
+  TScrollingWinControl::AfterConstruction();
   OnCreate(this);
 }
 
 void TCustomForm::BeforeDestruction() {
-  TCustomControl::BeforeDestruction();
+  TScrollingWinControl::BeforeDestruction();
   GuardedCall([this] { OnDestroy(this); });
 }
 
@@ -47,14 +52,16 @@ void TCustomForm::Destruct() {
   if (FModalLoop) FModalLoop->quit();
   Screen().RemoveForm(this);
   FMenuBar.reset();
-  TCustomControl::Destruct();
+  TScrollingWinControl::Destruct();
 }
 
 void TCustomForm::Notification(TComponent* component, TOperation operation) {
-  TCustomControl::Notification(component, operation);
+  TScrollingWinControl::Notification(component, operation);
   if (operation == opRemove && component == FActiveControl) FActiveControl = nullptr;
   if (operation == opRemove) std::erase(FActionLists, component);
   if (operation == opRemove && component == FMenu) SetMenu(nullptr);
+  if (operation == opRemove && component == FObjectMenuItem) FObjectMenuItem = nullptr;
+  if (operation == opRemove && component == FWindowMenu) FWindowMenu = nullptr;
   auto* list = operation == opInsert ? dynamic_cast<TCustomActionList*>(component) : nullptr;
   if (list && list->GetOwnerComponent() == this) FActionLists.push_back(list);
   const bool isNewInDesigner = operation == opInsert && HasState(csDesigning) && !HasState(csLoading);
@@ -64,6 +71,12 @@ void TCustomForm::Notification(TComponent* component, TOperation operation) {
 
 bool TCustomForm::IsActionKey(quint16 key, TShiftState shift) {
   const TLifeWatch self(this);
+  if (OnShortCut) {
+    TMessage message{WM_KEYDOWN, key, shift.Bits(), 0};
+    bool isUsed = false;
+    OnShortCut(this, message, isUsed);
+    if (isUsed || !self.IsAlive()) return true;
+  }
   if (FMenu && FMenu->IsShortCut(key, shift)) return true;
   for (size_t i = 0; self.IsAlive() && i < FActionLists.size(); ++i) {
     if (FActionLists[i]->IsShortCut(key, shift)) return true;
@@ -72,7 +85,7 @@ bool TCustomForm::IsActionKey(quint16 key, TShiftState shift) {
 }
 
 void TCustomForm::GetChildren(const TGetChildProc& proc, TComponent* root) {
-  TCustomControl::GetChildren(proc, root);
+  TScrollingWinControl::GetChildren(proc, root);
   if (root != this) return;
   for (int i = 0; i < GetComponentCount(); ++i) {
     // Controls have been written with their parents.
@@ -87,7 +100,7 @@ void TCustomForm::Dispatch(TMessage& message) {
     return;
   }
   if (message.Msg == CM_MODALANSWERED) return CloseModal();
-  TCustomControl::Dispatch(message);
+  TScrollingWinControl::Dispatch(message);
 }
 
 void TCustomForm::SetActiveControl(TWinControl* value) {
@@ -111,7 +124,7 @@ void TCustomForm::FocusActiveControl() {
 }
 
 void TCustomForm::ControlFocused(TWinControl* control) {
-  TCustomControl::ControlFocused(control);
+  TScrollingWinControl::ControlFocused(control);
   if (control == this) return;
   FActiveControl = control;
   control->FreeNotification(this);

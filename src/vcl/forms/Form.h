@@ -1,7 +1,7 @@
 #pragma once
 
-#include "kt/vcl/controls/CustomControl.h"
 #include "kt/vcl/forms/FormTypes.h"
+#include "kt/vcl/forms/ScrollingControl.h"
 
 #include <memory>
 #include <vector>
@@ -12,15 +12,17 @@ namespace kt {
 
 class TCustomActionList;
 class TFormMenuBar;
+class TIcon;
 class TMainMenu;
+class TMenuItem;
 
 /// A window of its own with controls in it.
 ///
 /// Its descendants are built from form files: ReadFormText() fills one from the text format; the form owns the
 /// components that are read. Appears with Show() or ShowModal(), goes with Close(), which asks first.
-class TCustomForm : public TCustomControl {
+class TCustomForm : public TScrollingWinControl {
  public:
-  using Inherited = TCustomControl;
+  using Inherited = TScrollingWinControl;
 
   static const TClassInfo* Class();
   const TClassInfo* ClassType() const override { return Class(); }
@@ -30,6 +32,9 @@ class TCustomForm : public TCustomControl {
   void SetCaption(const QString& value) { SetText(value); }
   TFormBorderStyle GetBorderStyle() const { return FBorderStyle; }
   void SetBorderStyle(TFormBorderStyle value);
+  /// A border that lets the user change the size brings AutoScroll along, and another one takes it away.
+  void SetAutoScroll(bool value);
+  bool IsAutoScrollStored() const;
   TBorderIcons GetBorderIcons() const { return FBorderIcons; }
   void SetBorderIcons(TBorderIcons value);
   TPosition GetPosition() const { return FPosition; }
@@ -45,6 +50,46 @@ class TCustomForm : public TCustomControl {
   void SetPixelsPerInch(int value) { FPixelsPerInch = value; }
   int GetTextHeight() const { return FTextHeight; }
   void SetTextHeight(int value) { FTextHeight = value; }
+
+  // The window.
+  TFormStyle GetFormStyle() const { return FFormStyle; }
+  void SetFormStyle(TFormStyle value);
+  /// Where there is none, the program's is shown. Setting copies.
+  TIcon& GetIcon() { return *FIcon; }
+  void SetIcon(TIcon* value);
+  bool IsIconStored() const;
+  /// Whether the window lets through what is below, as far as the value says: 255 nothing, 0 all.
+  bool IsAlphaBlend() const { return FAlphaBlend; }
+  void SetAlphaBlend(bool value);
+  quint8 GetAlphaBlendValue() const { return FAlphaBlendValue; }
+  void SetAlphaBlendValue(quint8 value);
+  TDefaultMonitor GetDefaultMonitor() const { return FDefaultMonitor; }
+  void SetDefaultMonitor(TDefaultMonitor value) { FDefaultMonitor = value; }
+
+  // Kept for the forms that say them. Sizes are those of the form file, nothing can be docked, and what prints a form
+  // is not the form. The menu items would be those of windows within a window; not owned.
+  bool IsScaled() const { return FScaled; }
+  void SetScaled(bool value) { FScaled = value; }
+  TPrintScale GetPrintScale() const { return FPrintScale; }
+  void SetPrintScale(TPrintScale value) { FPrintScale = value; }
+  const QString& GetHelpFile() const { return FHelpFile; }
+  void SetHelpFile(const QString& value) { FHelpFile = value; }
+  bool IsTransparentColor() const { return FTransparentColor; }
+  void SetTransparentColor(bool value) { FTransparentColor = value; }
+  TColor GetTransparentColorValue() const { return FTransparentColorValue; }
+  void SetTransparentColorValue(TColor value) { FTransparentColorValue = value; }
+  bool IsDockSite() const { return FDockSite; }
+  void SetDockSite(bool value) { FDockSite = value; }
+  bool IsUseDockManager() const { return FUseDockManager; }
+  void SetUseDockManager(bool value) { FUseDockManager = value; }
+  bool IsScreenSnap() const { return FScreenSnap; }
+  void SetScreenSnap(bool value) { FScreenSnap = value; }
+  int GetSnapBuffer() const { return FSnapBuffer; }
+  void SetSnapBuffer(int value) { FSnapBuffer = value; }
+  TMenuItem* GetObjectMenuItem() const { return FObjectMenuItem; }
+  void SetObjectMenuItem(TMenuItem* value);
+  TMenuItem* GetWindowMenu() const { return FWindowMenu; }
+  void SetWindowMenu(TMenuItem* value);
 
   /// The menu that is shown at the top, above the client area, and whose short cuts work on the form; the Height of the
   /// form is that of the whole. A dialog (bsDialog) shows none, nor does a menu without visible items show. The first
@@ -84,6 +129,8 @@ class TCustomForm : public TCustomControl {
   TNotifyEvent OnDestroy;
   TNotifyEvent OnHide;
   TNotifyEvent OnPaint;
+  /// Before the menus and actions of the form are asked for a key.
+  TShortCutEvent OnShortCut;
   TNotifyEvent OnShow;
 
  protected:
@@ -117,6 +164,9 @@ class TCustomForm : public TCustomControl {
 
  private:
   Qt::WindowFlags WindowFlags() const;
+  void UpdateOpacity();
+  void UpdateIcon();
+  QRect AreaToCenterIn() const;
   void UpdateWindowFlags();
   void CloseModal();
   void PlaceWindow();
@@ -136,6 +186,10 @@ class TCustomForm : public TCustomControl {
   /// The lists of actions that the form owns.
   std::vector<TCustomActionList*> FActionLists;
   TMainMenu* FMenu = nullptr;
+  TMenuItem* FObjectMenuItem = nullptr;
+  TMenuItem* FWindowMenu = nullptr;
+  std::unique_ptr<TIcon> FIcon;
+  QString FHelpFile;
   /// As long as a menu is to be shown.
   std::unique_ptr<TFormMenuBar> FMenuBar;
   /// What the form file says of ClientHeight, while it is being loaded; -1 for nothing.
@@ -144,8 +198,22 @@ class TCustomForm : public TCustomControl {
   TModalResult FModalResult = mrNone;
   int FPixelsPerInch = 96;
   int FTextHeight = 0;
+  int FSnapBuffer = 10;
+  TColor FTransparentColorValue = clBlack;
+  TFormStyle FFormStyle = fsNormal;
+  TDefaultMonitor FDefaultMonitor = dmActiveForm;
+  TPrintScale FPrintScale = poProportional;
+  quint8 FAlphaBlendValue = 255;
+  bool FAlphaBlend = false;
   bool FKeyPreview = false;
   bool FOldCreateOrder = false;
+  bool FScaled = true;
+  bool FTransparentColor = false;
+  bool FDockSite = false;
+  bool FUseDockManager = false;
+  bool FScreenSnap = false;
+  /// The form that is being loaded says itself whether it scrolls.
+  bool FIsAutoScrollLoaded = false;
 };
 
 /// A form as applications describe it: publishes what TCustomForm has.

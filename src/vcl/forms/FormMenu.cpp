@@ -1,6 +1,7 @@
 // The menu of TCustomForm.
 #include "kt/rtl/conversions/Format.h"
 #include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/forms/Form.h"
 #include "kt/vcl/forms/FormMenuBar.h"
 #include "kt/vcl/forms/Screen.h"
@@ -45,36 +46,39 @@ void TCustomForm::UpdateMenuBar(int before) {
     FMenuBar->Place();
   }
   if (GetClientMargins().top() == before) return;
-  if (HasState(csLoading) && FLoadedClientHeight >= 0) TCustomControl::SetClientHeight(FLoadedClientHeight);
+  const TLifeWatch self(this);
+  if (HasState(csLoading) && FLoadedClientHeight >= 0) TScrollingWinControl::SetClientHeight(FLoadedClientHeight);
+  if (!self.IsAlive()) return;
   PlaceChildWindows();
   Invalidate();
   Realign();
 }
 
 QMargins TCustomForm::GetClientMargins() const {
-  QMargins margins = TCustomControl::GetClientMargins();
+  QMargins margins = TScrollingWinControl::GetClientMargins();
   if (FMenuBar) margins.setTop(margins.top() + FMenuBar->GetHeight());
   return margins;
 }
 
 void TCustomForm::SetClientHeight(int value) {
   if (HasState(csLoading)) FLoadedClientHeight = value;
-  TCustomControl::SetClientHeight(value);
+  TScrollingWinControl::SetClientHeight(value);
 }
 
 void TCustomForm::BoundsUpdated() {
-  TCustomControl::BoundsUpdated();
+  TScrollingWinControl::BoundsUpdated();
   if (FMenuBar) FMenuBar->Place();
 }
 
 void TCustomForm::DestroyWnd() {
   if (FMenuBar) FMenuBar->LeaveWindow();
-  TCustomControl::DestroyWnd();
+  TScrollingWinControl::DestroyWnd();
 }
 
 void TCustomForm::CMBiDiModeChanged(TMessage& message) {
-  TCustomControl::CMBiDiModeChanged(message);
-  UpdateMenuBar();
+  const TLifeWatch self(this);
+  TScrollingWinControl::CMBiDiModeChanged(message);
+  if (self.IsAlive()) UpdateMenuBar();
 }
 
 }  // namespace kt

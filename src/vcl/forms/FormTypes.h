@@ -1,5 +1,6 @@
 #pragma once
 
+#include "kt/rtl/objects/Message.h"
 #include "kt/vcl/controls/ControlTypes.h"
 
 namespace kt {
@@ -18,6 +19,13 @@ enum TPosition {
 enum TBorderIcon { biSystemMenu, biMinimize, biMaximize, biHelp };
 using TBorderIcons = TSet<TBorderIcon>;
 enum TWindowState { wsNormal, wsMinimized, wsMaximized };
+
+/// fsStayOnTop lies above the other windows of all programs. Windows within a window there are none: a child or parent
+/// of such is a form like others.
+enum TFormStyle { fsNormal, fsMDIChild, fsMDIForm, fsStayOnTop };
+/// The screen that a form is put in the middle of.
+enum TDefaultMonitor { dmDesktop, dmPrimary, dmMainForm, dmActiveForm };
+enum TPrintScale { poNone, poProportional, poPrintToFit };
 
 /// What becomes of a form that is closed.
 enum TCloseAction { caNone, caHide, caFree, caMinimize };
@@ -43,6 +51,11 @@ struct TCloseEvent : TEvent<TObject*, TCloseAction&> {
   using TEvent::TEvent;
   static constexpr char TypeName[] = "TCloseEvent";
 };
+/// A key, as WM_KEYDOWN has it, that may be a short cut; a handler that sets the last one to true has used it.
+struct TShortCutEvent : TEvent<TObject*, TMessage&, bool&> {
+  using TEvent::TEvent;
+  static constexpr char TypeName[] = "TShortCutEvent";
+};
 struct TCloseQueryEvent : TEvent<TObject*, bool&> {
   using TEvent::TEvent;
   static constexpr char TypeName[] = "TCloseQueryEvent";
@@ -54,6 +67,21 @@ struct TEnumNames<TPosition> {
   static constexpr const char* Values[] = {"poDesigned",        "poDefault",        "poDefaultPosOnly",
                                            "poDefaultSizeOnly", "poScreenCenter",   "poDesktopCenter",
                                            "poMainFormCenter",  "poOwnerFormCenter"};
+};
+template <>
+struct TEnumNames<TFormStyle> {
+  static constexpr char Name[] = "TFormStyle";
+  static constexpr const char* Values[] = {"fsNormal", "fsMDIChild", "fsMDIForm", "fsStayOnTop"};
+};
+template <>
+struct TEnumNames<TDefaultMonitor> {
+  static constexpr char Name[] = "TDefaultMonitor";
+  static constexpr const char* Values[] = {"dmDesktop", "dmPrimary", "dmMainForm", "dmActiveForm"};
+};
+template <>
+struct TEnumNames<TPrintScale> {
+  static constexpr char Name[] = "TPrintScale";
+  static constexpr const char* Values[] = {"poNone", "poProportional", "poPrintToFit"};
 };
 template <>
 struct TEnumNames<TBorderIcon> {

@@ -17,17 +17,31 @@
 
 namespace kt {
 
+namespace {
+
+bool IsSizedByUser(TFormBorderStyle style) { return style == bsSizeable || style == bsSizeToolWin; }
+
+}  // namespace
+
+void TCustomForm::SetAutoScroll(bool value) {
+  if (HasState(csLoading)) FIsAutoScrollLoaded = true;
+  TScrollingWinControl::SetAutoScroll(value);
+}
+
+bool TCustomForm::IsAutoScrollStored() const { return IsAutoScroll() != IsSizedByUser(FBorderStyle); }
+
 QWidget* TCustomForm::CreateBody(QWidget* parent) {
-  QWidget* body = TCustomControl::CreateBody(parent);
+  QWidget* body = TScrollingWinControl::CreateBody(parent);
   if (!parent) body->setWindowFlags(WindowFlags());
   return body;
 }
 
 Qt::WindowFlags TCustomForm::WindowFlags() const {
-  if (FBorderStyle == bsNone) return Qt::Window | Qt::FramelessWindowHint;
+  const Qt::WindowFlags above = FFormStyle == fsStayOnTop ? Qt::WindowStaysOnTopHint : Qt::WindowFlags();
+  if (FBorderStyle == bsNone) return Qt::Window | Qt::FramelessWindowHint | above;
   const bool isTool = FBorderStyle == bsToolWindow || FBorderStyle == bsSizeToolWin;
   Qt::WindowFlags flags = isTool ? Qt::Tool : FBorderStyle == bsDialog ? Qt::Dialog : Qt::Window;
-  flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+  flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | above;
   flags.setFlag(Qt::WindowSystemMenuHint, FBorderIcons.Has(biSystemMenu));
   flags.setFlag(Qt::WindowCloseButtonHint, FBorderIcons.Has(biSystemMenu));
   const bool hasButtons = FBorderStyle == bsSingle || FBorderStyle == bsSizeable;
@@ -39,15 +53,23 @@ Qt::WindowFlags TCustomForm::WindowFlags() const {
 
 void TCustomForm::CreateWnd() {
   // The client area lies below it already when the windows in it are made.
+  const TLifeWatch self(this);
   UpdateMenuBar();
-  TCustomControl::CreateWnd();
+  if (!self.IsAlive()) return;
+  TScrollingWinControl::CreateWnd();
+  if (!self.IsAlive()) return;
   Window()->setWindowTitle(GetText());
+  UpdateOpacity();
+  UpdateIcon();
   if (FMenuBar) FMenuBar->Place();
 }
 
 void TCustomForm::SetBorderStyle(TFormBorderStyle value) {
   if (FBorderStyle == value) return;
   FBorderStyle = value;
+  const TLifeWatch self(this);
+  if (!FIsAutoScrollLoaded) TScrollingWinControl::SetAutoScroll(IsSizedByUser(value));
+  if (!self.IsAlive()) return;
   UpdateWindowFlags();
   UpdateMenuBar();
 }
@@ -72,28 +94,35 @@ void TCustomForm::SetWindowState(TWindowState value) {
 }
 
 void TCustomForm::CMTextChanged(TMessage& message) {
-  TCustomControl::CMTextChanged(message);
+  TScrollingWinControl::CMTextChanged(message);
   if (HandleAllocated()) Window()->setWindowTitle(GetText());
 }
 
 /// A form that is being designed shows where its designer puts it, whatever it says of itself.
 void TCustomForm::CMVisibleChanged(TMessage& message) {
   if (HasState(csLoading) || HasState(csDesigning) || !HasWidgets()) return;
+  const TLifeWatch self(this);
   if (IsVisible() && !IsShowing()) {
-    GetHandle();
+    if (!GetHandle()) return;
     PlaceWindow();
     OnShow(this);
+    // The handler may also have hidden it again.
+    if (!self.IsAlive() || !IsVisible()) return;
     SetWindowState(FWindowState);
+    if (!self.IsAlive()) return;
   }
-  TCustomControl::CMVisibleChanged(message);
+  TScrollingWinControl::CMVisibleChanged(message);
 }
 
 void TCustomForm::Loaded() {
+  const TLifeWatch self(this);
   UpdateMenuBar();
+  if (!self.IsAlive()) return;
   FLoadedClientHeight = -1;
-  TCustomControl::Loaded();
+  FIsAutoScrollLoaded = false;
+  TScrollingWinControl::Loaded();
   // What the file says of Visible waits until all is read.
-  if (IsVisible()) Perform(CM_VISIBLECHANGED, 1);
+  if (self.IsAlive() && IsVisible()) Perform(CM_VISIBLECHANGED, 1);
 }
 
 void TCustomForm::PlaceWindow() {
@@ -102,7 +131,7 @@ void TCustomForm::PlaceWindow() {
                           FPosition == poMainFormCenter || FPosition == poOwnerFormCenter;
   if (FPosition == poDesigned) Window()->move(GetLeft(), GetTop());
   if (!isCentered) return;
-  QRect around = Window()->screen()->availableGeometry();
+  QRect around = AreaToCenterIn();
   auto* const owner = FPosition == poOwnerFormCenter ? dynamic_cast<TCustomForm*>(GetOwnerComponent()) : nullptr;
   TCustomForm* const other = FPosition == poMainFormCenter ? Application().GetMainForm() : owner;
   if (other && other != this && other->IsShowing()) around = other->Window()->frameGeometry();
@@ -112,7 +141,7 @@ void TCustomForm::PlaceWindow() {
 }
 
 void TCustomForm::CMShowingChanged(TMessage& message) {
-  TCustomControl::CMShowingChanged(message);
+  TScrollingWinControl::CMShowingChanged(message);
   if (!IsShowing()) return OnHide(this);
   FocusActiveControl();
 }
@@ -138,7 +167,7 @@ bool TCustomForm::WindowEvent(QEvent& event) {
       OnDeactivate(this);
       return false;
     default:
-      return TCustomControl::WindowEvent(event);
+      return TScrollingWinControl::WindowEvent(event);
   }
 }
 
@@ -157,9 +186,11 @@ TModalResult TCustomForm::ShowModal() {
   if (IsVisible() || FModalLoop) throw EInvalidOperation(QStringLiteral("Cannot make a visible window modal"));
   QEventLoop loop;
   FModalResult = mrNone;
-  GetHandle()->setWindowModality(Qt::ApplicationModal);
-  FModalLoop = &loop;
   const TLifeWatch self(this);
+  QWidget* const window = GetHandle();
+  if (!window) return mrCancel;
+  window->setWindowModality(Qt::ApplicationModal);
+  FModalLoop = &loop;
   // A handler may raise, or free the form.
   struct TDone {
     TCustomForm& Form;

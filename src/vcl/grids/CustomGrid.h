@@ -313,7 +313,8 @@ class TCustomGrid : public TCustomControl {
   QPointer<TGridScrollBar> FVertBar;
   int FBarWidth = 0;
   bool FIsUpdatingBars = false;
-  QPoint FWheelRest;
+  TWheelSteps FWheelAcross;
+  TWheelSteps FWheelDown;
 
   TGridState FGridState = gsNormal;
   TMouseWork FMouse;

@@ -12,8 +12,7 @@ namespace kt {
 
 namespace {
 
-/// What a step of the wheel is in eighths of a degree, and how many rows it scrolls.
-constexpr int kWheelStep = 120;
+/// How many rows a step of the wheel scrolls.
 constexpr int kWheelRows = 3;
 
 /// How many pixels the cells move when the first one changes; `limit` or more stands for all of them.
@@ -164,10 +163,7 @@ void TCustomGrid::Resize() {
 
 bool TCustomGrid::DoMouseWheel(TShiftState shift, int delta, bool isHorizontal, QPoint position) {
   if (TCustomControl::DoMouseWheel(shift, delta, isHorizontal, position)) return true;
-  int& rest = isHorizontal ? FWheelRest.rx() : FWheelRest.ry();
-  rest += delta * kWheelRows;
-  const int cells = rest / kWheelStep;
-  rest -= cells * kWheelStep;
+  const int cells = (isHorizontal ? FWheelAcross : FWheelDown).Turn(delta * kWheelRows);
   const TGridDrawInfo info = CalcDrawInfo();
   const bool isAcross = isHorizontal || shift.Has(ssShift);
   const TGridAxis& axis = isAcross ? FCols : FRows;

@@ -16,6 +16,7 @@ const TClassInfo* TDrawGrid::Class() {
     Publish::Action(builder);
     Publish::Align(builder);
     Publish::Anchors(builder);
+    Publish::Bevels(builder);
     Publish::BiDiMode(builder);
     Publish::GridBorderStyle(builder);
     Publish::Color(builder, clWindow);
@@ -24,6 +25,7 @@ const TClassInfo* TDrawGrid::Class() {
     Publish::DefaultColWidth(builder);
     Publish::DefaultRowHeight(builder);
     Publish::DefaultDrawing(builder);
+    Publish::Ctl3D(builder);
     Publish::DragCursor(builder);
     Publish::DragKind(builder);
     Publish::DragMode(builder);

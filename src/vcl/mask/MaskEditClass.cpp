@@ -1,4 +1,5 @@
 // What masked lines of text publish.
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/mask/MaskEdit.h"
 #include "kt/vcl/stdctrls/PublishEdit.h"
 
@@ -21,11 +22,13 @@ const TClassInfo* TMaskEdit::Class() {
     Publish::Anchors(builder);
     Publish::AutoSelect(builder);
     Publish::AutoSize(builder);
+    Publish::Bevels(builder);
     Publish::BiDiMode(builder);
     Publish::EditBorderStyle(builder);
     Publish::CharCase(builder);
     Publish::Color(builder, clWindow);
     Publish::Constraints(builder);
+    Publish::Ctl3D(builder);
     Publish::DragCursor(builder);
     Publish::DragKind(builder);
     Publish::DragMode(builder);
@@ -35,6 +38,7 @@ const TClassInfo* TMaskEdit::Class() {
     builder.Property<&TMaskEdit::GetMaxLength, &TMaskEdit::SetMaxLength>("MaxLength")
         .Default(0)
         .Stored(&TMaskEdit::IsMaxLengthStored);
+    Publish::InputMethod(builder);
     Publish::ParentBiDiMode(builder);
     Publish::ParentColor(builder, false);
     Publish::ParentFont(builder);
@@ -58,8 +62,9 @@ const TClassInfo* TMaskEdit::Class() {
 }
 
 void TMaskEdit::CreateWnd() {
+  const TLifeWatch self(this);
   TCustomMaskEdit::CreateWnd();
-  UpdateDirection();
+  if (self.IsAlive()) UpdateDirection();
 }
 
 void TMaskEdit::CMBiDiModeChanged(TMessage& message) {

@@ -34,6 +34,7 @@ const TClassInfo* TCheckBox::Class() {
     builder.Property<&TCheckBox::IsChecked, &TCheckBox::SetChecked>("Checked").NotStored();
     Publish::Color(builder);
     Publish::Constraints(builder);
+    Publish::Ctl3D(builder);
     Publish::DragCursor(builder);
     Publish::DragKind(builder);
     Publish::DragMode(builder);

@@ -20,10 +20,12 @@ const TClassInfo* TComboBox::Class() {
     // Before the text that it allows, or does not.
     builder.Property<&T::GetStyle, &T::SetStyle>("Style").Default(csDropDown);
     Publish::Anchors(builder);
+    Publish::Bevels(builder);
     Publish::BiDiMode(builder);
     builder.Property<&T::GetCharCase, &T::SetCharCase>("CharCase").Default(ecNormal);
     Publish::Color(builder, clWindow);
     Publish::Constraints(builder);
+    Publish::Ctl3D(builder);
     Publish::DragCursor(builder);
     Publish::DragKind(builder);
     Publish::DragMode(builder);
@@ -34,6 +36,7 @@ const TClassInfo* TComboBox::Class() {
     builder.Property<&T::GetItems, &T::SetItems>("Items");
     builder.Property<&T::GetItemIndex, &T::SetItemIndex>("ItemIndex").Default(-1);
     builder.Property<&T::GetMaxLength, &T::SetMaxLength>("MaxLength").Default(0);
+    Publish::InputMethod(builder);
     Publish::ParentBiDiMode(builder);
     Publish::ParentColor(builder, false);
     Publish::ParentFont(builder);

@@ -2,6 +2,7 @@
 #include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/graphics/RealFont.h"
 #include "kt/vcl/stdctrls/ComboBoxView.h"
+#include "kt/vcl/stdctrls/EditLine.h"
 #include "kt/vcl/stdctrls/WindowColors.h"
 
 #include <QAbstractItemView>
@@ -12,13 +13,6 @@
 #include <utility>
 
 namespace kt {
-
-namespace {
-
-/// What Qt's line editor takes for "any number".
-constexpr int kAnyLength = 32767;
-
-}  // namespace
 
 TCustomComboBox::TView* TCustomComboBox::View() const { return static_cast<TView*>(Window()); }
 

@@ -1,5 +1,6 @@
 #include "kt/vcl/stdctrls/Edit.h"
 
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/stdctrls/PublishEdit.h"
 
 namespace kt {
@@ -11,11 +12,13 @@ const TClassInfo* TEdit::Class() {
     Publish::Anchors(builder);
     Publish::AutoSelect(builder);
     Publish::AutoSize(builder);
+    Publish::Bevels(builder);
     Publish::BiDiMode(builder);
     Publish::EditBorderStyle(builder);
     Publish::CharCase(builder);
     Publish::Color(builder, clWindow);
     Publish::Constraints(builder);
+    Publish::Ctl3D(builder);
     Publish::DragCursor(builder);
     Publish::DragKind(builder);
     Publish::DragMode(builder);
@@ -24,6 +27,7 @@ const TClassInfo* TEdit::Class() {
     Publish::HideSelection(builder);
     Publish::MaxLength(builder);
     Publish::OEMConvert(builder);
+    Publish::InputMethod(builder);
     Publish::ParentBiDiMode(builder);
     Publish::ParentColor(builder, false);
     Publish::ParentFont(builder);
@@ -47,13 +51,15 @@ const TClassInfo* TEdit::Class() {
 }
 
 void TEdit::CreateWnd() {
+  const TLifeWatch self(this);
   TCustomEdit::CreateWnd();
-  UpdateDirection();
+  if (self.IsAlive()) UpdateDirection();
 }
 
 void TEdit::CMBiDiModeChanged(TMessage& message) {
+  const TLifeWatch self(this);
   TCustomEdit::CMBiDiModeChanged(message);
-  UpdateDirection();
+  if (self.IsAlive()) UpdateDirection();
 }
 
 void TEdit::DefaultHandler(TMessage& message) {

@@ -11,9 +11,6 @@ namespace kt {
 
 namespace {
 
-/// What Qt's line editor takes for "any number".
-constexpr int kAnyLength = 32767;
-
 /// The style of the program with another character for what is not to be read.
 class TMaskCharacterStyle : public QProxyStyle {
  public:

@@ -11,6 +11,9 @@ class QStyle;
 
 namespace kt {
 
+/// What Qt's line editor takes for "any number" of characters.
+inline constexpr int kAnyLength = 32767;
+
 /// Qt's line editor as the window of an edit. The selection outlives the loss of the keyboard, which Qt's does not:
 /// while it does not show it is remembered.
 class TEditLine : public QLineEdit, public TEditWidget {

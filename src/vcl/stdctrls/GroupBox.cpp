@@ -1,5 +1,6 @@
 #include "kt/vcl/stdctrls/GroupBox.h"
 
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/controls/Accelerators.h"
 #include "kt/vcl/controls/ControlBody.h"
 #include "kt/vcl/controls/ControlText.h"
@@ -57,6 +58,7 @@ const TClassInfo* TGroupBox::Class() {
     Publish::Caption(builder);
     Publish::Color(builder);
     Publish::Constraints(builder);
+    Publish::Ctl3D(builder);
     Publish::DragCursor(builder);
     Publish::DragKind(builder);
     Publish::DragMode(builder);
@@ -139,8 +141,9 @@ void TCustomGroupBox::CMTextChanged(TMessage& message) {
 }
 
 void TCustomGroupBox::CMFontChanged(TMessage& message) {
+  const TLifeWatch self(this);
   TCustomControl::CMFontChanged(message);
-  Realign();
+  if (self.IsAlive()) Realign();
 }
 
 void TCustomGroupBox::CMDialogChar(TMessage& message) {

@@ -18,10 +18,12 @@ const TClassInfo* TListBox::Class() {
     Publish::Align(builder);
     Publish::Anchors(builder);
     builder.Property<&T::IsAutoComplete, &T::SetAutoComplete>("AutoComplete").Default(true);
+    Publish::Bevels(builder);
     Publish::BiDiMode(builder);
     builder.Property<&T::GetBorderStyle, &T::SetBorderStyle>("BorderStyle", &BorderStyleTypeInfo).Default(bsSingle);
     Publish::Color(builder, clWindow);
     Publish::Constraints(builder);
+    Publish::Ctl3D(builder);
     Publish::DragCursor(builder);
     Publish::DragKind(builder);
     Publish::DragMode(builder);
@@ -30,6 +32,7 @@ const TClassInfo* TListBox::Class() {
     builder.Property<&T::IsIntegralHeight, &T::SetIntegralHeight>("IntegralHeight").Default(false);
     builder.Property<&T::GetItemHeight, &T::SetItemHeight>("ItemHeight");
     builder.Property<&T::GetItems, &T::SetItems>("Items");
+    Publish::InputMethod(builder);
     Publish::ParentBiDiMode(builder);
     Publish::ParentColor(builder, false);
     Publish::ParentFont(builder);

@@ -89,8 +89,9 @@ QWidget* TCustomMemo::CreateBody(QWidget* parent) {
 }
 
 void TCustomMemo::CreateWnd() {
+  const TLifeWatch self(this);
   TCustomEdit::CreateWnd();
-  UpdateLayout();
+  if (self.IsAlive()) UpdateLayout();
 }
 
 void TCustomMemo::WindowTextChanged(const QString& text, bool byUser) {

@@ -19,10 +19,12 @@ const TClassInfo* TMemo::Class() {
     Publish::Align(builder);
     builder.Property<&T::GetAlignment, &T::SetAlignment>("Alignment").Default(taLeftJustify);
     Publish::Anchors(builder);
+    Publish::Bevels(builder);
     Publish::BiDiMode(builder);
     Publish::EditBorderStyle(builder);
     Publish::Color(builder, clWindow);
     Publish::Constraints(builder);
+    Publish::Ctl3D(builder);
     Publish::DragCursor(builder);
     Publish::DragKind(builder);
     Publish::DragMode(builder);
@@ -32,6 +34,7 @@ const TClassInfo* TMemo::Class() {
     builder.Property<&T::GetLines, &T::SetLines>("Lines");
     Publish::MaxLength(builder);
     Publish::OEMConvert(builder);
+    Publish::InputMethod(builder);
     Publish::ParentBiDiMode(builder);
     Publish::ParentColor(builder, false);
     Publish::ParentFont(builder);

@@ -21,6 +21,7 @@ const TClassInfo* TRadioButton::Class() {
     builder.Property<&TRadioButton::IsChecked, &TRadioButton::SetChecked>("Checked").Default(false);
     Publish::Color(builder);
     Publish::Constraints(builder);
+    Publish::Ctl3D(builder);
     Publish::DragCursor(builder);
     Publish::DragKind(builder);
     Publish::DragMode(builder);

@@ -17,6 +17,7 @@ const TClassInfo* TScrollBar::Class() {
     Publish::Anchors(builder);
     Publish::BiDiMode(builder);
     Publish::Constraints(builder);
+    Publish::Ctl3D(builder);
     Publish::DragCursor(builder);
     Publish::DragKind(builder);
     Publish::DragMode(builder);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "kt/vcl/controls/WheelSteps.h"
 #include "kt/vcl/controls/WinControl.h"
 
 class QScrollBar;
@@ -111,7 +112,7 @@ class TScrollBar : public TWinControl {
   int FPageSize = 0;
   int FSmallChange = 1;
   int FLargeChange = 1;
-  int FWheelRest = 0;
+  TWheelSteps FWheel;
   bool FIsScrolling = false;
 };
 

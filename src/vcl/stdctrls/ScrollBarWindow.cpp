@@ -15,8 +15,7 @@ namespace kt {
 
 namespace {
 
-/// A step of the wheel in eighths of a degree, and how many lines it leads on.
-constexpr int kWheelStep = 120;
+/// How many lines a step of the wheel leads on.
 constexpr int kWheelLines = 3;
 
 }  // namespace
@@ -111,9 +110,7 @@ bool TScrollBar::DoMouseWheel(TShiftState shift, int delta, bool isHorizontal, Q
   if (TWinControl::DoMouseWheel(shift, delta, isHorizontal, position)) return true;
   // Nobody scrolls by passing over it.
   if (!self.IsAlive() || !Focused() || HasState(csDesigning)) return !self.IsAlive();
-  FWheelRest += delta;
-  const int steps = FWheelRest / kWheelStep;
-  FWheelRest -= steps * kWheelStep;
+  const int steps = FWheel.Turn(delta);
   for (int i = 0; self.IsAlive() && i < std::abs(steps) * kWheelLines; ++i) {
     ScrollByUser(steps > 0 ? scLineUp : scLineDown);
   }

@@ -36,12 +36,14 @@ class PanelTest : public tests::TPaintWorld {
 
 TEST_F(PanelTest, ItPublishesWhatFormsSay) {
   EXPECT_EQ(
-      "Align=alNone Alignment=taCenter Anchors AutoSize=False BevelInner=bvNone BevelOuter=bvRaised BevelWidth=1 "
-      "BiDiMode BorderStyle=bsNone BorderWidth=0 Caption Color=-16777201 Constraints DockSite=False DragCursor=-12 "
-      "DragKind=dkDrag DragMode=dmManual Enabled=True Font FullRepaint=True Locked=False ParentBackground "
-      "ParentBiDiMode=True ParentColor=False ParentFont=True ParentShowHint=True PopupMenu ShowHint TabOrder=-1 "
-      "TabStop=False UseDockManager=True Visible=True OnClick OnContextPopup OnDblClick OnMouseDown OnMouseEnter "
-      "OnMouseLeave OnMouseMove OnMouseUp OnDragDrop OnDragOver OnEndDrag OnStartDrag OnEnter OnExit OnResize",
+      "Align=alNone Alignment=taCenter Anchors AutoSize=False BevelEdges=15 BevelInner=bvNone BevelKind=bkNone "
+      "BevelOuter=bvRaised BevelWidth=1 "
+      "BiDiMode BorderStyle=bsNone BorderWidth=0 Caption Color=-16777201 Constraints DockSite=False Ctl3D "
+      "ParentCtl3D=True DragCursor=-12 DragKind=dkDrag DragMode=dmManual Enabled=True Font FullRepaint=True "
+      "Locked=False ParentBackground ParentBiDiMode=True ParentColor=False ParentFont=True ParentShowHint=True "
+      "PopupMenu ShowHint TabOrder=-1 TabStop=False UseDockManager=True Visible=True OnClick OnContextPopup "
+      "OnDblClick OnMouseDown OnMouseEnter OnMouseLeave OnMouseMove OnMouseUp OnDragDrop OnDragOver OnEndDrag "
+      "OnStartDrag OnEnter OnExit OnCanResize OnConstrainedResize OnResize",
       tests::PublishedOf(TPanel::Class()));
 }
 
@@ -129,6 +131,7 @@ TEST_F(PanelTest, ACaptionThatIsCoveredDoesNotShineThrough) {
   Panel.SetCaption("WWWWWW");
   auto& inner = Add<TPanel>("Inner", {0, 0, 10, 10}, &Panel);
   inner.SetAlign(alClient);
+  inner.SetCaption(QString());
   EXPECT_TRUE(inner.IsParentBackground());
   EXPECT_FALSE(HasInk({15, 20, 90, 40}));
 }

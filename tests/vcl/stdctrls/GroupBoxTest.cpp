@@ -28,10 +28,11 @@ class GroupBoxTest : public tests::TPaintWorld {
 
 TEST_F(GroupBoxTest, ItPublishesWhatFormsSay) {
   EXPECT_EQ(
-      "Align=alNone Anchors BiDiMode Caption Color Constraints DragCursor=-12 DragKind=dkDrag DragMode=dmManual "
-      "Enabled=True Font ParentBackground ParentBiDiMode=True ParentColor=True ParentFont=True ParentShowHint=True "
-      "PopupMenu ShowHint TabOrder=-1 TabStop=False Visible=True OnClick OnContextPopup OnDblClick OnMouseDown "
-      "OnMouseEnter OnMouseLeave OnMouseMove OnMouseUp OnDragDrop OnDragOver OnEndDrag OnStartDrag OnEnter OnExit",
+      "Align=alNone Anchors BiDiMode Caption Color Constraints Ctl3D ParentCtl3D=True DragCursor=-12 "
+      "DragKind=dkDrag DragMode=dmManual Enabled=True Font ParentBackground ParentBiDiMode=True ParentColor=True "
+      "ParentFont=True ParentShowHint=True PopupMenu ShowHint TabOrder=-1 TabStop=False Visible=True OnClick "
+      "OnContextPopup OnDblClick OnMouseDown OnMouseEnter OnMouseLeave OnMouseMove OnMouseUp OnDragDrop OnDragOver "
+      "OnEndDrag OnStartDrag OnEnter OnExit",
       tests::PublishedOf(TGroupBox::Class()));
 }
 

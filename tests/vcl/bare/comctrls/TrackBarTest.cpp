@@ -27,11 +27,11 @@ class TrackBarTest : public testing::Test {
 
 TEST_F(TrackBarTest, PublishesWhatFormsSayOfIt) {
   EXPECT_EQ(
-      "Align=alNone Anchors Constraints DragCursor=-12 DragKind=dkDrag DragMode=dmManual Enabled=True LineSize=1 "
-      "Max=10 Min=0 Orientation=trHorizontal ParentShowHint=True PageSize=2 PopupMenu Frequency=1 Position=0 "
-      "SliderVisible=True SelEnd=0 SelStart=0 ShowHint TabOrder=-1 TabStop=True ThumbLength=20 TickMarks=tmBottomRight "
-      "TickStyle=tsAuto Visible=True OnChange OnContextPopup OnDragDrop OnDragOver OnEndDrag OnStartDrag OnEnter "
-      "OnExit OnKeyDown OnKeyPress OnKeyUp",
+      "Align=alNone Anchors Constraints Ctl3D ParentCtl3D=True DragCursor=-12 DragKind=dkDrag DragMode=dmManual "
+      "Enabled=True LineSize=1 Max=10 Min=0 Orientation=trHorizontal ParentShowHint=True PageSize=2 PopupMenu "
+      "Frequency=1 Position=0 SliderVisible=True SelEnd=0 SelStart=0 ShowHint TabOrder=-1 TabStop=True "
+      "ThumbLength=20 TickMarks=tmBottomRight TickStyle=tsAuto Visible=True OnChange OnContextPopup OnDragDrop "
+      "OnDragOver OnEndDrag OnStartDrag OnEnter OnExit OnKeyDown OnKeyPress OnKeyUp",
       PublishedBy(TTrackBar::Class()));
 }
 

@@ -26,12 +26,14 @@ class ComboBoxTest : public testing::Test {
 
 TEST_F(ComboBoxTest, PublishesWhatFormsSayOfIt) {
   EXPECT_EQ(
-      "Align=alNone AutoComplete=True AutoDropDown=False AutoCloseUp=False Style=csDropDown Anchors BiDiMode "
-      "CharCase=ecNormal Color=-16777211 Constraints DragCursor=-12 DragKind=dkDrag DragMode=dmManual DropDownCount=8 "
-      "Enabled=True Font ItemHeight Items ItemIndex=-1 MaxLength=0 ParentBiDiMode=True ParentColor=False "
-      "ParentFont=True ParentShowHint=True PopupMenu ShowHint Sorted=False TabOrder=-1 TabStop=True Text Visible=True "
-      "OnChange OnClick OnCloseUp OnContextPopup OnDblClick OnDragDrop OnDragOver OnEndDrag OnStartDrag OnDropDown "
-      "OnEnter OnExit OnKeyDown OnKeyPress OnKeyUp OnMouseEnter OnMouseLeave OnSelect",
+      "Align=alNone AutoComplete=True AutoDropDown=False AutoCloseUp=False Style=csDropDown Anchors BevelEdges=15 "
+      "BevelInner=bvRaised BevelKind=bkNone BevelOuter=bvLowered BiDiMode CharCase=ecNormal Color=-16777211 "
+      "Constraints Ctl3D ParentCtl3D=True DragCursor=-12 DragKind=dkDrag DragMode=dmManual DropDownCount=8 "
+      "Enabled=True Font ItemHeight Items ItemIndex=-1 MaxLength=0 ImeMode=imDontCare ImeName ParentBiDiMode=True "
+      "ParentColor=False ParentFont=True ParentShowHint=True PopupMenu ShowHint Sorted=False TabOrder=-1 "
+      "TabStop=True Text Visible=True OnChange OnClick OnCloseUp OnContextPopup OnDblClick OnDragDrop OnDragOver "
+      "OnEndDrag OnStartDrag OnDropDown OnEnter OnExit OnKeyDown OnKeyPress OnKeyUp OnMouseEnter OnMouseLeave "
+      "OnSelect",
       PublishedBy(TComboBox::Class()));
 }
 

@@ -17,12 +17,14 @@ class EditTest : public testing::Test {
 
 TEST_F(EditTest, PublishesWhatFormsSayOfIt) {
   EXPECT_EQ(
-      "Align=alNone Anchors AutoSelect=True AutoSize=True BiDiMode BorderStyle=bsSingle CharCase=ecNormal "
-      "Color=-16777211 Constraints DragCursor=-12 DragKind=dkDrag DragMode=dmManual Enabled=True Font "
-      "HideSelection=True MaxLength=0 OEMConvert=False ParentBiDiMode=True ParentColor=False ParentFont=True "
-      "ParentShowHint=True PasswordChar=0 PopupMenu ReadOnly=False ShowHint TabOrder=-1 TabStop=True Text Visible=True "
-      "OnChange OnClick OnContextPopup OnDblClick OnMouseDown OnMouseEnter OnMouseLeave OnMouseMove OnMouseUp "
-      "OnDragDrop OnDragOver OnEndDrag OnStartDrag OnEnter OnExit OnKeyDown OnKeyPress OnKeyUp",
+      "Align=alNone Anchors AutoSelect=True AutoSize=True BevelEdges=15 BevelInner=bvRaised BevelKind=bkNone "
+      "BevelOuter=bvLowered BiDiMode BorderStyle=bsSingle CharCase=ecNormal Color=-16777211 Constraints Ctl3D "
+      "ParentCtl3D=True DragCursor=-12 DragKind=dkDrag DragMode=dmManual Enabled=True Font HideSelection=True "
+      "MaxLength=0 OEMConvert=False ImeMode=imDontCare ImeName ParentBiDiMode=True ParentColor=False "
+      "ParentFont=True ParentShowHint=True PasswordChar=0 PopupMenu ReadOnly=False ShowHint TabOrder=-1 "
+      "TabStop=True Text Visible=True OnChange OnClick OnContextPopup OnDblClick OnMouseDown OnMouseEnter "
+      "OnMouseLeave OnMouseMove OnMouseUp OnDragDrop OnDragOver OnEndDrag OnStartDrag OnEnter OnExit OnKeyDown "
+      "OnKeyPress OnKeyUp",
       PublishedBy(TEdit::Class()));
 }
 

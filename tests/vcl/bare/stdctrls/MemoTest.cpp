@@ -27,12 +27,14 @@ class MemoTest : public testing::Test {
 
 TEST_F(MemoTest, PublishesWhatFormsSayOfIt) {
   EXPECT_EQ(
-      "Align=alNone Alignment=taLeftJustify Anchors BiDiMode BorderStyle=bsSingle Color=-16777211 Constraints "
+      "Align=alNone Alignment=taLeftJustify Anchors BevelEdges=15 BevelInner=bvRaised BevelKind=bkNone "
+      "BevelOuter=bvLowered BiDiMode BorderStyle=bsSingle Color=-16777211 Constraints Ctl3D ParentCtl3D=True "
       "DragCursor=-12 DragKind=dkDrag DragMode=dmManual Enabled=True Font HideSelection=True Lines MaxLength=0 "
-      "OEMConvert=False ParentBiDiMode=True ParentColor=False ParentFont=True ParentShowHint=True PopupMenu "
-      "ReadOnly=False ScrollBars=ssNone ShowHint TabOrder=-1 TabStop=True Visible=True WantReturns=True WantTabs=False "
-      "WordWrap=True OnChange OnClick OnContextPopup OnDblClick OnMouseDown OnMouseEnter OnMouseLeave OnMouseMove "
-      "OnMouseUp OnDragDrop OnDragOver OnEndDrag OnStartDrag OnEnter OnExit OnKeyDown OnKeyPress OnKeyUp",
+      "OEMConvert=False ImeMode=imDontCare ImeName ParentBiDiMode=True ParentColor=False ParentFont=True "
+      "ParentShowHint=True PopupMenu ReadOnly=False ScrollBars=ssNone ShowHint TabOrder=-1 TabStop=True "
+      "Visible=True WantReturns=True WantTabs=False WordWrap=True OnChange OnClick OnContextPopup OnDblClick "
+      "OnMouseDown OnMouseEnter OnMouseLeave OnMouseMove OnMouseUp OnDragDrop OnDragOver OnEndDrag OnStartDrag "
+      "OnEnter OnExit OnKeyDown OnKeyPress OnKeyUp",
       PublishedBy(TMemo::Class()));
 }
 

@@ -30,10 +30,11 @@ class ScrollBarTest : public testing::Test {
 
 TEST_F(ScrollBarTest, PublishesWhatFormsSayOfIt) {
   EXPECT_EQ(
-      "Align=alNone Anchors BiDiMode Constraints DragCursor=-12 DragKind=dkDrag DragMode=dmManual Enabled=True "
-      "Kind=sbHorizontal LargeChange=1 Max=100 Min=0 PageSize=0 ParentBiDiMode=True ParentShowHint=True PopupMenu "
-      "Position=0 ShowHint SmallChange=1 TabOrder=-1 TabStop=True Visible=True OnChange OnContextPopup OnDragDrop "
-      "OnDragOver OnEndDrag OnStartDrag OnEnter OnExit OnKeyDown OnKeyPress OnKeyUp OnScroll",
+      "Align=alNone Anchors BiDiMode Constraints Ctl3D ParentCtl3D=True DragCursor=-12 DragKind=dkDrag "
+      "DragMode=dmManual Enabled=True Kind=sbHorizontal LargeChange=1 Max=100 Min=0 PageSize=0 ParentBiDiMode=True "
+      "ParentShowHint=True PopupMenu Position=0 ShowHint SmallChange=1 TabOrder=-1 TabStop=True Visible=True "
+      "OnChange OnContextPopup OnDragDrop OnDragOver OnEndDrag OnStartDrag OnEnter OnExit OnKeyDown OnKeyPress "
+      "OnKeyUp OnScroll",
       PublishedBy(TScrollBar::Class()));
 }
 
