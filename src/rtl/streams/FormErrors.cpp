@@ -18,7 +18,7 @@ QString Shortened(QStringView text) {
   // Half a character would be none.
   if (begin.back().isHighSurrogate()) begin.chop(1);
   if (end.front().isLowSurrogate()) end = end.sliced(1);
-  return begin.toString() + kGap + end;
+  return begin.toString() + kGap + end.toString();
 }
 
 QString MessageAbout(QLatin1StringView pattern, QStringView argument) {
