@@ -170,7 +170,7 @@ void TQObjectComponent::DynamicChanged(const QByteArray& name) {
   const QObject* object = FindObject();
   if (!object) return;
   const TClassInfo* before = std::exchange(FClass, nullptr);
-  if (before && before == ClassType()) return TellChanged(PublishedDynamicName(*object, name));
+  if (before && before == ClassType()) return PropertyTold(PublishedDynamicName(*object, name));
   TellListChanged();
 }
 

@@ -6,6 +6,8 @@
 
 #include <QObject>
 
+#include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace kt {
@@ -14,9 +16,14 @@ void TReferenceWatch::Follow(const TValueMember& member, QObject& object) {
   TComponent* component = ComponentOf(&object);
   TTarget& target = FTargets[&member];
   if (target.Component == component) return;
-  target = {component, &object, false};
-  // Whom it pointed to before may be told of still; that costs one look.
+  TComponent* before = std::exchange(target, {component, &object, false}).Component;
+  if (before && !IsFollowed(*before)) before->RemoveFreeNotification(this);
   if (component) component->FreeNotification(this);
+}
+
+bool TReferenceWatch::IsFollowed(const TComponent& component) const {
+  return std::any_of(FTargets.begin(), FTargets.end(),
+                     [&](const auto& target) { return target.second.Component == &component; });
 }
 
 bool TReferenceWatch::IsGone(const TValueMember& member, const QObject* object) const {

@@ -38,6 +38,8 @@ class TReferenceWatch : public TComponent {
     bool IsGone = false;
   };
 
+  bool IsFollowed(const TComponent& component) const;
+
   TValueHolder& FHolder;
   std::unordered_map<const TValueMember*, TTarget> FTargets;
 };

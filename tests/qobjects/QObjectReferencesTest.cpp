@@ -98,6 +98,26 @@ TEST_F(QObjectReferencesTest, AReferredObjectThatDiesIsTold) {
   EXPECT_EQ(nullptr, GetObjectProp(ComponentOf(&FRoot), u"next"));
 }
 
+TEST_F(QObjectReferencesTest, OnlyTheObjectThatIsPointedToNowIsFollowed) {
+  auto first = std::make_unique<TQtLink>();
+  auto second = std::make_unique<TQtLink>();
+  FRoot.Sibling = first.get();
+  FRoot.setProperty("dynamic", QVariant::fromValue<QObject*>(first.get()));
+  InspectQ({&FRoot});
+  FRoot.SetSibling(second.get());
+  FRoot.setProperty("dynamic", QVariant::fromValue<QObject*>(second.get()));
+  Deliver();
+  int refreshes = 0;
+  FInspector->OnRefreshValue = [&](TObject*, TKTItemProperty*) { ++refreshes; };
+  first.reset();
+  Deliver();
+  EXPECT_EQ(0, refreshes);
+  second.reset();
+  Deliver();
+  Deliver();
+  EXPECT_EQ("(destroyed) (destroyed)", Value("sibling") + ' ' + Value("dynamic"));
+}
+
 TEST_F(QObjectReferencesTest, APointerThatIsSetAnewIsFollowedAgain) {
   alignas(TQtLink) std::byte memory[sizeof(TQtLink)];
   auto* first = new (memory) TQtLink;
