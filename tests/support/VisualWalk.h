@@ -8,6 +8,7 @@
 #include "kt/vcl/forms/FormTypes.h"
 #include "kt/vcl/grids/GridTypes.h"
 #include "kt/vcl/menus/MenuTypes.h"
+#include "kt/vcl/stdctrls/ListBox.h"
 #include "kt/vcl/stdctrls/ScrollBar.h"
 #include "support/PropertyWalk.h"
 
@@ -43,7 +44,12 @@ inline std::vector<TClassInfo::TPublishedMethod> VisualHandlers() {
           HandlerOf<TFDApplyEvent>(),
           HandlerOf<TMenuChangeEvent>(),
           HandlerOf<TTabChangingEvent>(),
-          HandlerOf<TTabGetImageEvent>()};
+          HandlerOf<TTabGetImageEvent>(),
+          HandlerOf<TDrawItemEvent>(),
+          HandlerOf<TMeasureItemEvent>(),
+          HandlerOf<TLBGetDataEvent>(),
+          HandlerOf<TLBGetDataObjectEvent>(),
+          HandlerOf<TLBFindDataEvent>()};
 }
 
 }  // namespace kt::tests

@@ -229,8 +229,7 @@ class TControl : public TComponent {
   void Loaded() override;
   void Notification(TComponent* component, TOperation operation) override;
   void SetParentComponent(TComponent* value) override;
-  /// The bounds that an aligned or anchored control had before, as forms say them. They are kept until a designer puts
-  /// it somewhere else.
+  /// The bounds that an aligned or anchored control had before, as forms say them; they are kept.
   void DefineProperties(TFiler& filer) override;
 
   virtual void SetZOrder(bool isTopmost);
@@ -321,7 +320,6 @@ class TControl : public TComponent {
   QPoint PlaceInClient(QPoint screenPos);
   void ButtonDown(const TMessage& message, TMouseButton button, bool isDouble);
   void ButtonUp(const TMessage& message, TMouseButton button);
-  void ForgetExplicit();
   /// Remembers where the control stands relative to its parent, which anchors keep.
   void RememberAnchorBase();
   bool IsMovedByAnchors() const;

@@ -9,6 +9,8 @@
 #include <QHelpEvent>
 #include <QPaintEvent>
 
+#include <algorithm>
+
 namespace kt {
 
 namespace {
@@ -16,6 +18,13 @@ namespace {
 bool TakesTab(const QWidget* widget) {
   return (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && !widget->focusProxy() && !widget->isWindow() &&
          widget->isVisible() && widget->isEnabled();
+}
+
+/// Such a widget, or what is in it, has to stay where its window looks for it until that is painted.
+bool IsBeingPainted(const QWidget& widget) {
+  const auto isPainted = [](const QWidget* w) { return w->testAttribute(Qt::WA_WState_InPaintEvent); };
+  const QList<QWidget*> inside = widget.findChildren<QWidget*>();
+  return isPainted(&widget) || std::any_of(inside.begin(), inside.end(), isPainted);
 }
 
 }  // namespace
@@ -41,7 +50,7 @@ void TControlBody::Retire() {
     return;
   }
   FWidget->hide();
-  FWidget->setParent(nullptr);
+  if (!IsBeingPainted(*FWidget)) FWidget->setParent(nullptr);
   FWidget->deleteLater();
 }
 

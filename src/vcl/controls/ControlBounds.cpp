@@ -1,7 +1,6 @@
 // Place and size of TControl, alignment and anchors.
 #include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/controls/Control.h"
-#include "kt/vcl/controls/ExplicitBounds.h"
 #include "kt/vcl/controls/WinControl.h"
 
 #include <array>
@@ -41,7 +40,6 @@ void TControl::SetBounds(int left, int top, int width, int height) {
   if (!CheckNewSize(width, height) || !self.IsAlive()) return;
   const QRect bounds(left, top, qMax(width, 0), qMax(height, 0));
   if (bounds == GetBoundsRect()) return;
-  if (FExplicit) ForgetExplicit();
   const bool isResized = bounds.size() != GetBoundsRect().size();
   Invalidate();
   FLeft = bounds.x();

@@ -47,11 +47,6 @@ void TControl::DefineProperties(TFiler& filer) {
   }
 }
 
-void TControl::ForgetExplicit() {
-  const bool isPutByHand = HasState(csDesigning) && !HasState(csLoading) && FAlign == alNone;
-  if (isPutByHand && !(FParent && FParent->IsAligning())) FExplicit.reset();
-}
-
 void TWinControl::DefineProperties(TFiler& filer) {
   TControl::DefineProperties(filer);
   const auto* const ancestor = dynamic_cast<const TWinControl*>(filer.GetAncestor());

@@ -1,5 +1,6 @@
 #include "kt/vcl/controls/CustomControl.h"
 
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/Make.h"
 #include "kt/rtl/typeinfo/ClassBuilder.h"
 
@@ -33,10 +34,15 @@ void TCustomControl::PaintWindow(const QRect& clip) {
   }
   FCanvas->SetPalette(Window()->palette());
   FCanvas->Begin(painter, visible);
+  // The handler of the painting may free this one.
+  const TLifeWatch self(this);
   struct TEnd {
+    const TLifeWatch& Life;
     TCanvas& Canvas;
-    ~TEnd() { Canvas.End(); }
-  } end{*FCanvas};
+    ~TEnd() {
+      if (Life.IsAlive()) Canvas.End();
+    }
+  } end{self, *FCanvas};
   FCanvas->SetFont(&GetFont());
   FCanvas->GetBrush().SetColor(GetColor());
   if (FillsGround()) FCanvas->FillRect(visible);

@@ -1,5 +1,6 @@
 #include "kt/vcl/controls/Focus.h"
 
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/vcl/controls/WinControl.h"
 
 #include <vector>
@@ -56,7 +57,12 @@ void TFocus::Moved(TWinControl* control) {
   State().Current = control;
   if (!control) return;
   std::vector<TWinControl*> entered = AncestorsUpTo(control, isPreviousAlive ? previous : nullptr);
-  for (TWinControl* parent = control; parent; parent = parent->GetParent()) parent->ControlFocused(control);
+  for (TWinControl* parent = control; parent; parent = parent->GetParent()) {
+    const TLifeWatch life(parent);
+    parent->ControlFocused(control);
+    // What was entered, or what is around it, may have been freed.
+    if (!life.IsAlive() || State().Current != control) return;
+  }
   Tell({entered.rbegin(), entered.rend()}, CM_ENTER);
 }
 

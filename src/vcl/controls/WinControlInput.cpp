@@ -198,11 +198,19 @@ bool TWinControl::CanFocus() const {
 
 void TWinControl::SetFocus() {
   if (!CanFocus()) throw EInvalidOperation(SCannotFocus);
-  GetHandle()->setFocus();
-  if (FWindow->isActiveWindow()) return;
+  const TLifeWatch self(this);
+  QWidget* const window = GetHandle();
+  if (!window) return;
+  window->setFocus();
+  // Those that are left and entered may free whatever they like.
+  if (!self.IsAlive() || !FWindow || FWindow->isActiveWindow()) return;
   // The keyboard comes when the window is activated; until then the form has to know for whom.
   TWinControl* const owner = FocusOwner();
-  for (TWinControl* parent = owner; parent; parent = parent->GetParent()) parent->ControlFocused(owner);
+  for (TWinControl* parent = owner; parent; parent = parent->GetParent()) {
+    const TLifeWatch life(parent);
+    parent->ControlFocused(owner);
+    if (!life.IsAlive() || !self.IsAlive()) return;
+  }
 }
 
 void TWinControl::CMCursorChanged(TMessage&) { ShowCursor(GetCursor()); }

@@ -96,15 +96,16 @@ void TScrollingWinControl::DestroyWnd() {
   TCustomControl::DestroyWnd();
 }
 
+/// In a designer aligned controls stay as large as the form says, wherever the others are put.
 void TScrollingWinControl::CalcAutoRange() {
-  if (!FAutoScroll || HasState(csLoading) || HasState(csDestroying)) return;
+  if (!FAutoScroll || HasState(csDesigning) || HasState(csLoading) || HasState(csDestroying)) return;
   int right = 0;
   int bottom = 0;
   int beside = 0;
   int below = 0;
   for (int i = 0; i < GetControlCount(); ++i) {
     const TControl& child = *GetControls(i);
-    if (!child.IsVisible() && !HasState(csDesigning)) continue;
+    if (!child.IsVisible()) continue;
     const TAlign align = child.GetAlign();
     const bool isFree = align == alNone || align == alCustom;
     if (align == alLeft || (isFree && IsAtStart(child, akLeft, akRight))) {

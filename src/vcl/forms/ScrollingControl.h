@@ -21,7 +21,7 @@ class TScrollingWinControl : public TCustomControl {
   ~TScrollingWinControl() override;
 
   /// Whether the ranges of the scroll bars follow from the places of the children: of those that show and keep to the
-  /// left or the top.
+  /// left or the top. Not in a designer.
   bool IsAutoScroll() const { return FAutoScroll; }
   void SetAutoScroll(bool value);
   TControlScrollBar& GetHorzScrollBar() { return *FHorzScrollBar; }

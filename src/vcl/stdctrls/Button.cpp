@@ -35,6 +35,7 @@ const TClassInfo* TButton::Class() {
     Publish::TabOrder(builder);
     Publish::TabStop(builder, true);
     Publish::Visible(builder);
+    builder.Property<&TButtonControl::IsWordWrap, &TButtonControl::SetWordWrap>("WordWrap").Default(false);
     // A press that comes twice is two clicks.
     builder.Property<&TControl::OnClick>("OnClick").Stored(&TControl::IsOnClickStored);
     builder.Property<&TControl::OnContextPopup>("OnContextPopup");

@@ -45,8 +45,8 @@ void TButtonControl::SetAlignment(TLeftRight value) {
 
 void TButtonControl::CreateWnd() {
   TWinControl::CreateWnd();
-  Button()->setText(GetText());
   UpdateLook();
+  ShowCaption();
 }
 
 void TButtonControl::UpdateLook() {
@@ -78,12 +78,13 @@ bool TButtonControl::WindowEvent(QEvent& event) {
 
 void TButtonControl::CMTextChanged(TMessage& message) {
   TWinControl::CMTextChanged(message);
-  if (Button()) Button()->setText(GetText());
+  ShowCaption();
 }
 
 void TButtonControl::CMFontChanged(TMessage& message) {
   TWinControl::CMFontChanged(message);
   UpdateLook();
+  ShowCaption();
 }
 
 void TButtonControl::CMColorChanged(TMessage& message) {

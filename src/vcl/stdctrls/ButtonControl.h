@@ -22,6 +22,10 @@ class TButtonControl : public TWinControl {
   TLeftRight GetAlignment() const { return FAlignment; }
   void SetAlignment(TLeftRight value);
 
+  /// Whether a caption that is wider than its room is broken between words.
+  bool IsWordWrap() const { return FWordWrap; }
+  void SetWordWrap(bool value);
+
   void DefaultHandler(TMessage& message) override;
 
  protected:
@@ -31,6 +35,7 @@ class TButtonControl : public TWinControl {
   /// Makes one of Qt's buttons by MakeButton().
   QWidget* CreateBody(QWidget* parent) override = 0;
   void CreateWnd() override;
+  void BoundsUpdated() override;
   bool WindowEvent(QEvent& event) override;
   void CMTextChanged(TMessage& message) override;
   void CMFontChanged(TMessage& message) override;
@@ -51,8 +56,10 @@ class TButtonControl : public TWinControl {
  private:
   void Connect(QAbstractButton& button);
   void UpdateLook();
+  void ShowCaption();
 
   TLeftRight FAlignment = taRightJustify;
+  bool FWordWrap = false;
   bool FIsUpdatingLook = false;
 };
 

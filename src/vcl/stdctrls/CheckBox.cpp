@@ -50,6 +50,7 @@ const TClassInfo* TCheckBox::Class() {
     Publish::TabOrder(builder);
     Publish::TabStop(builder, true);
     Publish::Visible(builder);
+    builder.Property<&TButtonControl::IsWordWrap, &TButtonControl::SetWordWrap>("WordWrap").Default(false);
     builder.Property<&TControl::OnClick>("OnClick").Stored(&TControl::IsOnClickStored);
     builder.Property<&TControl::OnContextPopup>("OnContextPopup");
     Publish::ButtonEvents(builder);

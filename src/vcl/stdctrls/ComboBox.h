@@ -1,7 +1,9 @@
 #pragma once
 
 #include "kt/rtl/strings/Strings.h"
+#include "kt/vcl/graphics/Canvas.h"
 #include "kt/vcl/stdctrls/CustomEdit.h"
+#include "kt/vcl/stdctrls/OwnerDraw.h"
 
 #include <memory>
 
@@ -9,9 +11,8 @@ class QLineEdit;
 
 namespace kt {
 
-/// csDropDown and csSimple take any text, the others a line of the list alone. Qt has no list that is always open, and
-/// draws its lines itself: csSimple looks as csDropDown does, csOwnerDrawFixed and csOwnerDrawVariable as
-/// csDropDownList.
+/// csDropDown and csSimple take any text, the others a line of the list alone. Qt has no list that is always open:
+/// csSimple looks as csDropDown does. The lines of the last two are drawn by the program.
 enum TComboBoxStyle { csDropDown, csSimple, csDropDownList, csOwnerDrawFixed, csOwnerDrawVariable };
 template <>
 struct TEnumNames<TComboBoxStyle> {
@@ -37,6 +38,9 @@ class TCustomComboBox : public TWinControl {
   void SetStyle(TComboBoxStyle value);
   /// Whether the text need not be in the list.
   bool IsEditable() const { return FStyle == csDropDown || FStyle == csSimple; }
+  bool IsOwnerDraw() const { return FStyle == csOwnerDrawFixed || FStyle == csOwnerDrawVariable; }
+  /// What OnDrawItem draws on.
+  TCanvas& GetCanvas();
   /// Changes between BeginUpdate() and EndUpdate() are shown once. ItemIndex stays with its line.
   TStrings& GetItems() const;
   void SetItems(TStrings& value);
@@ -53,7 +57,7 @@ class TCustomComboBox : public TWinControl {
   /// How many lines the open list shows without scrolling.
   int GetDropDownCount() const { return FDropDownCount; }
   void SetDropDownCount(int value);
-  /// The height of a line as a form says it; lines are as high as the font.
+  /// The height of a line that the program draws; others are as high as the font.
   int GetItemHeight() const { return FItemHeight; }
   void SetItemHeight(int value);
   /// The most characters that are typed; 0 for any number.
@@ -92,6 +96,10 @@ class TCustomComboBox : public TWinControl {
 
   TNotifyEvent OnChange;
   TNotifyEvent OnCloseUp;
+  /// For the styles that are drawn by the program. Nobody's lines are drawn plain.
+  TDrawItemEvent OnDrawItem;
+  /// Of csOwnerDrawVariable.
+  TMeasureItemEvent OnMeasureItem;
   /// Before the list opens; the handler may still fill it.
   TNotifyEvent OnDropDown;
   TNotifyEvent OnSelect;
@@ -116,6 +124,8 @@ class TCustomComboBox : public TWinControl {
   virtual void DropDown() { OnDropDown(this); }
   virtual void CloseUp() { OnCloseUp(this); }
   virtual void DoSelect();
+  virtual void DrawItem(int index, const QRect& rect, TOwnerDrawState state);
+  virtual void MeasureItem(int index, int& height) { OnMeasureItem(this, index, height); }
 
  private:
   class TLines;
@@ -123,6 +133,8 @@ class TCustomComboBox : public TWinControl {
   class TView;
 
   TView* View() const;
+  bool PaintLine(QPainter& painter, const QRect& rect, int index, TOwnerDrawState state);
+  int HeightOfLine(int index);
   QLineEdit* Line() const;
   void Select(int start, int length);
   void LinesChanged();
@@ -145,6 +157,7 @@ class TCustomComboBox : public TWinControl {
   void TypeCharacter(QChar character);
 
   std::unique_ptr<TLines> FLines;
+  std::unique_ptr<TCanvas> FCanvas;
   int FItemIndex = -1;
   /// What the form that is being loaded says, or -1.
   int FLoadedIndex = -1;

@@ -54,9 +54,11 @@ const TClassInfo* TComboBox::Class() {
     builder.Property<&TControl::OnContextPopup>("OnContextPopup");
     builder.Property<&TControl::OnDblClick>("OnDblClick");
     Publish::DragEvents(builder);
+    builder.Property<&T::OnDrawItem>("OnDrawItem");
     builder.Property<&T::OnDropDown>("OnDropDown");
     Publish::FocusEvents(builder);
     Publish::KeyEvents(builder);
+    builder.Property<&T::OnMeasureItem>("OnMeasureItem");
     builder.Property<&TControl::OnMouseEnter>("OnMouseEnter");
     builder.Property<&TControl::OnMouseLeave>("OnMouseLeave");
     builder.Property<&T::OnSelect>("OnSelect");

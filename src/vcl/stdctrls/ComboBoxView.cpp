@@ -37,7 +37,9 @@ void TCustomComboBox::TLines::Changed() {
 
 QVariant TCustomComboBox::TModel::data(const QModelIndex& index, int role) const {
   const bool isText = role == Qt::DisplayRole || role == Qt::EditRole;
-  if (!isText || !FBox || index.row() < 0 || index.row() >= FBox->GetItemCount()) return {};
+  const bool isSize = role == Qt::SizeHintRole && FBox && FBox->IsOwnerDraw();
+  if (!(isText || isSize) || !FBox || index.row() < 0 || index.row() >= FBox->GetItemCount()) return {};
+  if (isSize) return QSize(1, FBox->HeightOfLine(index.row()));
   return FBox->GetItems().GetStrings(index.row());
 }
 

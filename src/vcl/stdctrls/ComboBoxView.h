@@ -52,6 +52,7 @@ class TCustomComboBox::TView : public QComboBox, public TControlBody {
 
   TModel& Model() { return FModel; }
   void SetEditable(bool value);
+  void SetOwnerDrawn(bool value);
   bool IsOpen() const { return FIsOpen; }
 
   bool event(QEvent* event) override;
@@ -59,6 +60,7 @@ class TCustomComboBox::TView : public QComboBox, public TControlBody {
   void showPopup() override;
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   bool focusNextPrevChild(bool next) override {
     return MoveFocusPastOwner(next) || QComboBox::focusNextPrevChild(next);
   }

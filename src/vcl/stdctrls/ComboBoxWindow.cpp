@@ -64,6 +64,7 @@ void TCustomComboBox::ShowStyle() {
   if (!view) return;
   const bool outer = std::exchange(FIsShowing, true);
   view->SetEditable(IsEditable());
+  view->SetOwnerDrawn(IsOwnerDraw());
   FIsShowing = outer;
   UpdateCompleter();
   UpdateLook();

@@ -1,9 +1,7 @@
 #include "kt/vcl/stdctrls/ListBox.h"
 
-#include "kt/rtl/conversions/Format.h"
-#include "kt/rtl/objects/Exceptions.h"
+#include "kt/rtl/objects/LifeWatch.h"
 #include "kt/rtl/objects/Make.h"
-#include "kt/rtl/objects/Messages.h"
 #include "kt/vcl/graphics/QtColor.h"
 #include "kt/vcl/graphics/RealFont.h"
 #include "kt/vcl/stdctrls/ListBoxView.h"
@@ -43,9 +41,11 @@ void TCustomListBox::SetItems(TStrings& value) { FLines->Assign(&value); }
 
 void TCustomListBox::LineInserted(int index) {
   if (FItemIndex >= index) ++FItemIndex;
+  if (FMultiSelect && index <= static_cast<int>(FSelected.size())) FSelected.insert(FSelected.begin() + index, false);
 }
 
 void TCustomListBox::LineDeleted(int index) {
+  if (FMultiSelect && index < static_cast<int>(FSelected.size())) FSelected.erase(FSelected.begin() + index);
   if (FItemIndex == index) {
     FItemIndex = -1;
   } else if (FItemIndex > index) {
@@ -55,6 +55,8 @@ void TCustomListBox::LineDeleted(int index) {
 
 void TCustomListBox::LinesChanged() {
   FItemIndex = std::min(FItemIndex, GetCount() - 1);
+  FAnchorIndex = std::min(FAnchorIndex, GetCount() - 1);
+  if (FMultiSelect) FSelected.resize(GetCount());
   FTopIndex = std::clamp(FTopIndex, 0, std::max(GetCount() - 1, 0));
   TView* view = View();
   if (!view) return;
@@ -77,41 +79,28 @@ void TCustomListBox::SetSorted(bool value) {
 
 // The selection.
 
-void TCustomListBox::SetItemIndex(int value) {
-  FItemIndex = value >= 0 && value < GetCount() ? value : -1;
-  SelectInView();
-}
-
-void TCustomListBox::SetSelected(int index, bool value) {
-  if (index < 0 || index >= GetCount()) throw EListError(Format(SListIndexError, {index}));
-  if (value) {
-    SetItemIndex(index);
-  } else if (index == FItemIndex) {
-    SetItemIndex(-1);
-  }
-}
-
-void TCustomListBox::DeleteSelected() {
-  if (FItemIndex >= 0) FLines->Delete(FItemIndex);
-}
-
 int TCustomListBox::SelectPrefix(const QString& text) {
-  for (int i = 0; i < GetCount(); ++i) {
-    if (!FLines->GetStrings(i).startsWith(text, Qt::CaseInsensitive)) continue;
-    SetItemIndex(i);
-    return i;
+  int found = -1;
+  if (IsVirtual()) OnDataFind(this, text, found);
+  for (int i = 0; !IsVirtual() && found < 0 && i < GetCount(); ++i) {
+    if (FLines->GetStrings(i).startsWith(text, Qt::CaseInsensitive)) found = i;
   }
-  return -1;
+  if (!IsLine(found)) return -1;
+  SetItemIndex(found);
+  return found;
 }
 
 // Sizes.
 
 int TCustomListBox::GetItemHeight() const {
-  return HandleAllocated() ? TRealFont::Of(const_cast<TCustomListBox*>(this)->GetFont())->Height() : FItemHeight;
+  return HandleAllocated() && !IsOwnerDraw() ? TRealFont::Of(const_cast<TCustomListBox*>(this)->GetFont())->Height()
+                                             : FItemHeight;
 }
 
 void TCustomListBox::SetItemHeight(int value) {
-  if (value > 0) FItemHeight = value;
+  if (value <= 0 || FItemHeight == value) return;
+  FItemHeight = value;
+  if (IsOwnerDraw()) UpdateLayout();
 }
 
 void TCustomListBox::SetIntegralHeight(bool value) {
@@ -121,13 +110,17 @@ void TCustomListBox::SetIntegralHeight(bool value) {
 }
 
 void TCustomListBox::FitHeight() {
-  if (!FIntegralHeight || !HandleAllocated() || GetAlign() != alNone) return;
+  if (!FIntegralHeight || FStyle == lbOwnerDrawVariable || !HandleAllocated() || GetAlign() != alNone) return;
   const int rest = GetClientHeight() % GetItemHeight();
   if (rest > 0 && GetClientHeight() > rest) SetHeight(GetHeight() - rest);
 }
 
 void TCustomListBox::Resize() {
+  const TLifeWatch self(this);
   FitHeight();
+  if (!self.IsAlive()) return;
+  // Columns are as wide as there is room for them.
+  if (FColumns > 0) LinesChanged();
   TWinControl::Resize();
 }
 
@@ -143,7 +136,10 @@ QMargins TCustomListBox::GetClientMargins() const {
   return {border, border, border, border};
 }
 
-int TCustomListBox::LinesInView() const { return std::max(GetClientHeight() / GetItemHeight(), 1); }
+int TCustomListBox::LinesInView() const {
+  if (FStyle == lbOwnerDrawVariable && View()) return View()->LinesBelow(GetTopIndex());
+  return std::max(GetClientHeight() / GetItemHeight(), 1) * std::max(FColumns, 1);
+}
 
 int TCustomListBox::GetTopIndex() const {
   const TView* view = View();
@@ -157,19 +153,24 @@ void TCustomListBox::SetTopIndex(int value) {
 
 int TCustomListBox::ItemAtPos(QPoint point, bool existing) const {
   if (!GetClientRect().contains(point)) return -1;
+  if (IsLaidOut()) {
+    const int laid = View()->LineAt(point);
+    return laid >= 0 || existing ? laid : GetCount();
+  }
   const int index = GetTopIndex() + point.y() / GetItemHeight();
   if (index < GetCount()) return index;
   return existing ? -1 : GetCount();
 }
 
 QRect TCustomListBox::ItemRect(int index) const {
+  if (IsLaidOut()) return View()->RectOf(index);
   return {0, (index - GetTopIndex()) * GetItemHeight(), GetClientWidth(), GetItemHeight()};
 }
 
 int TCustomListBox::LongestLineWidth() const {
   const QFontMetrics& metrics = TRealFont::Of(const_cast<TCustomListBox*>(this)->GetFont())->Metrics();
   int width = 0;
-  for (int i = 0; i < GetCount(); ++i) width = std::max(width, metrics.horizontalAdvance(FLines->GetStrings(i)));
+  for (int i = 0; i < GetCount(); ++i) width = std::max(width, metrics.horizontalAdvance(GetLine(i)));
   return width + 2 * kTextMargin;
 }
 

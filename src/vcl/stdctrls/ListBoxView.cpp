@@ -33,6 +33,7 @@ void TCustomListBox::TLines::Delete(int index) {
 
 void TCustomListBox::TLines::Clear() {
   FBox.FItemIndex = -1;
+  FBox.FSelected.clear();
   TStringList::Clear();
 }
 
@@ -45,9 +46,16 @@ void TCustomListBox::TLines::Changed() {
 
 QVariant TCustomListBox::TModel::data(const QModelIndex& index, int role) const {
   if (!FBox || index.row() >= FBox->GetCount()) return {};
-  if (role == Qt::DisplayRole) return FBox->GetItems().GetStrings(index.row());
-  if (role == Qt::SizeHintRole) return QSize(1, FBox->GetItemHeight());
-  return {};
+  if (role == Qt::DisplayRole) {
+    // A handler may free the list box.
+    const TControlBody::TInEvent running;
+    QString text;
+    GuardedCall([&] { text = FBox->GetLine(index.row()); });
+    return text;
+  }
+  if (role != Qt::SizeHintRole) return {};
+  const int width = FBox->FColumns > 0 ? FBox->GetClientWidth() / FBox->FColumns : FBox->FScrollWidth;
+  return QSize(std::max(width, 1), FBox->HeightOfLine(index.row()));
 }
 
 void TCustomListBox::TModel::Reset() {
@@ -73,7 +81,13 @@ TCustomListBox::TView::TView(TCustomListBox& box, QWidget* parent)
   setTextElideMode(Qt::ElideNone);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollMode(ScrollPerItem);
+  setResizeMode(Adjust);
   TCustomListBox* const control = &box;
+  const auto draw = [this, control](QPainter& painter, const QRect& rect, int index, TOwnerDrawState state) {
+    // Nothing is left to draw when it has gone.
+    return !Control() || control->PaintLine(painter, rect, index, state);
+  };
+  setItemDelegate(new TOwnerDrawDelegate(this, draw));
   connect(selectionModel(), &QItemSelectionModel::currentChanged, this, [this, control](const QModelIndex& current) {
     if (Control()) GuardedCall([&] { control->SelectedInView(current.row()); });
   });
@@ -86,6 +100,10 @@ QMargins TCustomListBox::TView::Margins() const {
   const bool hasBar = bar->isVisibleTo(this) && bar->parentWidget()->isVisibleTo(this);
   if (hasBar && isRightToLeft()) margins.setLeft(border + bar->width());
   if (hasBar && !isRightToLeft()) margins.setRight(border + bar->width());
+  const QScrollBar* across = horizontalScrollBar();
+  if (across->isVisibleTo(this) && across->parentWidget()->isVisibleTo(this)) {
+    margins.setBottom(border + across->height());
+  }
   return margins;
 }
 
@@ -99,12 +117,53 @@ void TCustomListBox::TView::SetBordered(bool value) {
 int TCustomListBox::TView::GetTop() const {
   // Asking for a place has the view lay out what it has put off.
   visualRect(FModel.index(0));
+  if (isWrapping()) return horizontalScrollBar()->value() * LinesInColumn();
   return verticalScrollBar()->value();
 }
 
 void TCustomListBox::TView::SetTop(int row) {
   visualRect(FModel.index(0));
+  if (isWrapping()) return horizontalScrollBar()->setValue(row / LinesInColumn());
   verticalScrollBar()->setValue(row);
+}
+
+int TCustomListBox::TView::LinesInColumn() const {
+  const int height = FModel.rowCount() > 0 ? visualRect(FModel.index(0)).height() : 0;
+  return std::max(height > 0 ? viewport()->height() / height : 1, 1);
+}
+
+void TCustomListBox::TView::SetLayout(int columns, int scrollWidth, bool isUniform) {
+  const bool isWide = columns > 0 || scrollWidth > 0;
+  setUniformItemSizes(isUniform);
+  setWrapping(columns > 0);
+  setHorizontalScrollMode(columns > 0 ? ScrollPerItem : ScrollPerPixel);
+  setHorizontalScrollBarPolicy(isWide ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+  setVerticalScrollBarPolicy(columns > 0 ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+}
+
+/// One range for each run of lines, however many there are.
+void TCustomListBox::TView::ShowSelection(const std::vector<bool>& selected, int current) {
+  QItemSelection ranges;
+  const auto count = static_cast<int>(selected.size());
+  for (int first = 0; first < count; ++first) {
+    if (!selected[first]) continue;
+    int last = first;
+    while (last + 1 < count && selected[last + 1]) ++last;
+    ranges.select(FModel.index(first), FModel.index(last));
+    first = last;
+  }
+  selectionModel()->setCurrentIndex(FModel.index(current), QItemSelectionModel::NoUpdate);
+  selectionModel()->select(ranges, QItemSelectionModel::ClearAndSelect);
+}
+
+int TCustomListBox::TView::LinesBelow(int row) const {
+  int height = viewport()->height();
+  int lines = 0;
+  for (; row < FModel.rowCount(); ++row, ++lines) {
+    height -= visualRect(FModel.index(row)).height();
+    if (height < 0) break;
+  }
+  return std::max(lines, 1);
 }
 
 bool TCustomListBox::TView::event(QEvent* event) {

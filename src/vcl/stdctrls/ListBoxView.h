@@ -7,6 +7,8 @@
 #include <QAbstractListModel>
 #include <QListView>
 
+#include <vector>
+
 namespace kt {
 
 /// The lines of a list box, which tell it of their changes.
@@ -57,6 +59,13 @@ class TCustomListBox::TView : public QListView, public TControlBody {
   void SetBordered(bool value);
   int GetTop() const;
   void SetTop(int row);
+  void SetLayout(int columns, int scrollWidth, bool isUniform);
+  void ShowSelection(const std::vector<bool>& selected, int current);
+  /// In the client area; -1 for no line.
+  int LineAt(QPoint point) const { return indexAt(point).row(); }
+  QRect RectOf(int row) const { return visualRect(FModel.index(row)); }
+  /// How many lines there is room for from one on; at least one.
+  int LinesBelow(int row) const;
 
  protected:
   bool viewportEvent(QEvent* event) override;
@@ -67,6 +76,8 @@ class TCustomListBox::TView : public QListView, public TControlBody {
   }
 
  private:
+  int LinesInColumn() const;
+
   TModel FModel;
 };
 

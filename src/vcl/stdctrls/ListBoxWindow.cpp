@@ -20,8 +20,11 @@ void TCustomListBox::CreateWnd() {
   // Between the border of the style and the lines there may be a pixel that nobody paints.
   Window()->setAttribute(Qt::WA_OpaquePaintEvent, false);
   UpdateLook();
+  View()->SetLayout(FColumns, FScrollWidth, FStyle != lbOwnerDrawVariable);
   // Lines have another height from now on.
+  const TLifeWatch self(this);
   View()->Model().Reset();
+  if (!self.IsAlive() || !View()) return;
   View()->SetTop(FTopIndex);
   SelectInView();
   FitHeight();
@@ -73,69 +76,45 @@ void TCustomListBox::CMColorChanged(TMessage& message) {
   UpdateLook();
 }
 
-// The selection.
-
-void TCustomListBox::SelectInView() {
-  TView* view = View();
-  if (!view) return;
-  const bool outer = std::exchange(FIsSelecting, true);
-  if (FItemIndex < 0) {
-    view->selectionModel()->clear();
-  } else {
-    view->selectionModel()->setCurrentIndex(view->Model().index(FItemIndex), QItemSelectionModel::ClearAndSelect);
-  }
-  FIsSelecting = outer;
-  ShowSelected();
-}
-
-void TCustomListBox::ShowSelected() {
-  TView* view = View();
-  if (view && FItemIndex >= 0) view->scrollTo(view->Model().index(FItemIndex));
-}
-
-/// The view has selected by itself: it searches for what is typed.
-void TCustomListBox::SelectedInView(int index) {
-  if (FIsSelecting || index == FItemIndex) return;
-  FItemIndex = index;
-  Click();
-}
-
-void TCustomListBox::SelectByUser(int index) {
-  index = std::clamp(index, 0, GetCount() - 1);
-  if (index == FItemIndex) return;
-  SetItemIndex(index);
-  Click();
-}
-
 // Keys.
 
 bool TCustomListBox::WantsKey(quint16 key) { return (key >= VK_LEFT && key <= VK_DOWN) || TWinControl::WantsKey(key); }
 
-bool TCustomListBox::MoveByKey(quint16 key) {
+bool TCustomListBox::MoveByKey(quint16 key, TShiftState shift) {
   if (GetCount() == 0) return false;
+  const int aside = FColumns > 0 ? std::max(LinesInView() / FColumns, 1) : 1;
   switch (key) {
     case VK_UP:
+      return SelectByUser(FItemIndex - 1, shift), true;
     case VK_LEFT:
-      return SelectByUser(FItemIndex - 1), true;
+      return SelectByUser(FItemIndex - aside, shift), true;
     case VK_DOWN:
+      return SelectByUser(FItemIndex + 1, shift), true;
     case VK_RIGHT:
-      return SelectByUser(FItemIndex + 1), true;
+      return SelectByUser(FItemIndex + aside, shift), true;
     case VK_PRIOR:
-      return SelectByUser(FItemIndex - LinesInView() + 1 - (LinesInView() == 1)), true;
+      return SelectByUser(FItemIndex - LinesInView() + 1 - (LinesInView() == 1), shift), true;
     case VK_NEXT:
-      return SelectByUser(FItemIndex + LinesInView() - 1 + (LinesInView() == 1)), true;
+      return SelectByUser(FItemIndex + LinesInView() - 1 + (LinesInView() == 1), shift), true;
     case VK_HOME:
-      return SelectByUser(0), true;
+      return SelectByUser(0, shift), true;
     case VK_END:
-      return SelectByUser(GetCount() - 1), true;
+      return SelectByUser(GetCount() - 1, shift), true;
+    case VK_SPACE:
+      if (!FMultiSelect || !IsLine(FItemIndex)) return false;
+      TurnLine(FItemIndex);
+      return Click(), true;
     default:
       return false;
   }
 }
 
 void TCustomListBox::DefaultHandler(TMessage& message) {
-  if (message.Msg == WM_KEYDOWN && MoveByKey(static_cast<quint16>(message.WParam))) return;
+  const auto shift = TShiftState::FromBits(static_cast<quint32>(message.LParam));
+  if (message.Msg == WM_KEYDOWN && MoveByKey(static_cast<quint16>(message.WParam), shift)) return;
   const QChar character(static_cast<char16_t>(message.WParam));
+  // The space bar has turned a line on or off.
+  if (message.Msg == WM_CHAR && FMultiSelect && character == u' ') return;
   if (message.Msg == WM_CHAR && FAutoComplete && character.isPrint() && View()) {
     // Finds the next line that begins so.
     View()->keyboardSearch(QString(character));
@@ -164,7 +143,7 @@ void TCustomListBox::HandleMouse(const TMessage& message) {
     case WM_LBUTTONDBLCLK:
       if (ItemAtPos(point, true) < 0) return;
       FIsTracking = true;
-      SetItemIndex(ItemAtPos(point, true));
+      PressLine(ItemAtPos(point, true), TShiftState::FromBits(static_cast<quint32>(message.WParam)));
       return SetMouseCapture(true);
     case WM_MOUSEMOVE:
       if (FIsTracking) FollowMouse(point);
@@ -179,12 +158,14 @@ void TCustomListBox::HandleMouse(const TMessage& message) {
 /// Selects what the pointer is over, or the line beyond the end that it is past.
 void TCustomListBox::FollowMouse(QPoint point) {
   if (GetCount() == 0) return;
+  const int at = IsLaidOut() ? ItemAtPos(point, true) : -1;
+  if (IsLaidOut() && at < 0) return;
   const int top = GetTopIndex();
   const int last = top + LinesInView() - 1;
   int index = point.y() < 0 ? top - 1 : top + point.y() / GetItemHeight();
   if (point.y() >= GetClientHeight()) index = last + 1;
-  index = std::clamp(index, 0, GetCount() - 1);
-  if (index != FItemIndex) SetItemIndex(index);
+  index = std::clamp(at >= 0 ? at : index, 0, GetCount() - 1);
+  if (index != FItemIndex) FollowTo(index);
 }
 
 void TCustomListBox::WMCancelMode(TMessage& message) {

@@ -34,9 +34,10 @@ const TClassInfo* TRadioButton::Class() {
     Publish::PopupMenu(builder);
     Publish::ShowHint(builder);
     Publish::TabOrder(builder);
-    // It goes along with Checked, so there is no usual value.
-    builder.Property<&TWinControl::IsTabStop, &TWinControl::SetTabStop>("TabStop");
+    builder.Property<&TWinControl::IsTabStop, &TWinControl::SetTabStop>("TabStop").Stored(
+        &TRadioButton::IsTabStopStored);
     Publish::Visible(builder);
+    builder.Property<&TButtonControl::IsWordWrap, &TButtonControl::SetWordWrap>("WordWrap").Default(false);
     builder.Property<&TControl::OnClick>("OnClick").Stored(&TControl::IsOnClickStored);
     builder.Property<&TControl::OnDblClick>("OnDblClick");
     builder.Property<&TControl::OnContextPopup>("OnContextPopup");

@@ -16,6 +16,8 @@ class TRadioButton : public TButtonControl {
   bool IsChecked() const { return FChecked; }
   /// Takes the sign from the others. Getting it is a click, whoever does it; TabStop goes along.
   void SetChecked(bool value);
+  /// One that is checked says it either way.
+  bool IsTabStopStored() const { return IsTabStop() || FChecked; }
 
   void DefaultHandler(TMessage& message) override;
 

@@ -63,13 +63,6 @@ TEST_F(ControlDefinedTest, NothingIsSaidOfAFormThatSaidNothing) {
   EXPECT_THAT(Written(), Not(HasSubstr("DesignSize")));
 }
 
-TEST_F(ControlDefinedTest, ADesignerThatMovesAControlForgetsWhereItWas) {
-  Read();
-  FForm->SetDesigning(true);
-  Panel().SetLeft(40);
-  EXPECT_THAT(Written(), Not(HasSubstr("Explicit")));
-}
-
 TEST_F(ControlDefinedTest, TheDesignSizeFollowsTheFormInADesigner) {
   Read();
   FForm->SetDesigning(true);

@@ -206,6 +206,24 @@ TEST_F(ScrollingTest, ARangeThatIsSetEndsAutoScroll) {
   EXPECT_EQ(Bar(Qt::Vertical), nullptr);
 }
 
+TEST_F(ScrollingTest, InADesignerAlignedControlsStayAsTheFormSays) {
+  class TDesignedScroller : public TForm {
+   public:
+    using TComponent::SetDesigning;
+  };
+  const auto form = Make<TDesignedScroller>();
+  form->SetDesigning(true);
+  form->SetClientWidth(200);
+  auto* const aligned = New<TPanel>(form.get());
+  auto* const free = New<TPanel>(form.get());
+  aligned->SetParent(form.get());
+  aligned->SetAlign(alTop);
+  free->SetParent(form.get());
+  free->SetBounds(900, 60, 50, 20);
+  EXPECT_EQ(aligned->GetWidth(), 200);
+  EXPECT_EQ(form->GetHorzScrollBar().GetRange(), 0);
+}
+
 TEST_F(ScrollingTest, FromRightToLeftTheBarIsOnTheLeft) {
   Show();
   Child.SetTop(150);

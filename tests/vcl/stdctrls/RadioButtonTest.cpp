@@ -1,5 +1,6 @@
 #include "kt/vcl/stdctrls/CheckBox.h"
 #include "kt/vcl/stdctrls/RadioButton.h"
+#include "support/FormText.h"
 #include "vcl/stdctrls/ButtonFixture.h"
 
 namespace kt::tests {
@@ -126,6 +127,16 @@ TEST_F(RadioButtonTest, TheFormMayGoAsAnArrowLeadsOn) {
   FRadios[1]->OnClick = [this](TObject*) { FForm.reset(); };
   QTest::keyPress(FRadios[0]->GetHandle(), Qt::Key_Down);
   EXPECT_EQ(nullptr, FForm);
+}
+
+TEST_F(RadioButtonTest, OnlyOneThatIsCheckedSaysWhetherItIsATabStop) {
+  AddThree();
+  FRadios[0]->SetChecked(true);
+  const auto says = [](TRadioButton* radio) { return TextOf(radio).find("TabStop") != std::string::npos; };
+  EXPECT_TRUE(says(FRadios[0]));
+  EXPECT_FALSE(says(FRadios[1]));
+  FRadios[0]->SetTabStop(false);
+  EXPECT_TRUE(says(FRadios[0]));
 }
 
 }  // namespace

@@ -32,8 +32,8 @@ TEST_F(ComboBoxTest, PublishesWhatFormsSayOfIt) {
       "Enabled=True Font ItemHeight Items ItemIndex=-1 MaxLength=0 ImeMode=imDontCare ImeName ParentBiDiMode=True "
       "ParentColor=False ParentFont=True ParentShowHint=True PopupMenu ShowHint Sorted=False TabOrder=-1 "
       "TabStop=True Text Visible=True OnChange OnClick OnCloseUp OnContextPopup OnDblClick OnDragDrop OnDragOver "
-      "OnEndDrag OnStartDrag OnDropDown OnEnter OnExit OnKeyDown OnKeyPress OnKeyUp OnMouseEnter OnMouseLeave "
-      "OnSelect",
+      "OnEndDrag OnStartDrag OnDrawItem OnDropDown OnEnter OnExit OnKeyDown OnKeyPress OnKeyUp "
+      "OnMeasureItem OnMouseEnter OnMouseLeave OnSelect",
       PublishedBy(TComboBox::Class()));
 }
 
