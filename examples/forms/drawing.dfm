@@ -16,15 +16,6 @@ object DrawingForm: TDrawingForm
   OnCreate = FormCreate
   PixelsPerInch = 96
   TextHeight = 14
-  object Canvas: TPaintBox
-    Left = 16
-    Top = 16
-    Width = 257
-    Height = 177
-    Color = clWhite
-    ParentColor = False
-    OnPaint = CanvasPaint
-  end
   object Frame: TShape
     Left = 16
     Top = 208
@@ -145,6 +136,22 @@ object DrawingForm: TDrawingForm
         Actions = [pftEditStyle]
       end>
     TabOrder = 2
+  end
+  object View: TScrollBox
+    Left = 16
+    Top = 16
+    Width = 257
+    Height = 177
+    TabOrder = 3
+    object Canvas: TPaintBox
+      Left = 0
+      Top = 0
+      Width = 640
+      Height = 480
+      Color = clWhite
+      ParentColor = False
+      OnPaint = CanvasPaint
+    end
   end
   object ShapeMenu: TMainMenu
     Images = Icons
