@@ -1,6 +1,6 @@
 #include "common/Startup.h"
 
-#include "itemlist/Looks.h"
+#include "common/Looks.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -1,9 +1,9 @@
 // A form designer: opens form files, shows them alive, and edits them with the object inspector. Without a display it
 // draws its window into a picture and prints the form.
+#include "common/Looks.h"
 #include "designer/session/Session.h"
 #include "designer/window/MainWindow.h"
 #include "designer/window/ShippedForms.h"
-#include "itemlist/Looks.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
