@@ -1,5 +1,6 @@
 // Handlers that free the editor in the middle of what it does.
 #include "KTItemListEditor/ItemScenarios.h"
+#include "kt/rtl/objects/LifeWatch.h"
 
 namespace kt::tests {
 namespace {
@@ -19,10 +20,18 @@ const TItemScenario SingleSteps[] = {
     {"InsertItem", [](TKTItemListEditor& editor) { editor.InsertItem("n", "1", false); }},
     {"DeleteItem", [](TKTItemListEditor& editor) { editor.DeleteItem(1, editor.GetRow()); }},
     {"Options", [](TKTItemListEditor& editor) { editor.SetOptions(editor.GetOptions() - TGridOptions{goEditing}); }},
-    {"Font", [](TKTItemListEditor& editor) { editor.GetFont().SetHeight(-30); }},
-    {"ValueFont", [](TKTItemListEditor& editor) { editor.GetValueFont().SetHeight(-30); }},
-    {"CategoryFont", [](TKTItemListEditor& editor) { editor.GetCategoryFont().SetHeight(-30); }},
-    {"BorderStyle", [](TKTItemListEditor& editor) { editor.SetBorderStyle(bsNone); }},
+    {"Font",
+     [](TKTItemListEditor& editor) {
+       const TLifeWatch life(&editor);
+       editor.GetSelected()->GetFont().SetColor(clRed);
+       if (life.IsAlive()) editor.GetFont().SetHeight(-30);
+     }},
+    {"ValueFont",
+     [](TKTItemListEditor& editor) {
+       const TLifeWatch life(&editor);
+       editor.GetSelected()->GetValueFont().SetColor(clRed);
+       if (life.IsAlive()) editor.GetValueFont().SetHeight(-30);
+     }},
     {"EditorMode", [](TKTItemListEditor& editor) { editor.SetEditorMode(false); }},
 };
 

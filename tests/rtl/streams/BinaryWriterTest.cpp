@@ -1,4 +1,5 @@
 #include "kt/rtl/streams/BinaryWriter.h"
+#include "kt/rtl/streams/FormErrors.h"
 #include "support/FormTesting.h"
 
 #include <QBuffer>
@@ -120,14 +121,16 @@ TEST(BinaryWriterTest, ANameOf255BytesFits) {
 
 TEST(BinaryWriterTest, ALongerNameIsRefusedByName) {
   const QString name(256, u'x');
-  EXPECT_EQ(QStringLiteral("EWriteError: The name '%1' is too long to be stored at offset 2").arg(name), ErrorOf([&] {
+  EXPECT_EQ(QStringLiteral("EWriteError: The name '%1' is too long to be stored at offset 2").arg(ShownName(name)),
+            ErrorOf([&] {
               WrittenHeader({{}, u"T", name});
             }));
 }
 
 TEST(BinaryWriterTest, ALongerClassNameIsRefusedByName) {
   const QString name(128, u'\u00e9');
-  EXPECT_EQ(QStringLiteral("EWriteError: The name '%1' is too long to be stored at offset 1").arg(name), ErrorOf([&] {
+  EXPECT_EQ(QStringLiteral("EWriteError: The name '%1' is too long to be stored at offset 1").arg(ShownName(name)),
+            ErrorOf([&] {
               WrittenHeader({{}, name, u"A"});
             }));
 }

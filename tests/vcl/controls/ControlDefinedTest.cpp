@@ -21,7 +21,7 @@ class TDrawnForm : public TForm {
   using TComponent::SetDesigning;
 };
 
-constexpr char kForm[] = R"(object Form1: TForm
+constexpr char kFormWithDefinedValues[] = R"(object Form1: TForm
   ClientHeight = 100
   ClientWidth = 200
   DesignSize = (
@@ -42,7 +42,7 @@ end
 class ControlDefinedTest : public testing::Test {
  protected:
   ControlDefinedTest() { RegisterVisualPlatform(); }
-  void Read() { ReadFormText(*FForm, kForm); }
+  void Read() { ReadFormText(*FForm, kFormWithDefinedValues); }
   TPanel& Panel() { return *dynamic_cast<TPanel*>(FForm->FindComponent(QStringLiteral("Panel1"))); }
   std::string Written() { return tests::TextOf(FForm.get()); }
 

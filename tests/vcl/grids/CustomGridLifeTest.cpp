@@ -97,19 +97,6 @@ TEST_F(CustomGridLifeTest, OnKeyPressMayFreeTheGridBelowItsEditor) {
   EXPECT_EQ(FGrid, nullptr);
 }
 
-TEST_F(CustomGridLifeTest, OnSetEditTextMayFreeTheGridWhoseMaskFillsFromTheRight) {
-  FGrid->SetOptions(FGrid->GetOptions() + TGridOptions{goEditing});
-  FGrid->OnGetEditMask = [](TObject*, int, int, QString& mask) { mask = QStringLiteral("!9999;1;_"); };
-  TWindowProbe::Key(Qt::Key_F2);
-  TWindowProbe::Key(Qt::Key_7);
-  int calls = 0;
-  FGrid->OnSetEditText = [&](TObject*, int, int, const QString&) {
-    if (calls++ == 0) FGrid.reset();
-  };
-  TWindowProbe::Key(Qt::Key_Down);
-  EXPECT_EQ(FGrid, nullptr);
-}
-
 /// What brings or takes a scroll bar, and so raises OnResize.
 struct TBarChange {
   const char* Name;

@@ -66,6 +66,17 @@ TEST_F(MaskEditLeavingTest, TabDoesNotLeaveAnIncompleteText) {
   EXPECT_EQ(Log(), "Invalid input value.  Use escape key to abandon changes");
 }
 
+TEST_F(MaskEditLeavingTest, OnChangeMayFreeALineWhoseTextMovesToTheRightAsItIsLeft) {
+  Edit.SetEditMask(QStringLiteral("!9999;1;_"));
+  Edit.SetText({});
+  Edit.SetSelStart(0);
+  TWindowProbe::Type(QStringLiteral("7"));
+  ASSERT_TRUE(Edit.IsModified());
+  Edit.OnChange = [this](TObject*) { FEdit.reset(); };
+  FButton->setFocus();
+  EXPECT_EQ(FEdit, nullptr);
+}
+
 TEST_F(MaskEditLeavingTest, AfterEscapeItMayBeLeft) {
   TWindowProbe::Key(Qt::Key_Delete);
   TWindowProbe::Key(Qt::Key_Escape);
