@@ -12,16 +12,14 @@ folder=$root/build/sources
 work=$folder/parsed
 mkdir -p "$work"
 
-# Each file once, with the command that compiles it (the headers have a check of their own). CMake writes one key a line,
-# and the path of the file comes last in a command.
+# Each file once, with the command that compiles it (the headers have a check of their own, and what CMake generates is no
+# source). CMake writes one key a line, and the path of the file comes last in a command.
 sed -nE 's|^  "command": "(.*)",$|\1|p' "$folder/compile_commands.json" | sed -E 's/\\(.)/\1/g' |
-  grep -vF " $folder/headers/" | awk '!seen[$NF]++' >"$work/commands"
+  grep -vE " $folder/(headers/|.*_autogen/)|cmake_pch\.hxx(\.cxx)?$" | awk '!seen[$NF]++' >"$work/commands"
 awk '{ print $NF }' "$work/commands" | sed "s|^$root/||" | sort >"$work/files"
 
 # What other configurations compile: somebody else's project, and what the runtime alone has instead of what is here.
 elsewhere='^(tests/consumer/|tests/tools/ktform/rtlonly/|tools/ktform/RtlFormClasses\.cpp$)'
-# What CMake generates for a target is no source.
-sed -i -E "/_autogen\//d" "$work/files"
 diff <(git ls-files --cached --others --exclude-standard '*.cpp' | grep -vE "$elsewhere" | sort) "$work/files" ||
   die "the files that are compiled (>) are not those of the source tree (<)"
 
