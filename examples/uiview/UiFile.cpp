@@ -50,7 +50,7 @@ QByteArray ContentOf(const QString& fileName) {
   if (!file.open(QIODevice::ReadOnly)) {
     throw EUiFile(QStringLiteral("Cannot read %1: %2").arg(fileName, file.errorString()));
   }
-  const QByteArray content = file.readAll();
+  QByteArray content = file.readAll();
   if (file.error() != QFileDevice::NoError) {
     throw EUiFile(QStringLiteral("Cannot read %1: %2").arg(fileName, file.errorString()));
   }

@@ -119,7 +119,7 @@ QString TQObjectComponent::FreeNameFor(const QString& wanted) const {
   if (!namesake || namesake == this) return wanted;
   const QString stem = wanted + u'_';
   // The one that it has is as good as any.
-  const QString present = GetName();
+  QString present = GetName();
   bool isNumbered = false;
   if (present.startsWith(stem)) present.mid(stem.size()).toUInt(&isNumbered);
   if (isNumbered) return present;

@@ -24,7 +24,7 @@ QString LabelOf(const QObject& object) {
 class TLabels {
  public:
   QString For(const QObject& object) {
-    const QString label = LabelOf(object);
+    QString label = LabelOf(object);
     const int number = ++FCounts[label];
     if (number == 1) return label;
     QString text = QStringLiteral("%1 #%2").arg(label).arg(number);

@@ -131,7 +131,7 @@ QString TFormDocument::CopyText(const std::vector<kt::TComponent*>& components) 
 std::vector<kt::TComponent*> TFormDocument::Paste(const QString& text, kt::TComponent* parent, kt::TComponent* origin) {
   const THolders holders(FForm.get(), parent, origin);
   kt::TComponent* target = TakesControls(parent);
-  const std::vector<kt::TComponent*> pasted = PasteComponents(
+  std::vector<kt::TComponent*> pasted = PasteComponents(
       FForm.get(), target, text,
       [this](const QString& className, const QStringList& others) { return NewNameBeside(className, others); });
   try {
