@@ -106,12 +106,7 @@ void TInspectPanel::SetHidden(bool value) {
 
 void TInspectPanel::ResetSelected() {
   TKTItemProperty* item = FInspector->GetSelected();
-  // The whole property, if the row is about a part of it.
-  while (item && item->GetParent() && !item->GetParent()->GetCategory()) item = item->GetParent();
-  if (!item || item->GetCategory()) return;
-  const QString name = item->GetRealPropName();
-  for (QObject* object : FSelection.Objects()) ResetProperty(ComponentOf(object), name);
-  FInspector->InvalidateProperty(-1);
+  if (item && FInspector->CanResetProperty(*item)) FInspector->ResetProperty(*item);
 }
 
 // What is inspected.

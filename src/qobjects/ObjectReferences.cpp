@@ -35,10 +35,14 @@ TTarget ReadTarget(TValueHolder& holder, const TValueMember& member) {
   if (!watch.IsAlive() || !IsReference(value.metaType())) return {};
   TTarget target;
   target.Object = *static_cast<QObject* const*>(value.constData());
-  if (!target.Object) return target;
+  if (!target.Object) {
+    holder.References().Forget(member);
+    return target;
+  }
   target.IsGone = holder.References().IsGone(member, target.Object);
-  target.IsElsewhere = !target.IsGone && target.Object->thread() != QThread::currentThread();
-  if (target.IsUsable()) holder.References().Follow(member, *target.Object);
+  if (target.IsGone) return target;
+  holder.References().Follow(member, *target.Object);
+  target.IsElsewhere = target.Object->thread() != QThread::currentThread();
   return target;
 }
 
@@ -78,6 +82,7 @@ void WriteReferredText(TValueHolder& holder, const TValueMember& member, const Q
   // An object of another tree has no text that it could be found by.
   if (ReferredText(holder, member) == text || !watch.IsAlive()) return;
   QObject* object = ObjectOfText(holder, member, text);
+  holder.References().Forget(member);
   ChangeMember(holder.AsObject(), member, [&](const QVariant&) { return QVariant(member.Type, &object); });
 }
 

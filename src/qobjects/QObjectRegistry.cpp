@@ -214,14 +214,16 @@ void TQObjectRegistry::Settle() {
   FIsSettling = false;
   FDying.clear();
   const QSet<const QObject*> unsettled = std::exchange(FUnsettled, {});
-  for (const QObject* object : unsettled) {
-    // Only of those that have one is it known that they live.
-    TQObjectComponent* component = FindComponent(object);
-    QObject* complete = component ? component->FindObject() : nullptr;
-    if (!complete) continue;
-    FollowParent(*complete);
-    if (FindComponent(object) == component) FollowChildren(*complete);
-  }
+  for (const QObject* object : unsettled) GuardedCall([&] { SettleObject(object); });
+}
+
+void TQObjectRegistry::SettleObject(const QObject* object) {
+  // Only of those that have one is it known that they live.
+  TQObjectComponent* component = FindComponent(object);
+  QObject* complete = component ? component->FindObject() : nullptr;
+  if (!complete) return;
+  FollowParent(*complete);
+  if (FindComponent(object) == component) FollowChildren(*complete);
 }
 
 }  // namespace kt

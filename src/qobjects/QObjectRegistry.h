@@ -27,6 +27,7 @@ class TQObjectRegistry final : public QObject {
   void Forget(TQObjectComponent& component);
   /// Does at once what waits for the event queue.
   void Settle();
+  void SettleObject(const QObject* object);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -15,9 +15,9 @@ namespace kt {
 void TReferenceWatch::Follow(const TValueMember& member, QObject& object) {
   TComponent* component = ComponentOf(&object);
   TTarget& target = FTargets[&member];
-  if (target.Component == component) return;
-  TComponent* before = std::exchange(target, {component, &object, false}).Component;
-  if (before && !IsFollowed(*before)) before->RemoveFreeNotification(this);
+  if (target.Address == &object && target.Component == component && target.Object) return;
+  TComponent* before = std::exchange(target, {component, &object, &object, false}).Component;
+  if (before && before != component && !IsFollowed(*before)) before->RemoveFreeNotification(this);
   if (component) component->FreeNotification(this);
 }
 
@@ -28,7 +28,8 @@ bool TReferenceWatch::IsFollowed(const TComponent& component) const {
 
 bool TReferenceWatch::IsGone(const TValueMember& member, const QObject* object) const {
   const auto found = FTargets.find(&member);
-  return found != FTargets.end() && found->second.IsGone && found->second.Address == object;
+  if (found == FTargets.end() || found->second.Address != object) return false;
+  return found->second.IsGone || !found->second.Object;
 }
 
 void TReferenceWatch::Refreshed(const QString& member) {

@@ -2,9 +2,10 @@
 
 #include "kt/rtl/objects/Component.h"
 
-#include <unordered_map>
+#include <QObject>
+#include <QPointer>
 
-class QObject;
+#include <unordered_map>
 
 namespace kt {
 
@@ -18,10 +19,12 @@ class TReferenceWatch : public TComponent {
  public:
   using Inherited = TComponent;
 
-  /// `object`, which lives in this thread, is what the member points to.
+  /// `object` is what the member points to. One of another thread is only known to be gone once somebody asks.
   void Follow(const TValueMember& member, QObject& object);
   /// Whether the object that lived there when the member was read is gone.
   bool IsGone(const TValueMember& member, const QObject* object) const;
+  /// The member points to nothing, or has been written: what was there is no matter any more.
+  void Forget(const TValueMember& member) { FTargets.erase(&member); }
   /// The owner of the pointer has told of a change.
   void Refreshed(const QString& member);
 
@@ -35,6 +38,8 @@ class TReferenceWatch : public TComponent {
     /// Null once it is gone.
     TComponent* Component = nullptr;
     const QObject* Address = nullptr;
+    /// Knows also what dies in another thread.
+    QPointer<QObject> Object;
     bool IsGone = false;
   };
 

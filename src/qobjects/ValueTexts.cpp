@@ -97,6 +97,16 @@ QVariant DateTimeFromText(const QString& text, const QVariant&) {
 
 // Others.
 
+/// With the script where it is not the one that the language has there.
+QString LocaleToText(const QVariant& value) {
+  const QLocale locale = value.toLocale();
+  const QString name = locale.name();
+  if (QLocale(name).script() == locale.script()) return name;
+  QString text = QLocale::languageToCode(locale.language()) + u'_' + QLocale::scriptToCode(locale.script());
+  if (locale.territory() != QLocale::AnyTerritory) text += u'_' + QLocale::territoryToCode(locale.territory());
+  return text;
+}
+
 QVariant LocaleFromText(const QString& text, const QVariant& current) {
   QLocale locale(text);
   // An unknown name gives the locale without a language.
@@ -105,9 +115,13 @@ QVariant LocaleFromText(const QString& text, const QVariant& current) {
   return locale;
 }
 
+constexpr qsizetype kMostChords = 4;
+
 QVariant KeysFromText(const QString& text, const QVariant&) {
   const QKeySequence keys(text, QKeySequence::PortableText);
   if (text.trimmed().isEmpty()) return QKeySequence();
+  // More than these Qt leaves out.
+  if (text.split(QStringLiteral(", ")).size() > kMostChords) return {};
   for (int i = 0; i < keys.count(); ++i) {
     if (keys[static_cast<uint>(i)].key() == Qt::Key_unknown) return {};
   }
@@ -142,7 +156,7 @@ const std::map<int, TTextForm>& Forms() {
       {QMetaType::QDate, {DateToText, DateFromText}},
       {QMetaType::QTime, {TimeToText, TimeFromText}},
       {QMetaType::QDateTime, {DateTimeToText, DateTimeFromText}},
-      {QMetaType::QLocale, {[](const QVariant& value) { return value.toLocale().name(); }, LocaleFromText}},
+      {QMetaType::QLocale, {LocaleToText, LocaleFromText}},
       {QMetaType::QKeySequence,
        {[](const QVariant& value) { return value.value<QKeySequence>().toString(QKeySequence::PortableText); },
         KeysFromText}},

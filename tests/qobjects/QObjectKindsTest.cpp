@@ -185,6 +185,23 @@ TEST_F(QObjectKindsTest, DatesAndTimes) {
   EXPECT_FALSE(FObject.Date.isValid());
 }
 
+TEST_F(QObjectKindsTest, ALocaleKeepsAScriptThatItsCountryDoesNotSay) {
+  FObject.Locale = QLocale(QLocale::Serbian, QLocale::LatinScript, QLocale::Serbia);
+  InspectQ({&FObject});
+  EXPECT_EQ("sr_Latn_RS", Value("locale"));
+  Put("locale", "sr_RS");
+  EXPECT_EQ(QLocale::CyrillicScript, FObject.Locale.script());
+  Put("locale", "sr_Latn_RS");
+  EXPECT_EQ(QLocale::LatinScript, FObject.Locale.script());
+}
+
+TEST_F(QObjectKindsTest, MoreKeysThanASequenceHoldsAreRefused) {
+  FObject.Keys = QKeySequence(Qt::CTRL | Qt::Key_S);
+  InspectQ({&FObject});
+  EXPECT_ANY_THROW(Put("keys", "Ctrl+A, Ctrl+B, Ctrl+C, Ctrl+D, Ctrl+E"));
+  EXPECT_EQ(QKeySequence(Qt::CTRL | Qt::Key_S), FObject.Keys);
+}
+
 TEST_F(QObjectKindsTest, LocalesKeySequencesAndAddresses) {
   FObject.Locale = QLocale(QStringLiteral("de_DE"));
   FObject.Keys = QKeySequence(Qt::CTRL | Qt::Key_S);

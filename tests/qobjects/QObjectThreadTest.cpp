@@ -109,5 +109,18 @@ TEST_F(QObjectThreadTest, AReferenceToAnotherThreadSaysSo) {
   InThread([&] { partner.moveToThread(thread()); });
 }
 
+TEST_F(QObjectThreadTest, AReferenceToWhatDiesInAnotherThreadSaysSo) {
+  TQtKinds owner;
+  auto* partner = new QObject;
+  owner.Partner = partner;
+  InspectQ({&owner});
+  partner->moveToThread(&FThread);
+  Deliver();
+  ASSERT_EQ("(in another thread)", Value("partner"));
+  InThread([&] { delete partner; });
+  FInspector->RefreshProperties();
+  EXPECT_EQ("(destroyed)", Value("partner"));
+}
+
 }  // namespace
 }  // namespace kt::tests

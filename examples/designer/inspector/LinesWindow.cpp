@@ -3,6 +3,7 @@
 #include "designer/inspector/DesignInspector.h"
 #include "designer/inspector/ValuePresets.h"
 #include "kt/KTPropertyPresets.h"
+#include "kt/rtl/collections/UpdateBracket.h"
 #include "kt/rtl/strings/Strings.h"
 #include "kt/rtl/typeinfo/PropLists.h"
 #include "kt/rtl/typeinfo/PropValues.h"
@@ -37,7 +38,16 @@ QStringList TLinesWindow::Lines() const {
   return text.isEmpty() ? QStringList() : text.split(u'\n');
 }
 
+bool TLinesWindow::IsChanged() const { return FEdit->document()->isModified(); }
+
 namespace {
+
+/// Line by line: in a text an empty last line would be none.
+void PutLines(TStrings& strings, const QStringList& lines) {
+  const TUpdateBracket bracket(strings);
+  strings.Clear();
+  for (const QString& line : lines) strings.Add(line);
+}
 
 QStringList LinesOf(TStrings& strings) {
   QStringList lines;
@@ -55,7 +65,7 @@ void SetLines(TDesignInspector& inspector, TKTItemProperty& item, const QStringL
   const TKTInspectorObjects& objects = inspector.GetObjects();
   for (int i = 0; i < objects.GetCount(); ++i) {
     TStrings* strings = StringsOf(objects.GetItem(i)->GetObjects(), item);
-    if (strings) strings->SetText(lines.join(u'\n'));
+    if (strings) PutLines(*strings, lines);
   }
   if (inspector.OnWritten) inspector.OnWritten(item.GetName());
   inspector.InvalidateScan();
@@ -67,7 +77,7 @@ void EditLines(TDesignInspector& inspector, TKTItemProperty& item) {
   if (!first) return;
   const QString path = item.GetFullPathName();
   TLinesWindow window(path, LinesOf(*first), inspector.GetHandle()->window());
-  if (window.exec() != QDialog::Accepted) return;
+  if (window.exec() != QDialog::Accepted || !window.IsChanged()) return;
   // A scan may have made the items anew meanwhile.
   TKTItemProperty* present = inspector.GetItems().FindItemByFullPathName(path);
   if (present) SetLines(inspector, *present, window.Lines());

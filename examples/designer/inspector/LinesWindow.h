@@ -12,6 +12,8 @@ class TLinesWindow : public QDialog {
   TLinesWindow(const QString& title, const QStringList& lines, QWidget* parent);
 
   QStringList Lines() const;
+  /// Whether anything was typed.
+  bool IsChanged() const;
 
  private:
   QPlainTextEdit* FEdit;

@@ -1,6 +1,8 @@
 #include "designer/surface/DesignClicks.h"
 
 #include "kt/rtl/typeinfo/ClassInfo.h"
+#include "kt/vcl/comctrls/PageControl.h"
+#include "kt/vcl/comctrls/TabSheet.h"
 
 #include <QTabBar>
 
@@ -27,6 +29,15 @@ bool ClickTab(TWinControl& control, QPoint point) {
   return true;
 }
 
+/// The tabs of a page control are no widgets for the mouse while it is designed.
+bool ClickPage(TWinControl& control, QPoint point) {
+  auto& pages = dynamic_cast<TPageControl&>(control);
+  TTabSheet* page = pages.FindPageOfTabAt(point.x(), point.y());
+  if (!page || page == pages.GetActivePage()) return false;
+  pages.SetActivePage(page);
+  return true;
+}
+
 }  // namespace
 
 void RegisterDesignClick(const TClassInfo* classInfo, TDesignClick click) { Clicks()[classInfo] = std::move(click); }
@@ -39,6 +50,9 @@ bool DesignClick(TWinControl& control, QPoint point) {
   return false;
 }
 
-void RegisterOwnDesignClicks() { RegisterDesignClick(TWinControl::Class(), &ClickTab); }
+void RegisterOwnDesignClicks() {
+  RegisterDesignClick(TWinControl::Class(), &ClickTab);
+  RegisterDesignClick(TPageControl::Class(), &ClickPage);
+}
 
 }  // namespace designer

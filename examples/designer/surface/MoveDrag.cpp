@@ -40,7 +40,8 @@ std::vector<TComponent*> ToMove(const TSession& session) {
 
 class TMoveDrag final : public TDrag {
  public:
-  TMoveDrag(TSession& session, TComponent& pressed, QPoint from) : FSession(session), FFrom(from) {
+  TMoveDrag(TSession& session, TComponent& pressed, QPoint from)
+      : FSession(session), FComponent(&pressed), FFrom(from) {
     for (TComponent* component : ToMove(session)) FMoved.push_back({TObjectRef(component), PlaceOf(*component)});
     FPressed = PlaceOf(pressed);
   }
@@ -52,7 +53,11 @@ class TMoveDrag final : public TDrag {
     MoveBy(isFree ? by : Snapped(FPressed + by) - FPressed);
   }
   void Drop() override {
-    if (!FHasBegun) return;
+    // A mere click takes one out of several.
+    if (!FHasBegun) {
+      if (FComponent) FSession.Select(static_cast<TComponent*>(FComponent.Get()));
+      return;
+    }
     std::vector<TComponent*> moved;
     for (const TMoved& each : FMoved) {
       if (each.Component) moved.push_back(static_cast<TComponent*>(each.Component.Get()));
@@ -77,6 +82,7 @@ class TMoveDrag final : public TDrag {
   }
 
   TSession& FSession;
+  TObjectRef FComponent;
   QPoint FFrom;
   QPoint FPressed;
   std::vector<TMoved> FMoved;

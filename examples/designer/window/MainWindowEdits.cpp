@@ -85,7 +85,9 @@ void TMainWindow::Cut() {
 TComponent* TMainWindow::PasteTarget() const {
   TComponent* main = FSession.Main();
   const auto* item = dynamic_cast<TMenuItem*>(main);
-  const bool isBeside = item && (item->GetCount() == 0 || FCopied.contains(item->GetName()));
+  // What was copied itself is no place for its copy.
+  const bool isCopied = main != &FSession.Form() && FCopied.contains(main->GetName());
+  const bool isBeside = isCopied || (item && item->GetCount() == 0);
   return isBeside ? FSession.Document().ParentOf(main) : main;
 }
 

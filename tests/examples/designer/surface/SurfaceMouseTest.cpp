@@ -179,5 +179,11 @@ TEST_F(SurfaceMouseTest, NothingOfTheLiveFormCanGetTheKeyboard) {
   }
 }
 
+TEST_F(SurfaceMouseTest, AClickOnOneOfSeveralSelectsItAlone) {
+  Session().Select({&Component("Button1"), &Component("Button2")});
+  Click(RectOf("Button2").center());
+  EXPECT_EQ(Selected(), "Button2");
+}
+
 }  // namespace
 }  // namespace designer::tests

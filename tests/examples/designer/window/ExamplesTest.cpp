@@ -9,6 +9,8 @@
 #include "kt/rtl/strings/Strings.h"
 #include "kt/rtl/typeinfo/ClassInfo.h"
 #include "kt/rtl/typeinfo/PropValues.h"
+#include "kt/vcl/comctrls/PageControl.h"
+#include "kt/vcl/comctrls/TabSheet.h"
 #include "kt/vcl/forms/Form.h"
 #include "kt/vcl/graphics/Picture.h"
 #include "kt/vcl/imagelist/ImageList.h"
@@ -199,6 +201,19 @@ class TCensus {
     }
   }
 };
+
+TEST_F(ExamplesTest, AClickOnATabShowsItsPage) {
+  EXPECT_TRUE(FWindow->OpenExample(Example("preferences.dfm")));
+  auto& pages = dynamic_cast<kt::TPageControl&>(Component("Pages"));
+  const kt::TTabSheet* before = pages.GetActivePage();
+  int x = 0;
+  while (x < pages.GetWidth() && (!pages.FindPageOfTabAt(x, 8) || pages.FindPageOfTabAt(x, 8) == before)) ++x;
+  ASSERT_LT(x, pages.GetWidth());
+  Click(RectOf("Pages").topLeft() + QPoint(x + 4, 8));
+  EXPECT_EQ(pages.GetActivePage()->GetName(), "LightSheet");
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(dynamic_cast<kt::TPageControl&>(Component("Pages")).GetActivePage()->GetName(), "GeneralSheet");
+}
 
 TEST_F(ExamplesTest, TheExamplesBetweenThemUseEveryComponent) {
   const TCensus census;

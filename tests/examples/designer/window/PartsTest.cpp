@@ -227,5 +227,25 @@ TEST_F(PartsTest, APageIsNeitherMovedNorSized) {
   EXPECT_FALSE(Document().IsModified());
 }
 
+TEST_F(PartsTest, AContainerIsPastedBesideItselfAndNotIntoItself) {
+  EXPECT_TRUE(FWindow->Open(FileWith("panel.dfm",
+                                     "object PanelForm: TPanelForm\n"
+                                     "  ClientHeight = 200\n"
+                                     "  ClientWidth = 300\n"
+                                     "  object Panel1: TPanel\n"
+                                     "    Left = 8\n"
+                                     "    Top = 8\n"
+                                     "    Width = 100\n"
+                                     "    Height = 80\n"
+                                     "    TabOrder = 0\n"
+                                     "  end\n"
+                                     "end\n")));
+  Select("Panel1");
+  Surface().setFocus();
+  Key(Qt::Key_C, Qt::ControlModifier);
+  Key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(dynamic_cast<kt::TControl&>(Component("Panel2")).GetParent(), &Session().Form());
+}
+
 }  // namespace
 }  // namespace designer::tests
