@@ -100,7 +100,7 @@ QVariant DateTimeFromText(const QString& text, const QVariant&) {
 /// With the script where it is not the one that the language has there.
 QString LocaleToText(const QVariant& value) {
   const QLocale locale = value.toLocale();
-  const QString name = locale.name();
+  QString name = locale.name();
   if (QLocale(name).script() == locale.script()) return name;
   QString text = QLocale::languageToCode(locale.language()) + u'_' + QLocale::scriptToCode(locale.script());
   if (locale.territory() != QLocale::AnyTerritory) text += u'_' + QLocale::territoryToCode(locale.territory());
