@@ -48,7 +48,7 @@ TEST(FormErrorsTest, OfADeepPathTheEndsAreShown) {
   for (int i = 0; i < 1000; ++i) path.EnterObject(QStringLiteral("O%1").arg(i), {});
   const QString shown = path.ToString();
   EXPECT_TRUE(shown.startsWith(QStringLiteral("O0.O1.")));
-  EXPECT_TRUE(shown.contains(QStringLiteral("O15....O984.")) || shown.contains(QStringLiteral("O15...")));
+  EXPECT_TRUE(shown.contains(QStringLiteral(".O15....O984.")));
   EXPECT_TRUE(shown.endsWith(QStringLiteral(".O998.O999")));
   EXPECT_LT(shown.size(), 200);
 }

@@ -108,18 +108,14 @@ class CustomGridBarLifeTest : public CustomGridLifeTest, public testing::WithPar
 TEST_P(CustomGridBarLifeTest, OnResizeMayFreeTheGrid) {
   FGrid->OnResize = Freeing();
   GetParam().Change(*FGrid);
-  if (FGrid) FGrid->OnResize = nullptr;
+  EXPECT_EQ(FGrid, nullptr);
 }
 
 INSTANTIATE_TEST_SUITE_P(Changes, CustomGridBarLifeTest,
                          testing::Values(TBarChange{"RowCount", [](TDrawGrid& grid) { grid.SetRowCount(1); }},
                                          TBarChange{"ColCount", [](TDrawGrid& grid) { grid.SetColCount(50); }},
-                                         TBarChange{"FixedCols", [](TDrawGrid& grid) { grid.SetFixedCols(4); }},
                                          TBarChange{"FixedRows", [](TDrawGrid& grid) { grid.SetFixedRows(99); }},
-                                         TBarChange{"Lines", [](TDrawGrid& grid) { grid.SetGridLineWidth(20); }},
-                                         TBarChange{"Border", [](TDrawGrid& grid) { grid.SetBorderStyle(bsNone); }},
-                                         TBarChange{"Direction",
-                                                    [](TDrawGrid& grid) { grid.SetBiDiMode(bdRightToLeft); }}),
+                                         TBarChange{"Lines", [](TDrawGrid& grid) { grid.SetGridLineWidth(20); }}),
                          [](const auto& test) { return std::string(test.param.Name); });
 
 }  // namespace
