@@ -1,6 +1,6 @@
 // A form designer: opens form files, shows them alive, and edits them with the object inspector. Without a display it
 // draws its window into a picture and prints the form.
-#include "common/Looks.h"
+#include "common/Startup.h"
 #include "designer/session/Session.h"
 #include "designer/window/MainWindow.h"
 #include "designer/window/ShippedForms.h"
@@ -20,36 +20,8 @@ void DescribeOptions(QCommandLineParser& parser) {
   parser.addPositionalArgument(QStringLiteral("FILE"),
                                QStringLiteral("a form, as text or binary; one that comes with the program if left out"),
                                QStringLiteral("[FILE]"));
-  parser.addOption(
-      {QStringLiteral("draw"), QStringLiteral("Draw the window into this picture."), QStringLiteral("PICTURE")});
-  parser.addOption({QStringLiteral("dark"), QStringLiteral("Light texts on dark ground.")});
-  parser.addOption({QStringLiteral("rtl"), QStringLiteral("From right to left.")});
-  parser.addOption({QStringLiteral("points"), QStringLiteral("The size of the fonts."), QStringLiteral("SIZE")});
-  parser.addOption({QStringLiteral("scale"), QStringLiteral("Pixels of the screen for one of the window."),
-                    QStringLiteral("FACTOR")});
-}
-
-/// Qt asks for these before there is an application object that could read its arguments.
-void SetSurroundings(int argc, char** argv) {
-  bool draws = false;
-  for (int i = 1; i < argc; ++i) {
-    const QByteArray argument(argv[i]);
-    if (argument == "--scale" && i + 1 < argc) qputenv("QT_SCALE_FACTOR", argv[i + 1]);
-    if (argument.startsWith("--scale=")) qputenv("QT_SCALE_FACTOR", argument.mid(8));
-    draws = draws || argument == "--draw" || argument.startsWith("--draw=");
-  }
-  const bool hasDisplay = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-  const bool isChosen = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
-  if (draws || (!hasDisplay && !isChosen)) qputenv("QT_QPA_PLATFORM", "offscreen");
-}
-
-void SetLooks(const QCommandLineParser& parser) {
-  if (parser.isSet(QStringLiteral("dark"))) UseDarkPalette();
-  if (parser.isSet(QStringLiteral("rtl"))) QApplication::setLayoutDirection(Qt::RightToLeft);
-  if (!parser.isSet(QStringLiteral("points"))) return;
-  QFont font = QApplication::font();
-  font.setPointSize(parser.value(QStringLiteral("points")).toInt());
-  QApplication::setFont(font);
+  examples::AddDrawOptions(parser);
+  examples::AddLookOptions(parser);
 }
 
 int Draw(designer::TMainWindow& window, const QString& picture, bool isAsked) {
@@ -73,7 +45,7 @@ void TellOnStandardError(designer::TMainWindow& window) {
 }
 
 int Run(const QCommandLineParser& parser) {
-  const bool isDrawn = parser.isSet(QStringLiteral("draw")) || QGuiApplication::platformName() == u"offscreen";
+  const bool isDrawn = parser.isSet(QStringLiteral("draw")) || examples::IsOutOfSight();
   designer::TMainWindow window;
   if (isDrawn) TellOnStandardError(window);
   const QString given = parser.positionalArguments().value(0);
@@ -89,11 +61,11 @@ int Run(const QCommandLineParser& parser) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  SetSurroundings(argc, argv);
+  examples::ChoosePlatform(argc, argv);
   QApplication application(argc, argv);
   QCommandLineParser parser;
   DescribeOptions(parser);
   parser.process(application);
-  SetLooks(parser);
+  examples::ApplyLooks(parser);
   return Run(parser);
 }
